@@ -1,0 +1,48 @@
+# What every target of the project shares, and the three kinds of target that it is made of.
+
+add_library(fotarium_flags INTERFACE)
+target_compile_options(fotarium_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+  # A fused multiply-add would change the last bit of the colour formulas.
+  -ffp-contract=off)
+if(FOTARIUM_SANITIZE)
+  target_compile_options(fotarium_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+  target_link_options(fotarium_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# fotarium_room(NAME [LINK libraries...]): the static library of the room src/NAME/.
+function(fotarium_room NAME)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.h)
+  add_library(room_${NAME} STATIC ${SOURCES})
+  set_target_properties(room_${NAME} PROPERTIES LINKER_LANGUAGE CXX)
+  target_include_directories(room_${NAME} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(room_${NAME} PRIVATE fotarium_flags PUBLIC ${ARG_LINK})
+endfunction()
+
+# fotarium_test(NAME [LINK libraries...]): one GoogleTest program of the files in tests/NAME/.
+function(fotarium_test NAME)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.h)
+  if(NOT SOURCES)
+    return()
+  endif()
+  add_executable(test_${NAME} ${SOURCES})
+  target_include_directories(test_${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(test_${NAME} PRIVATE fotarium_flags ${ARG_LINK} GTest::gtest_main)
+  target_compile_definitions(test_${NAME} PRIVATE FOTARIUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  gtest_discover_tests(test_${NAME} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" DISCOVERY_TIMEOUT 60)
+endfunction()
+
+# fotarium_bench(NAME [LINK libraries...]): one Google Benchmark program of the files in bench/NAME/.
+function(fotarium_bench NAME)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.h)
+  if(NOT SOURCES)
+    return()
+  endif()
+  add_executable(bench_${NAME} ${SOURCES})
+  target_include_directories(bench_${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/bench)
+  target_link_libraries(bench_${NAME} PRIVATE fotarium_flags ${ARG_LINK} benchmark::benchmark_main)
+endfunction()

@@ -46,4 +46,4 @@ echo "setup: installing ${missing[*]}"
 if ! apt_get install --download-only --no-install-recommends "${missing[@]}" >/dev/null 2>&1; then
     apt_get update
 fi
-apt_get install --no-install-recommends "${missing[@]}" </dev/null
+apt_get install --no-install-recommends "${missing[@]}" </dev/null >/dev/null

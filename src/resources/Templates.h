@@ -1,0 +1,12 @@
+#pragma once
+
+#include <span>
+
+#include "window/Template.h"
+
+// The start-up picture.
+extern const CDialogTemplate kSplashDialog;
+// The panel with check box and picture beside the list of the open dialog.
+extern const CDialogTemplate kPreviewPanel;
+// The menu of a right click on the picture.
+extern const std::span<const CMenuItemTemplate> kPictureMenu;

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "image/Color.h"
+#include "image/Geometry.h"
+#include "surface/Surface.h"
+#include "window/Bitmaps.h"
+
+// What a dialog has drawn of itself: the pixels below and beside its controls. Every coordinate is a client
+// pixel; at density 2 each stands for two by two pixels of the surface, and the pictures come from the denser
+// set.
+class CClientArea {
+  public:
+    explicit CClientArea(CSize sizeClient);
+
+    // Gives the area its pictures and its density, 1 or 2. What was drawn before is lost.
+    void SetUp(CBitmaps* pBitmaps, int nDensity);
+
+    CSize Size() const { return m_size; }
+    int Density() const { return m_nDensity; }
+    const CSurface& Surface() const { return m_surface; }
+
+    // A picture that does not exist draws nothing.
+    void DrawBitmap(const std::string& strName, int x, int y);
+    void DrawBitmap(int nResource, int x, int y);
+    void FillRect(const CRect& rc, CColor color);
+    // Copies the surface with its top left corner at (x, y); at density 2 every pixel becomes two by two.
+    void DrawSurface(const CSurface& surface, int x, int y);
+
+    // The box that has been drawn on since the last call.
+    CRect TakeDamage();
+
+  private:
+    CSize m_size;
+    int m_nDensity = 1;
+    CSurface m_surface;
+    CBitmaps* m_pBitmaps = nullptr;
+    CRect m_rcDamage;
+};

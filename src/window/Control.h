@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "image/Geometry.h"
+
+// What the user can operate or read in a dialog, as plain data. The window layer turns each of these into a
+// widget; the logic reads and writes the data and never sees the widget.
+
+enum class EControlKind {
+    Button,        // plain push button with a caption
+    BitmapButton,  // push button made of the pictures <CAPTION>U, D, F, X
+    BitmapLabel,   // picture that can be clicked; the caption is the picture's name
+    Radio,
+    Check,
+    Static,       // line of text
+    Group,        // frame that the panel's picture draws; exists in name
+    Place,        // spot that the dialog itself draws on
+    Edit,         // one line of text to type
+    Combo,        // drop-down list of texts
+    PictureList,  // list box whose rows are pictures
+    IconList,     // list of pictures with names below
+    Tree,
+    Slider,
+    Progress,
+    View,  // scrolling view, see CScrollView
+};
+
+// Row of a list; which fields count depends on the kind.
+struct CListItem {
+    std::string strText;
+    int nImage = -1;
+    bool operator==(const CListItem&) const = default;
+};
+
+// One control. Place in client pixels of its dialog.
+struct CControl {
+    int nId = 0;
+    EControlKind kind = EControlKind::Static;
+    CRect rcPlace;
+    std::string strCaption;  // as the template has it; never changes
+    std::string strText;     // what the control shows or holds now
+    bool bShown = true;
+    bool bEnabled = true;
+    bool bChecked = false;
+    int nMaxText = 0;  // most characters that can be typed; 0 for no limit
+    int nMin = 0;      // range of sliders and progress bars
+    int nMax = 100;
+    int nPos = 0;
+    int nSel = -1;  // selected row; -1 for none
+    std::vector<CListItem> arrItems;
+};
+
+// What of a control has changed.
+enum class EControlChange { Shown, Enabled, Checked, Text, Place, Range, Position, Selection, Items, Focus };

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "image/Geometry.h"
+
+// What the user's hands send. Points are client pixels of the window that gets the event.
+
+enum class EMouseAction { Move, Press, Release, DoubleClick };
+enum class EMouseButton { None, Left, Right };
+
+// The platform's flags word of a mouse message.
+inline constexpr unsigned kMouseLeftDown = 1;
+inline constexpr unsigned kMouseRightDown = 2;
+inline constexpr unsigned kMouseShift = 4;
+inline constexpr unsigned kMouseCtrl = 8;
+
+struct CMouseEvent {
+    EMouseAction action = EMouseAction::Move;
+    EMouseButton button = EMouseButton::None;  // the one that acts; None for a move
+    CPoint pt;
+    unsigned nFlags = 0;  // kMouse..., as they are while the event happens
+};
+
+// Key codes as the platform numbers them; letters and digits are their upper-case characters.
+inline constexpr int kKeyEnter = 13;
+inline constexpr int kKeyEscape = 27;
+inline constexpr int kKeyDelete = 46;
+
+struct CKeyEvent {
+    int nKey = 0;
+    bool bCtrl = false;
+    bool bShift = false;
+};
+
+// What a control tells its dialog beside a plain click.
+enum class ENotice { SelectionChanged, TextChanged, Scrolled, Clicked, DoubleClicked };

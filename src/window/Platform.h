@@ -1,0 +1,29 @@
+#pragma once
+
+class CClipboard;
+class CColorDialogs;
+class CFileDialogs;
+class CFolders;
+class CFontDialogs;
+class CMessageBoxes;
+class CModalDialogs;
+class CPopupMenus;
+class CTextRasterizer;
+class CTimers;
+class CWaitCursor;
+
+// What a program start has at hand of the platform, one reference a topic. Only the program's owner object
+// holds it; every class below is given the few topics that it needs.
+struct CPlatform {
+    CMessageBoxes& boxes;
+    CModalDialogs& modals;
+    CFileDialogs& files;
+    CColorDialogs& colors;
+    CFontDialogs& fonts;
+    CPopupMenus& menus;
+    CTimers& timers;
+    CWaitCursor& wait;
+    CClipboard& clipboard;
+    CFolders& folders;
+    CTextRasterizer& text;
+};

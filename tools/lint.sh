@@ -21,12 +21,14 @@ if [[ $# -gt 0 ]]; then
 else
     mapfile -t files < <(git ls-files 'src/*.h' 'src/*.cpp' 'tests/*.h' 'tests/*.cpp' 'bench/*.h' 'bench/*.cpp')
 fi
-clang-format --dry-run -Werror "${files[@]}"
+status=0
+clang-format --dry-run -Werror "${files[@]}" || status=1
 
 units=()
 for file in "${files[@]}"; do
     [[ $file == *.cpp ]] && units+=("/${file#"$PWD"/}\$")
 done
 if [[ ${#units[@]} -gt 0 ]]; then
-    run-clang-tidy -quiet -j "$(nproc)" -p build/release "${units[@]}"
+    run-clang-tidy -quiet -j "$(nproc)" -p build/release "${units[@]}" || status=1
 fi
+exit "$status"

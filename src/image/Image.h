@@ -129,6 +129,9 @@ class CxImage {
     static CColor HSLtoRGB(CColor hsl) { return ColorHSLtoRGB(hsl); }
 
   private:
+    using TurnCall = void (*)(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight,
+                              int nChannels);
+    bool TurnInto(TurnCall turn, CSize sizeNew);
     bool IsInside(int x, int y) const { return x >= 0 && y >= 0 && x < GetWidth() && y < GetHeight(); }
 
     CPixels m_pixels;

@@ -14,6 +14,10 @@ class CSharedBytes {
     static constexpr std::size_t kSlack = 64;
     static constexpr std::size_t kMaxSize = std::size_t{1} << 31;
 
+    // True if a block of that size may be asked for: not above kMaxSize and no more than the machine has
+    // left.
+    static bool Fits(std::uint64_t nSize);
+
     // Makes this the only owner of nSize bytes with undefined content. False, and the old block stays, if
     // nSize is 0 or above kMaxSize or if the machine has not got the memory.
     bool Allocate(std::size_t nSize);

@@ -1,0 +1,169 @@
+#include "image/MagickCodec.h"
+
+#include <Magick++.h>
+
+#include <array>
+#include <cstring>
+#include <exception>
+
+#include "image/AtomicFile.h"
+
+namespace {
+
+struct CFormat {
+    ImageType type;
+    const char* szReader;  // the coder's name; null: cannot be read
+    const char* szWriter;  // null: cannot be written
+    const char* szWriterWithAlpha;
+};
+
+constexpr std::array<CFormat, 13> kFormats = {{
+    {ImageType::kBmp, "BMP", "BMP3", "BMP3"},
+    {ImageType::kGif, "GIF", "GIF", "GIF"},
+    {ImageType::kPng, "PNG", "PNG24", "PNG32"},
+    {ImageType::kIco, "ICO", "ICO", "ICO"},
+    {ImageType::kTiff, "TIFF", "TIFF", "TIFF"},
+    {ImageType::kTga, "TGA", "TGA", "TGA"},
+    {ImageType::kPcx, "PCX", "PCX", "PCX"},
+    {ImageType::kWbmp, "WBMP", "WBMP", "WBMP"},
+    {ImageType::kJp2, "JP2", "JP2", "JP2"},
+    {ImageType::kJpc, "J2C", "J2C", "J2C"},
+    {ImageType::kPgx, "PGX", "PGX", "PGX"},
+    {ImageType::kPnm, "PNM", "PNM", "PNM"},
+    {ImageType::kRas, "RAS", "RAS", "RAS"},
+}};
+
+const CFormat* FindFormat(ImageType type) {
+    for (const CFormat& format : kFormats) {
+        if (format.type == type) return &format;
+    }
+    return nullptr;
+}
+
+// Sets the library up at the first use. What does not fit into these bounds fails; nothing is swapped to
+// disk.
+void PrepareMagick() {
+    static const bool bPrepared = [] {
+        constexpr MagickCore::MagickSizeType kMegabyte = 1U << 20;
+        Magick::InitializeMagick(nullptr);
+        Magick::ResourceLimits::memory(2048 * kMegabyte);
+        Magick::ResourceLimits::map(2048 * kMegabyte);
+        Magick::ResourceLimits::disk(0);
+        Magick::ResourceLimits::width(65500);
+        Magick::ResourceLimits::height(65500);
+        return true;
+    }();
+    static_cast<void>(bPrepared);
+}
+
+int OwnDepth(const Magick::Image& image) {
+    if (image.classType() == Magick::PseudoClass) {
+        const std::size_t nColors = image.colorMapSize();
+        return nColors <= 2 ? 1 : nColors <= 16 ? 4 : 8;
+    }
+    return image.colorSpace() == Magick::GRAYColorspace ? 8 : 24;
+}
+
+std::optional<CMagickPicture> TakePixels(Magick::Image& image) {
+    CMagickPicture picture;
+    picture.nBpp = OwnDepth(image);
+    const std::size_t nWidth = image.columns();
+    const std::size_t nHeight = image.rows();
+    if (nWidth > INT32_MAX || nHeight > INT32_MAX) return std::nullopt;
+    if (!picture.pixels.CreateRaw(static_cast<int>(nWidth), static_cast<int>(nHeight))) return std::nullopt;
+
+    if (image.colorSpace() == Magick::CMYKColorspace) image.colorSpace(Magick::sRGBColorspace);
+    image.write(0, 0, nWidth, nHeight, "RGB", Magick::CharPixel, picture.pixels.MutableBytes().data());
+    if (image.matte()) {
+        if (!picture.alpha.Allocate(nWidth * nHeight)) return std::nullopt;
+        image.write(0, 0, nWidth, nHeight, "A", Magick::CharPixel, picture.alpha.MutableData());
+    }
+    return picture;
+}
+
+// Some coders warn about what they could read after all, some about a file that is cut. A warning that stands
+// at the end of a file is a failure like an error; the others are not.
+std::optional<CMagickPicture> Decode(std::span<const std::uint8_t> file, const char* szReader) {
+    const Magick::Blob blob(file.data(), file.size());
+    Magick::Image image;
+    image.quiet(false);
+    image.magick(szReader);
+    image.subImage(0);
+    image.subRange(1);
+    image.read(blob);
+    return TakePixels(image);
+}
+
+// R, G, B, A in turn, as the library takes them.
+bool Interleave(const CMagickSource& source, CSharedBytes& bytes) {
+    const std::span<const std::uint8_t> rgb = source.pixels.Bytes();
+    const std::size_t nPixels = rgb.size() / 3;
+    if (!bytes.Allocate(4 * nPixels)) return false;
+    const std::uint8_t* const pAlpha = source.alpha.Data();
+    std::uint8_t* const pOut = bytes.MutableData();
+    for (std::size_t i = 0; i < nPixels; ++i) {
+        std::memcpy(pOut + 4 * i, rgb.data() + 3 * i, 3);
+        pOut[4 * i + 3] = pAlpha[i];
+    }
+    return true;
+}
+
+bool HasAlphaChannel(ImageType type) {
+    return type == ImageType::kPng || type == ImageType::kTiff || type == ImageType::kTga ||
+           type == ImageType::kIco || type == ImageType::kGif || type == ImageType::kJp2;
+}
+
+bool Fill(Magick::Image& image, const CMagickSource& source, bool bAlpha) {
+    const auto nWidth = static_cast<std::size_t>(source.pixels.Width());
+    const auto nHeight = static_cast<std::size_t>(source.pixels.Height());
+    if (!bAlpha) {
+        image.read(nWidth, nHeight, "RGB", Magick::CharPixel, source.pixels.Bytes().data());
+        return true;
+    }
+    CSharedBytes bytes;
+    if (!Interleave(source, bytes)) return false;
+    image.read(nWidth, nHeight, "RGBA", Magick::CharPixel, bytes.Data());
+    return true;
+}
+
+bool Encode(const CMagickSource& source, const CFormat& format, Magick::Blob& blob) {
+    const bool bAlpha = !source.alpha.IsEmpty() && HasAlphaChannel(format.type);
+    Magick::Image image;
+    if (!Fill(image, source, bAlpha)) return false;
+    image.depth(8);
+    image.resolutionUnits(Magick::PixelsPerInchResolution);
+    image.density(
+        Magick::Geometry(static_cast<std::size_t>(source.nXDpi), static_cast<std::size_t>(source.nYDpi)));
+    if (format.type == ImageType::kBmp || format.type == ImageType::kTiff) {
+        image.type(bAlpha ? Magick::TrueColorMatteType : Magick::TrueColorType);
+    }
+    image.magick(bAlpha ? format.szWriterWithAlpha : format.szWriter);
+    image.write(&blob);
+    return blob.length() > 0;
+}
+
+}  // namespace
+
+std::optional<CMagickPicture> DecodeWithMagick(std::span<const std::uint8_t> file, ImageType type) {
+    const CFormat* const pFormat = FindFormat(type);
+    if (pFormat == nullptr || pFormat->szReader == nullptr) return std::nullopt;
+    try {
+        PrepareMagick();
+        return Decode(file, pFormat->szReader);
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+bool EncodeWithMagick(const CMagickSource& source, ImageType type, CAtomicFile& file) {
+    const CFormat* const pFormat = FindFormat(type);
+    if (pFormat == nullptr || pFormat->szWriter == nullptr) return false;
+    try {
+        PrepareMagick();
+        Magick::Blob blob;
+        if (!Encode(source, *pFormat, blob)) return false;
+        return file.Write({static_cast<const std::uint8_t*>(blob.data()), blob.length()});
+    } catch (const std::exception&) {
+        return false;
+    }
+}

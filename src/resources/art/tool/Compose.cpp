@@ -1,0 +1,165 @@
+#include "Compose.h"
+
+#include <QDir>
+#include <QPainter>
+
+namespace {
+
+struct CMode {
+    const char* pName;
+    const char* pRow;
+    const char* pPanel;   // "" where the window itself holds the panel
+    const char* pSource;  // the panel's name in the table
+    const char* pTab;
+};
+
+constexpr CMode kModes[] = {{"thum", "486", "", "effect", "THUM"},
+                            {"effect", "487", "", "effect", "EFFECT"},
+                            {"font", "488", "296", "font", "FONT"},
+                            {"stick", "489", "286", "stick", "STICK"},
+                            {"draw", "490", "343", "draw", "DRAW"}};
+
+class CComposer {
+  public:
+    CComposer(const std::vector<CSkinLine>& arrLines, const std::map<QString, QImage>& mapPictures,
+              int nDensity)
+        : m_arrLines(arrLines), m_mapPictures(mapPictures), m_nDensity(nDensity) {}
+
+    QImage Mode(const CMode& mode) const {
+        QImage image = m_mapPictures.at("522").convertToFormat(QImage::Format_RGB32);
+        QPainter painter(&image);
+        Put(painter, mode.pRow, {0, 79});
+        if (*mode.pPanel) Put(painter, mode.pPanel, {0, 111});
+        // The states go round along the row, so that each view shows them all.
+        int nKey = mode.pName[0];
+        for (const CSkinLine& line : m_arrLines) {
+            if (line.strKind == "tab" && line.strName != mode.pTab)
+                Put(painter, line.strName + "U", line.rcPlace.topLeft());
+            if (line.strKind == "label" && line.arrRest[0] == mode.pSource)
+                Put(painter, line.strName, line.rcPlace.topLeft());
+            if (line.strKind != "key" || line.strName == "MINIMIZE") continue;
+            const bool bTop = line.rcPlace.y() == 16 && line.arrRest[0] == "effect";
+            if (!bTop && (line.arrRest[0] != mode.pSource || qstrcmp(mode.pName, "thum") == 0)) continue;
+            const QString& strStates = line.arrRest[1];
+            Put(painter, line.strName + strStates[nKey++ % strStates.size()], line.rcPlace.topLeft());
+        }
+        DrawControls(painter, mode);
+        return image;
+    }
+
+    QImage Dialog(const QString& strBack, const QString& strSource, int nShift) const {
+        QImage image = m_mapPictures.at(strBack).convertToFormat(QImage::Format_RGB32);
+        QPainter painter(&image);
+        for (const CSkinLine& line : m_arrLines) {
+            if (line.strKind == "label" && line.arrRest[0] == strSource)
+                Put(painter, line.strName, line.rcPlace.topLeft());
+            if (line.strKind != "key") continue;
+            if (line.arrRest[0] != strSource && !line.strName.startsWith("SIZEO") &&
+                !line.strName.startsWith("SIZECANCEL"))
+                continue;
+            const QString& strStates = line.arrRest[1];
+            Put(painter, line.strName + strStates[nShift % strStates.size()], line.rcPlace.topLeft());
+        }
+        return image;
+    }
+
+    // The window with every hint at its place; those of the tabs stand two rows apart, since they overlap.
+    QImage Hints() const {
+        QImage image = m_mapPictures.at("522").convertToFormat(QImage::Format_RGB32);
+        QPainter painter(&image);
+        Put(painter, "486", {0, 79});
+        int nRow = 0;
+        for (const CSkinLine& line : m_arrLines) {
+            if (line.strKind != "hint") continue;
+            Put(painter, line.strName,
+                line.rcPlace.topLeft() + QPoint(0, nRow % 3 * 20 + (line.rcPlace.y() > 100 ? 2 : 0)));
+            ++nRow;
+        }
+        return image;
+    }
+
+    // What stands alone, side by side.
+    QImage Loose() const {
+        QImage image(QSize(900, 520) * m_nDensity, QImage::Format_RGB32);
+        image.fill(QColor(110, 121, 127));
+        QPainter painter(&image);
+        Put(painter, "274", {10, 10});
+        Put(painter, "413", {470, 10});
+        Put(painter, "415", {600, 10});
+        Put(painter, "606", {740, 10});
+        Put(painter, "610", {770, 10});
+        Put(painter, "128", {810, 10});
+        int y = 150;
+        for (const char* pName : {"168", "169", "175", "177", "176", "174"}) {
+            Put(painter, pName, {470, y});
+            y += 26;
+        }
+        int x = 560;
+        for (const int nSize : {16, 32, 48, 64, 128}) {
+            const QImage& icon = m_mapPictures.at(QString("icon-%1").arg(nSize));
+            painter.drawImage(QPoint(x, 150) * m_nDensity, icon);
+            x += nSize + 10;
+        }
+        return image;
+    }
+
+  private:
+    void Put(QPainter& painter, const QString& strName, QPoint ptPlace) const {
+        painter.drawImage(ptPlace * m_nDensity, m_mapPictures.at(strName));
+    }
+
+    void Fill(QPainter& painter, const QRect& rc, const QColor& cr) const {
+        painter.fillRect(QRect(rc.topLeft() * m_nDensity, rc.size() * m_nDensity), cr);
+    }
+
+    // Plain boxes for the controls that are no pictures, in their own colours.
+    void DrawControls(QPainter& painter, const CMode& mode) const {
+        const QString strMode = mode.pName;
+        Fill(painter, {342, 96, 404, 17}, QColor(142, 154, 143));
+        Fill(painter, {55, 678, 680, 12}, QColor(117, 131, 134));
+        if (strMode == "thum") {
+            Fill(painter, {37, 130, 250, 544}, QColor(109, 121, 126));
+            Fill(painter, {325, 129, 658, 543}, QColor(109, 121, 126));
+        }
+        if (strMode == "effect") {
+            Fill(painter, {58, 149, 206, 276}, QColor(109, 121, 126));
+            Fill(painter, {239, 488, 24, 132}, QColor(142, 154, 143));
+            painter.drawImage(QPoint(240, 488) * m_nDensity, m_mapPictures.at("606"),
+                              QRect(0, m_nDensity, 22 * m_nDensity, 132 * m_nDensity));
+            Fill(painter, {236, 468, 30, 14}, QColor(75, 94, 103));
+            QImage thumb = m_mapPictures.at("610");
+            const QColor crGround = thumb.pixelColor(0, 0);
+            for (int y = 0; y < thumb.height(); ++y)
+                for (int x = 0; x < 24 * m_nDensity; ++x)
+                    if (thumb.pixelColor(x, y) != crGround)
+                        painter.fillRect(239 * m_nDensity + x, 547 * m_nDensity + y, 1, 1,
+                                         thumb.pixelColor(x, y));
+        }
+        if (strMode == "draw") {
+            Put(painter, "168", {171, 349});
+            Put(painter, "176", {171, 369});
+            Put(painter, "175", {171, 394});
+        }
+    }
+
+    const std::vector<CSkinLine>& m_arrLines;
+    const std::map<QString, QImage>& m_mapPictures;
+    int m_nDensity;
+};
+
+}  // namespace
+
+bool WriteCompositions(const std::vector<CSkinLine>& arrLines, const std::map<QString, QImage>& mapPictures,
+                       const QString& strOut, int nDensity) {
+    if (!QDir().mkpath(strOut)) return false;
+    const CComposer composer(arrLines, mapPictures, nDensity);
+    const auto Save = [&](const QImage& image, const QString& strName) {
+        return image.save(QString("%1/%2-%3x.png").arg(strOut, strName).arg(nDensity), "PNG");
+    };
+    for (const CMode& mode : kModes) {
+        if (!Save(composer.Mode(mode), mode.pName)) return false;
+    }
+    return Save(composer.Dialog("497", "size_own", 0), "size-own") &&
+           Save(composer.Dialog("498", "size_phone", 1), "size-phone") && Save(composer.Hints(), "hints") &&
+           Save(composer.Loose(), "loose");
+}

@@ -2,6 +2,7 @@
 
 #include <Magick++.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <exception>
@@ -27,7 +28,7 @@ constexpr std::array<CFormat, 13> kFormats = {{
     {ImageType::kPcx, "PCX", "PCX", "PCX"},
     {ImageType::kWbmp, "WBMP", "WBMP", "WBMP"},
     {ImageType::kJp2, "JP2", "JP2", "JP2"},
-    {ImageType::kJpc, "J2C", "J2C", "J2C"},
+    {ImageType::kJpc, "JPC", "J2K", "J2K"},
     {ImageType::kPgx, "PGX", "PGX", "PGX"},
     {ImageType::kPnm, "PNM", "PNM", "PNM"},
     {ImageType::kRas, "RAS", "RAS", "RAS"},
@@ -40,17 +41,19 @@ const CFormat* FindFormat(ImageType type) {
     return nullptr;
 }
 
-// Sets the library up at the first use. What does not fit into these bounds fails; nothing is swapped to
-// disk.
+// Sets the library up at the first use. Its own pixels take 8 bytes each; the system's policy may allow less
+// memory than is asked for here. What then does not fit goes through a temporary file by plain reads and
+// writes, which fail cleanly on a full disk; mapping that file would not.
 void PrepareMagick() {
     static const bool bPrepared = [] {
-        constexpr MagickCore::MagickSizeType kMegabyte = 1U << 20;
+        constexpr std::uint64_t kGigabyte = std::uint64_t{1} << 30;
+        constexpr std::uint64_t kLongestSide = 65500;
         Magick::InitializeMagick(nullptr);
-        Magick::ResourceLimits::memory(2048 * kMegabyte);
-        Magick::ResourceLimits::map(2048 * kMegabyte);
-        Magick::ResourceLimits::disk(0);
-        Magick::ResourceLimits::width(65500);
-        Magick::ResourceLimits::height(65500);
+        Magick::ResourceLimits::memory(std::min<std::uint64_t>(2 * kGigabyte, AvailableMemory() / 2));
+        Magick::ResourceLimits::map(0);
+        Magick::ResourceLimits::disk(2 * kGigabyte);
+        Magick::ResourceLimits::width(kLongestSide);
+        Magick::ResourceLimits::height(kLongestSide);
         return true;
     }();
     static_cast<void>(bPrepared);
@@ -72,7 +75,10 @@ std::optional<CMagickPicture> TakePixels(Magick::Image& image) {
     if (nWidth > INT32_MAX || nHeight > INT32_MAX) return std::nullopt;
     if (!picture.pixels.CreateRaw(static_cast<int>(nWidth), static_cast<int>(nHeight))) return std::nullopt;
 
-    if (image.colorSpace() == Magick::CMYKColorspace) image.colorSpace(Magick::sRGBColorspace);
+    // Ink, Lab and linear light become what a screen shows.
+    const Magick::ColorspaceType space = image.colorSpace();
+    if (space != Magick::sRGBColorspace && space != Magick::GRAYColorspace)
+        image.colorSpace(Magick::sRGBColorspace);
     image.write(0, 0, nWidth, nHeight, "RGB", Magick::CharPixel, picture.pixels.MutableBytes().data());
     if (image.matte()) {
         if (!picture.alpha.Allocate(nWidth * nHeight)) return std::nullopt;
@@ -86,7 +92,7 @@ std::optional<CMagickPicture> TakePixels(Magick::Image& image) {
 std::optional<CMagickPicture> Decode(std::span<const std::uint8_t> file, const char* szReader) {
     const Magick::Blob blob(file.data(), file.size());
     Magick::Image image;
-    image.quiet(false);
+    image.quiet(true);
     image.magick(szReader);
     image.subImage(0);
     image.subRange(1);

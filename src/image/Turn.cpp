@@ -5,6 +5,8 @@
 #include <cstring>
 #include <vector>
 
+#include "image/Geometry.h"
+
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
 #define FOTARIUM_VECTOR_CLONES __attribute__((target_clones("avx2", "default")))
 #else
@@ -45,41 +47,128 @@ void MirrorRow(const std::uint8_t* pSrc, std::uint8_t* pDst, std::size_t nWidth,
     }
 }
 
-// The side of the blocks in which a quarter turn goes over the picture: what a block reads and writes stays
-// in the nearest caches, though the one runs across rows.
-constexpr int kBlock = 32;
+// A quarter turn goes over the picture in blocks, so that what a block reads and writes stays in the nearest
+// cache, though the one runs across the rows of the other. kBlock pixels a side, worked off in kBand columns
+// of the result by four of its rows. kBand source rows whose lines fall into the same set of a cache still
+// fit there.
+constexpr int kBlock = 64;
+constexpr int kBand = 8;
+constexpr int kQuad = 4;
 
-// Writes nCount pixels in a row, taken from nStep bytes apart. Moves four bytes for a pixel of three where
-// the next pixel covers the fourth.
-inline void GatherPixels(const std::uint8_t* pSrc, std::ptrdiff_t nStep, std::uint8_t* pDst, int nCount) {
-    for (int i = 0; i + 1 < nCount; ++i, pSrc += nStep, pDst += 3) {
-        std::uint32_t nPixel = 0;
-        std::memcpy(&nPixel, pSrc, 4);
-        std::memcpy(pDst, &nPixel, 4);
+// Pixels between the rows of the result and their source: row y, column x comes from pFirst + y * nDown + x *
+// nRight.
+struct CWalk {
+    const std::uint8_t* pFirst;
+    std::ptrdiff_t nRight;
+    std::ptrdiff_t nDown;
+
+    const std::uint8_t* At(int x, int y) const { return pFirst + y * nDown + x * nRight; }
+};
+
+struct CTarget {
+    std::uint8_t* pBits;
+    int nWidth;
+    int nHeight;
+    std::ptrdiff_t nStride;
+
+    std::uint8_t* At(int x, int y, int nChannels) const {
+        return pBits + y * nStride + static_cast<std::ptrdiff_t>(x) * nChannels;
     }
-    std::memcpy(pDst, pSrc, 3);
+};
+
+void TurnSlowly(const CWalk& walk, const CTarget& target, int nChannels, CRect rc) {
+    for (int y = rc.top; y < rc.bottom; ++y) {
+        const std::uint8_t* pSrc = walk.At(rc.left, y);
+        std::uint8_t* pDst = target.At(rc.left, y, nChannels);
+        for (int x = rc.left; x < rc.right; ++x, pSrc += walk.nRight, pDst += nChannels) {
+            for (int c = 0; c < nChannels; ++c) pDst[c] = pSrc[c];
+        }
+    }
 }
 
-inline void GatherBytes(const std::uint8_t* pSrc, std::ptrdiff_t nStep, std::uint8_t* pDst, int nCount) {
-    for (int i = 0; i < nCount; ++i, pSrc += nStep) pDst[i] = *pSrc;
+using CVector4 = std::uint32_t __attribute__((vector_size(16)));
+
+// Four neighbours of a source row as four numbers, in the order in which the rows of the result take them.
+template <bool kDownwards>
+[[gnu::always_inline]] inline CVector4 LoadFour(const std::uint8_t* pPixels) {
+    constexpr CVector16 kAscending = {0, 1, 2, 12, 3, 4, 5, 12, 6, 7, 8, 12, 9, 10, 11, 12};
+    constexpr CVector16 kDescending = {9, 10, 11, 12, 6, 7, 8, 12, 3, 4, 5, 12, 0, 1, 2, 12};
+    CVector16 bytes;
+    std::memcpy(&bytes, kDownwards ? pPixels : pPixels - 9, 16);
+    return reinterpret_cast<CVector4>(__builtin_shuffle(bytes, kDownwards ? kAscending : kDescending));
 }
 
-// Row y, column x of dst is pFirst + y * nDown + x * nRight.
-void TurnPlane(const std::uint8_t* pFirst, std::ptrdiff_t nRight, std::ptrdiff_t nDown, std::uint8_t* pDst,
-               int nDstWidth, int nDstHeight, int nChannels) {
-    const std::ptrdiff_t nStride = static_cast<std::ptrdiff_t>(nDstWidth) * nChannels;
-    for (int y0 = 0; y0 < nDstHeight; y0 += kBlock) {
-        const int y1 = std::min(y0 + kBlock, nDstHeight);
-        for (int x0 = 0; x0 < nDstWidth; x0 += kBlock) {
-            const int nCount = std::min(kBlock, nDstWidth - x0);
-            for (int y = y0; y < y1; ++y) {
-                const std::uint8_t* const pSrc = pFirst + y * nDown + x0 * nRight;
-                std::uint8_t* const pRow = pDst + y * nStride + static_cast<std::ptrdiff_t>(x0) * nChannels;
-                if (nChannels == 3) {
-                    GatherPixels(pSrc, nRight, pRow, nCount);
-                } else {
-                    GatherBytes(pSrc, nRight, pRow, nCount);
-                }
+// Twelve bytes of pixels, then four that a later store covers.
+[[gnu::always_inline]] inline CVector16 Pack(CVector4 pixels) {
+    constexpr CVector16 kPacked = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 3, 7, 11, 15};
+    return __builtin_shuffle(reinterpret_cast<CVector16>(pixels), kPacked);
+}
+
+// Four rows of kQuad pixels, each from a column of the source.
+template <bool kDownwards>
+[[gnu::always_inline]] inline void TransposeQuad(const std::uint8_t* pSrc, std::ptrdiff_t nRight,
+                                                 CVector16 (&rows)[kQuad]) {
+    constexpr CVector4 kLow = {0, 4, 1, 5};
+    constexpr CVector4 kHigh = {2, 6, 3, 7};
+    const CVector4 a = LoadFour<kDownwards>(pSrc);
+    const CVector4 b = LoadFour<kDownwards>(pSrc + nRight);
+    const CVector4 c = LoadFour<kDownwards>(pSrc + 2 * nRight);
+    const CVector4 d = LoadFour<kDownwards>(pSrc + 3 * nRight);
+    const CVector4 acLow = __builtin_shuffle(a, c, kLow);
+    const CVector4 acHigh = __builtin_shuffle(a, c, kHigh);
+    const CVector4 bdLow = __builtin_shuffle(b, d, kLow);
+    const CVector4 bdHigh = __builtin_shuffle(b, d, kHigh);
+    rows[0] = Pack(__builtin_shuffle(acLow, bdLow, kLow));
+    rows[1] = Pack(__builtin_shuffle(acLow, bdLow, kHigh));
+    rows[2] = Pack(__builtin_shuffle(acHigh, bdHigh, kLow));
+    rows[3] = Pack(__builtin_shuffle(acHigh, bdHigh, kHigh));
+}
+
+template <bool kDownwards>
+[[gnu::always_inline]] inline void TurnBand(const CWalk& walk, const CTarget& target, int x, int y) {
+    const std::uint8_t* const pSrc = walk.At(x, y);
+    std::uint8_t* pDst = target.At(x, y, 3);
+    CVector16 left[kQuad];
+    CVector16 right[kQuad];
+    TransposeQuad<kDownwards>(pSrc, walk.nRight, left);
+    TransposeQuad<kDownwards>(pSrc + kQuad * walk.nRight, walk.nRight, right);
+    for (int i = 0; i < kQuad; ++i, pDst += target.nStride) {
+        std::memcpy(pDst, &left[i], 16);
+        std::memcpy(pDst + 12, &right[i], 12);
+    }
+}
+
+template <bool kDownwards>
+[[gnu::always_inline]] inline void TurnBlock(const CWalk& walk, const CTarget& target, CRect rc) {
+    const int nBandsEnd = rc.left + rc.Width() / kBand * kBand;
+    const int nQuadsEnd = rc.top + rc.Height() / kQuad * kQuad;
+    for (int x = rc.left; x < nBandsEnd; x += kBand) {
+        for (int y = rc.top; y < nQuadsEnd; y += kQuad) TurnBand<kDownwards>(walk, target, x, y);
+    }
+    TurnSlowly(walk, target, 3, {nBandsEnd, rc.top, rc.right, nQuadsEnd});
+    TurnSlowly(walk, target, 3, {rc.left, nQuadsEnd, rc.right, rc.bottom});
+}
+
+FOTARIUM_VECTOR_CLONES
+void TurnBlockDownwards(const CWalk& walk, const CTarget& target, CRect rc) {
+    TurnBlock<true>(walk, target, rc);
+}
+
+FOTARIUM_VECTOR_CLONES
+void TurnBlockUpwards(const CWalk& walk, const CTarget& target, CRect rc) {
+    TurnBlock<false>(walk, target, rc);
+}
+
+void TurnPlane(const CWalk& walk, const CTarget& target, int nChannels) {
+    for (int y = 0; y < target.nHeight; y += kBlock) {
+        for (int x = 0; x < target.nWidth; x += kBlock) {
+            const CRect rc{x, y, std::min(x + kBlock, target.nWidth), std::min(y + kBlock, target.nHeight)};
+            if (nChannels != 3) {
+                TurnSlowly(walk, target, nChannels, rc);
+            } else if (walk.nDown > 0) {
+                TurnBlockDownwards(walk, target, rc);
+            } else {
+                TurnBlockUpwards(walk, target, rc);
             }
         }
     }
@@ -120,12 +209,13 @@ void Rotate180Plane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, in
 void RotateClockwisePlane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight,
                           int nChannels) {
     const std::ptrdiff_t nStride = static_cast<std::ptrdiff_t>(nWidth) * nChannels;
-    TurnPlane(pSrc + (nHeight - 1) * nStride, -nStride, nChannels, pDst, nHeight, nWidth, nChannels);
+    const CWalk walk{pSrc + (nHeight - 1) * nStride, -nStride, nChannels};
+    TurnPlane(walk, {pDst, nHeight, nWidth, static_cast<std::ptrdiff_t>(nHeight) * nChannels}, nChannels);
 }
 
 void RotateCounterPlane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight,
                         int nChannels) {
     const std::ptrdiff_t nStride = static_cast<std::ptrdiff_t>(nWidth) * nChannels;
-    TurnPlane(pSrc + (nWidth - 1) * static_cast<std::ptrdiff_t>(nChannels), nStride, -nChannels, pDst,
-              nHeight, nWidth, nChannels);
+    const CWalk walk{pSrc + nStride - nChannels, nStride, -nChannels};
+    TurnPlane(walk, {pDst, nHeight, nWidth, static_cast<std::ptrdiff_t>(nHeight) * nChannels}, nChannels);
 }

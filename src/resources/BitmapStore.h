@@ -7,8 +7,8 @@
 #include "image/Image.h"
 #include "window/Bitmaps.h"
 
-// The rendered pictures of the skin in a folder, one PNG a name under 1x/ and 2x/. Each is read at its first use and
-// kept.
+// The rendered pictures of the skin in a folder, one PNG a name under 1x/ and 2x/. Each is read at its first
+// use and kept.
 class CBitmapStore : public CBitmaps {
   public:
     explicit CBitmapStore(std::string strFolder) : m_strFolder(std::move(strFolder)) {}

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <memory>
+
+#include "app/MainSkin.h"
+#include "app/ModeSwitch.h"
+#include "app/StatusLines.h"
+#include "browse/ThumPanel.h"
+#include "compose/FrameFlow.h"
+#include "compose/TextArtFlow.h"
+#include "editor/Editor.h"
+#include "editor/FileCommands.h"
+#include "editor/GeometryCommands.h"
+#include "effects/EffectFlow.h"
+#include "link/PhoneLink.h"
+#include "paint/MySCrollView.h"
+#include "paint/ToolController.h"
+#include "print/PrintFlow.h"
+#include "window/Dialog.h"
+#include "window/Platform.h"
+#include "window/PopupMenus.h"
+
+// The main window: owner of everything that lives for a whole run, and the entry of every command. It decides
+// nothing about pictures itself; each event goes on to the class of the room that the command belongs to.
+class CMainDlg : public CDialog,
+                 private CEditorHost,
+                 private CCanvasHost,
+                 private CSkinHost,
+                 private CPreviewFactory {
+  public:
+    // What the platform gives outlives the window.
+    explicit CMainDlg(const CPlatform& platform);
+
+    // --- for whoever looks on: tests, drivers ---
+    const CEditState& State() const { return m_state; }
+    const CWorkingImages& Images() const { return m_images; }
+    const CToolController& Tools() const { return m_tools; }
+    const CPhoneLink& Link() const { return m_link; }
+    CMySCrollView& Canvas() { return m_canvas; }
+
+    // A double click on a picture file in the file list.
+    void OpenFileByName(const std::string& strFolder, const std::string& strName);
+
+    void OnInitDialog() override;
+    void OnDestroy() override;
+    void OnCommand(int nId) override;
+    void OnNotify(int nId, ENotice notice) override;
+    void OnMouse(const CMouseEvent& event) override;
+    void OnHover(int nIdControl, bool bLeftDown) override;
+    bool OnKey(const CKeyEvent& event) override;
+    void OnTimer(int nTimer) override;
+    CScrollView* ViewOf(int nId) override;
+
+  protected:
+    void OnPaint(CClientArea& client) override;
+
+  private:
+    // Commands that concern more than one room
+    void OnPrint();
+    void OnTabClick(int nMode);
+    void ToggleLines();
+    void OnPaintPress(CPoint pt);
+    bool OnCtrlKey(int nKey);
+
+    // CEditorHost
+    void GoToMode(int nMode) override;
+    void HideEffectPanel() override { m_modes.HideEffect(); }
+    void ShowFontPanel() override { m_modes.ShowFont(); }
+    void EnableEditCommands() override { m_modes.EnableEditCommands(); }
+    void EnableSizeCommands(bool bEnable) override { m_modes.EnableSizeCommands(bEnable); }
+    void InitTextArt() override { m_textArt.InitTextArt(); }
+    bool IsConnected() const override { return m_link.IsConnected(); }
+    void FollowFolder(const std::string& strFolder) override { m_thum.FollowFolder(strFolder); }
+
+    // CCanvasHost
+    void OnCanvasPainted() override;
+    void OnPictureMenu() override;
+
+    // CSkinHost
+    CColor TextColor() const override { return m_textArt.TextColor(); }
+    bool IsListPressed() const override { return m_thum.IsPressed(); }
+    void PaintToolPanel(CClientArea& /*client*/) override {}
+
+    // CPreviewFactory
+    std::unique_ptr<CFileDialogPanel> MakePreview() override;
+
+    CPlatform m_platform;
+    CEditState m_state;
+    CWorkingImages m_images;
+    CMySCrollView m_canvas;
+    CToolController m_tools;
+    CEditor m_editor;
+    CFileCommands m_files;
+    CGeometryCommands m_geometry;
+    CStatusLines m_lines;
+    CMainSkin m_skin;
+    CThumPanel m_thum;
+    CEffectFlow m_effects;
+    CFrameFlow m_frames;
+    CTextArtFlow m_textArt;
+    CPrintFlow m_print;
+    CPhoneLink m_link;
+    CModeSwitch m_modes;
+};

@@ -1,0 +1,101 @@
+// Where mouse and keys go that no control takes.
+
+#include "app/MainDlg.h"
+#include "resources/Ids.h"
+#include "resources/Templates.h"
+#include "resources/Texts.h"
+#include "resources/ToolTable.h"
+
+namespace {
+
+constexpr CRect kVersionPlate{38, 676, 50, 690};
+// The colour wells of DRAW. The foreground well lies on top.
+constexpr CRect kForegroundWell{211, 490, 241, 520};
+constexpr CRect kBackgroundWell{225, 504, 255, 534};
+
+}  // namespace
+
+void CMainDlg::OnMouse(const CMouseEvent& event) {
+    if (event.action == EMouseAction::Press && event.button == EMouseButton::Left) {
+        if (kVersionPlate.Contains(event.pt))
+            m_platform.boxes.Show({kTextBuildDate, kTitleBuildDate, EBoxIcon::None, EBoxButtons::Ok});
+        if (m_state.m_bDrawMode) OnPaintPress(event.pt);
+        return;
+    }
+    if (!m_state.m_bDrawMode) return;
+    if (event.action == EMouseAction::Move) {
+        if (kForegroundWell.Contains(event.pt))
+            m_lines.SetHelp(kHelpForeground);
+        else if (kBackgroundWell.Contains(event.pt))
+            m_lines.SetHelp(kHelpBackground);
+    }
+    if (event.action == EMouseAction::Release && event.button == EMouseButton::Right) m_canvas.AbandonShape();
+    if (event.action == EMouseAction::DoubleClick) m_tools.OnWellDoubleClick(event);
+}
+
+// A left press beside the controls, in DRAW: an option of the current tool, or the end of an open shape.
+// Either way the working image catches up with the canvas.
+void CMainDlg::OnPaintPress(CPoint pt) {
+    if (!m_tools.OnPanelPress(pt)) m_canvas.AbandonShape();
+    m_editor.TransferCanvas(true);
+}
+
+void CMainDlg::OnHover(int nIdControl, bool bLeftDown) {
+    m_skin.OnHover(Client(), nIdControl, bLeftDown);
+    Present();
+    if (!m_state.m_bDrawMode) return;
+    const int nTool = FindTool(nIdControl);
+    if (nTool != 0)
+        m_lines.SetHelp(kHelpTool + nTool);
+    else
+        m_lines.SetHelp(nIdControl == kPaintColor ? kHelpPaintColor : kHelpClear);
+}
+
+void CMainDlg::OnTimer(int nTimer) {
+    m_skin.OnTimer(Client(), nTimer);
+    Present();
+}
+
+bool CMainDlg::OnKey(const CKeyEvent& event) {
+    if (event.nKey == kKeyEscape || event.nKey == kKeyEnter) return true;
+    return event.bCtrl && m_state.m_bImageOpen && OnCtrlKey(event.nKey);
+}
+
+// These look at flags and counts, not at whether the buttons are on. False for a key that is left to the
+// control.
+bool CMainDlg::OnCtrlKey(int nKey) {
+    switch (nKey) {
+        case 'C':
+            if (m_state.m_bDrawMode) m_canvas.OnCopy();
+            return m_state.m_bDrawMode;
+        case 'V':
+            if (m_state.m_bDrawMode) m_canvas.OnPaste();
+            return m_state.m_bDrawMode;
+        case 'X':
+            if (m_state.m_bDrawMode) m_canvas.OnCut();
+            return m_state.m_bDrawMode;
+        case 'Y':
+            if (m_images.m_stackRedo.IsEmpty()) return false;
+            m_editor.OnRedo();
+            return true;
+        case 'Z':
+            if (m_images.m_stackUndo.IsEmpty()) return false;
+            m_editor.OnUndo();
+            return true;
+        default:
+            return false;
+    }
+}
+
+// No menu while an effect with a level is selected, nor over a picture in the phone's size.
+void CMainDlg::OnPictureMenu() {
+    if (m_state.m_bStickMode ? !m_images.m_bImageSize : !m_state.m_bNoEffectLevel) return;
+    std::vector<CMenuItem> arrItems;
+    for (const CMenuItemTemplate& item : kPictureMenu) {
+        const bool bEmpty = (item.nId == kMenuUndo && m_images.m_stackUndo.IsEmpty()) ||
+                            (item.nId == kMenuRedo && m_images.m_stackRedo.IsEmpty());
+        arrItems.push_back({item.nId, item.szText, !bEmpty});
+    }
+    const int nId = m_platform.menus.Track(arrItems);
+    if (nId != 0) OnCommand(nId);
+}

@@ -1,0 +1,95 @@
+#include "app/MainSkin.h"
+
+#include <array>
+
+#include "resources/HintTable.h"
+#include "resources/Ids.h"
+
+namespace {
+
+constexpr int kBackground = 522;
+constexpr int kTopStrip = 440;
+constexpr CPoint kTopStripAt{19, 61};
+constexpr CPoint kTabStripAt{0, 110};
+constexpr CPoint kTabRowAt{0, 79};
+constexpr CPoint kPanelAt{0, 111};
+constexpr CRect kSwatch{237, 257, 257, 277};
+
+constexpr int kNoHint = 2;
+
+// The pictures of a mode; a panel of 0 shows the background.
+struct CModeLook {
+    int nTabRow;
+    int nPanel;
+    int nTabStrip;
+};
+
+constexpr std::array<CModeLook, 5> kLooks = {{
+    {486, 0, 503},    // THUM
+    {490, 343, 507},  // DRAW
+    {487, 0, 504},    // EFFECT
+    {488, 296, 505},  // FONT
+    {489, 286, 506},  // STICK
+}};
+
+const CModeLook& LookOf(int nMode) {
+    return kLooks[static_cast<std::size_t>(nMode)];
+}
+
+}  // namespace
+
+void CMainSkin::Paint(CClientArea& client) const {
+    const CModeLook& look = LookOf(m_state.m_nMode);
+    client.DrawBitmap(kBackground, 0, 0);
+    client.DrawBitmap(look.nTabRow, kTabRowAt.x, kTabRowAt.y);
+    if (look.nPanel != 0) client.DrawBitmap(look.nPanel, kPanelAt.x, kPanelAt.y);
+    if (m_state.m_nMode == kModeDraw) m_host.PaintToolPanel(client);
+    if (m_state.m_nMode == kModeFont) ShowTextColor(client);
+}
+
+void CMainSkin::ShowTextColor(CClientArea& client) const {
+    client.FillRect(kSwatch, m_host.TextColor());
+}
+
+void CMainSkin::WipeTabHint(CClientArea& client) const {
+    client.DrawBitmap(LookOf(m_state.m_nMode).nTabStrip, kTabStripAt.x, kTabStripAt.y);
+}
+
+void CMainSkin::OnHover(CClientArea& client, int nControl, bool bLeftDown) {
+    client.DrawBitmap(kTopStrip, kTopStripAt.x, kTopStripAt.y);
+    WipeTabHint(client);
+    m_nHintCtrl = 0;
+    m_nHintState = kNoHint;
+    if (m_state.m_nMode == kModeFont) ShowTextColor(client);
+
+    const CHint* pHint = FindHint(nControl);
+    if (pHint == nullptr || !m_controls.IsShown(nControl)) return;
+    // A drag out of the file list onto these keys keeps the list's focus, which the drop needs.
+    const bool bDropTarget =
+        nControl == kCmdOpen || nControl == kCmdSend || nControl == kCmdNew || nControl == kCmdConnect;
+    const bool bDragging = m_state.m_bThumbMode && bLeftDown && m_host.IsListPressed();
+    if (pHint->bTakesFocus && !(bDropTarget && bDragging)) m_controls.SetFocus(nControl);
+    client.DrawBitmap(pHint->nBitmap, pHint->x, pHint->y);
+    m_nHintCtrl = nControl;
+    m_timers.SetTimer(m_target, pHint->y == kTopHintRow ? 0 : 1, kHintMilliseconds);
+}
+
+void CMainSkin::OnTimer(CClientArea& client, int nTimer) {
+    if (nTimer != 0 && nTimer != 1) return;
+    m_timers.KillTimer(m_target, nTimer);
+    m_nHintState = nTimer;
+    EndHint(client);
+}
+
+// Redraws the control whose hint is up, which takes the hint away with it. A timer of a hint that has been
+// wiped already finds no control and does nothing.
+void CMainSkin::EndHint(CClientArea& client) {
+    if (m_nHintCtrl == 0) return;
+    if (m_nHintState == 0) client.DrawBitmap(kTopStrip, kTopStripAt.x, kTopStripAt.y);
+    if (m_nHintState == 1) {
+        WipeTabHint(client);
+        if (m_state.m_nMode == kModeFont) ShowTextColor(client);
+    }
+    m_nHintCtrl = 0;
+    m_nHintState = kNoHint;
+}

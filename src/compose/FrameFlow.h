@@ -1,0 +1,7 @@
+#pragma once
+
+// STICK: the frames that are laid over the picture.
+class CFrameFlow {
+  public:
+    void OnClickStickerList() {}
+};

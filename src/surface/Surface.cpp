@@ -55,13 +55,11 @@ void CSurface::DrawPart(const CPixels& pixels, const CRect& rcSource, int x, int
     const int dx = x - rcSource.left;
     const int dy = y - rcSource.top;
     const CRect rcTo = rcPart.Offset(dx, dy).Intersect(Bounds());
-    // A copy that shares the source's memory keeps it alive should this surface be the source itself.
-    const CPixels source = pixels;
     const CPixelView view = rcTo.IsEmpty() ? CPixelView{} : m_pixels.MutableView();
     if (view.pBits == nullptr) return;
     for (int row = rcTo.top; row < rcTo.bottom; ++row)
         std::memcpy(view.Row(row) + std::ptrdiff_t{3} * rcTo.left,
-                    source.Row(row - dy).data() + std::ptrdiff_t{3} * (rcTo.left - dx),
+                    pixels.Row(row - dy).data() + std::ptrdiff_t{3} * (rcTo.left - dx),
                     std::size_t{3} * static_cast<std::size_t>(rcTo.Width()));
 }
 
@@ -69,11 +67,10 @@ void CSurface::DrawEnlarged(const CPixels& pixels, int x, int y, int nFactor) {
     if (nFactor == 1) return DrawPixels(pixels, x, y);
     const CRect rcTo =
         CRect::FromPlace(x, y, pixels.Width() * nFactor, pixels.Height() * nFactor).Intersect(Bounds());
-    const CPixels source = pixels;
     const CPixelView view = rcTo.IsEmpty() ? CPixelView{} : m_pixels.MutableView();
     if (view.pBits == nullptr) return;
     for (int row = rcTo.top; row < rcTo.bottom; ++row) {
-        const auto from = source.Row((row - y) / nFactor);
+        const auto from = pixels.Row((row - y) / nFactor);
         std::uint8_t* pTo = view.Row(row) + std::ptrdiff_t{3} * rcTo.left;
         for (int column = rcTo.left; column < rcTo.right; ++column, pTo += 3)
             std::memcpy(pTo, from.data() + std::ptrdiff_t{3} * ((column - x) / nFactor), 3);

@@ -4,8 +4,8 @@
 #include "image/Geometry.h"
 #include "image/Pixels.h"
 
-// Pixels to draw on: 24 bits, row 0 at the top. Everything that lies beyond the edges is cut off. A surface shares
-// its pixels with pictures and other surfaces until one of them is drawn on.
+// Pixels to draw on: 24 bits, row 0 at the top. Everything that lies beyond the edges is cut off. A surface
+// shares its pixels with pictures and other surfaces until one of them is drawn on.
 class CSurface {
   public:
     // Black; empty if the size is not positive or does not fit into memory.
@@ -24,6 +24,8 @@ class CSurface {
     void FillRect(const CRect& rc, CColor color);
     // One pixel wide, just inside the box's edges.
     void FrameRect(const CRect& rc, CColor color);
+    // The pixels of the three calls below are not this surface's own.
+
     // Copies the pixels with their top left corner at (x, y).
     void DrawPixels(const CPixels& pixels, int x, int y);
     // The part rcSource of the pixels, its top left corner at (x, y).

@@ -12,14 +12,15 @@ if(FOTARIUM_SANITIZE)
   target_link_options(fotarium_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# fotarium_room(NAME [LINK libraries...]): the static library of the room src/NAME/.
+# fotarium_room(NAME [LINK libraries...] [PRIVATE libraries...]): the static library of the room src/NAME/. What is
+# private does not reach the rooms above: neither headers nor compiler flags.
 function(fotarium_room NAME)
-  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "LINK;PRIVATE" ${ARGN})
   file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.h)
   add_library(room_${NAME} STATIC ${SOURCES})
   set_target_properties(room_${NAME} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(room_${NAME} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-  target_link_libraries(room_${NAME} PRIVATE fotarium_flags PUBLIC ${ARG_LINK})
+  target_link_libraries(room_${NAME} PRIVATE fotarium_flags ${ARG_PRIVATE} PUBLIC ${ARG_LINK})
 endfunction()
 
 # fotarium_test(NAME [LINK libraries...]): one GoogleTest program of the files in tests/NAME/.

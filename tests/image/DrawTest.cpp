@@ -1,0 +1,89 @@
+#include <gtest/gtest.h>
+
+#include "image/TestPictures.h"
+
+namespace {
+
+constexpr CColor kPaper{1, 2, 3};
+
+CPixels Paper(int nWidth, int nHeight) {
+    CPixels pixels;
+    EXPECT_TRUE(pixels.CreateFilled(nWidth, nHeight, kPaper));
+    return pixels;
+}
+
+TEST(Draw, NaturalSizeIsCutAtEveryEdge) {
+    const CxImage image = SmoothPicture(7, 5);
+    for (int y = -6; y <= 12; ++y) {
+        for (int x = -8; x <= 14; ++x) {
+            CPixels target = Paper(12, 10);
+            image.Draw(target.MutableView(), x, y);
+            for (int j = 0; j < 10; ++j) {
+                for (int i = 0; i < 12; ++i) {
+                    const bool bInside = i >= x && i < x + 7 && j >= y && j < y + 5;
+                    const CColor cr = bInside ? image.Pixels().View().Get(i - x, j - y) : kPaper;
+                    ASSERT_EQ(target.View().Get(i, j), cr) << x << ' ' << y << " at " << i << ' ' << j;
+                }
+            }
+        }
+    }
+}
+
+TEST(Draw, StretchTakesTheNearestPixelFromTheTopLeft) {
+    const CxImage image = SmoothPicture(7, 5);
+    const CRect places[] = {{2, 1, 11, 9}, {-5, -4, 30, 3}, {3, 3, 5, 5},
+                            {4, 4, 4, 9},  {9, 4, 2, 9},    {0, 0, 7, 5}};
+    for (const CRect& rc : places) {
+        CPixels target = Paper(12, 10);
+        image.Stretch(target.MutableView(), rc);
+        for (int j = 0; j < 10; ++j) {
+            for (int i = 0; i < 12; ++i) {
+                CColor cr = kPaper;
+                if (rc.Contains({i, j})) {
+                    cr = image.Pixels().View().Get((i - rc.left) * 7 / rc.Width(),
+                                                   (j - rc.top) * 5 / rc.Height());
+                }
+                ASSERT_EQ(target.View().Get(i, j), cr) << rc.left << ' ' << rc.top << " at " << i << ' ' << j;
+            }
+        }
+    }
+}
+
+// A rasterizer whose every glyph is a box with a pale rim.
+class CBoxRasterizer : public CTextRasterizer {
+  public:
+    CTextMask Rasterize(const CTextFont& font, const std::string& strText) override {
+        m_font = font;
+        CTextMask mask{4 * static_cast<int>(strText.size()), font.nHeight, {}};
+        mask.coverage.assign(static_cast<std::size_t>(mask.nWidth * mask.nHeight), 127);
+        for (int y = 1; y + 1 < mask.nHeight; ++y) {
+            for (int x = 0; x < mask.nWidth; ++x) {
+                if (x % 4 != 3) mask.coverage[static_cast<std::size_t>(y * mask.nWidth + x)] = 128;
+            }
+        }
+        return mask;
+    }
+    CTextFont m_font;
+};
+
+TEST(Draw, TextStandsOnItsRowInOneColour) {
+    CBoxRasterizer rasterizer;
+    for (const int x : {-3, 2, 9}) {
+        for (const int y : {-1, 2, 7, 12, 30}) {
+            CPixels target = Paper(12, 10);
+            CxImage::DrawTextA(target.MutableView(), rasterizer, x, y, "ab", {250, 80, 60}, "Tahoma", 6, 700,
+                               true, false);
+            for (int j = 0; j < 10; ++j) {
+                for (int i = 0; i < 12; ++i) {
+                    // The box is 6 rows high and ends above row y.
+                    const bool bGlyph = i >= x && i < x + 8 && (i - x) % 4 != 3 && j > y - 6 && j < y - 1;
+                    ASSERT_EQ(target.View().Get(i, j), bGlyph ? (CColor{250, 80, 60}) : kPaper)
+                        << x << ' ' << y;
+                }
+            }
+        }
+    }
+    EXPECT_EQ(rasterizer.m_font, (CTextFont{"Tahoma", 6, 700, true, false}));
+}
+
+}  // namespace

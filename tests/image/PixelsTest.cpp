@@ -1,0 +1,115 @@
+#include "image/Pixels.h"
+
+#include <gtest/gtest.h>
+
+#include "image/TestPictures.h"
+
+namespace {
+
+// Pictures and a model of each that shares nothing: whatever is done to one of them, every other one must
+// stay.
+TEST(Pixels, AWriteIsNeverSeenThroughAnotherCopy) {
+    const unsigned nSeed = TestSeed();
+    SCOPED_TRACE(nSeed);
+    std::mt19937 random(nSeed);
+    for (const int nSide : {9, 1300}) {  // small blocks, and large ones that are kept for the next picture
+        std::vector<CxImage> images(4, RandomPicture(random, nSide, nSide));
+        std::vector<Bytes> models;
+        for (const CxImage& image : images)
+            models.emplace_back(image.Pixels().Bytes().begin(), image.Pixels().Bytes().end());
+
+        for (int nStep = 0; nStep < 60; ++nStep) {
+            const std::size_t a = random() % images.size();
+            const std::size_t b = random() % images.size();
+            const int x = static_cast<int>(random() % static_cast<unsigned>(nSide));
+            const int y = static_cast<int>(random() % static_cast<unsigned>(nSide));
+            const CColor cr{static_cast<std::uint8_t>(random()), static_cast<std::uint8_t>(random()), 7};
+            const auto nAt = 3 * static_cast<std::size_t>((nSide - 1 - y) * nSide + x);
+            switch (random() % 4) {
+                case 0:
+                    images[a] = images[b];
+                    models[a] = models[b];
+                    break;
+                case 1: {
+                    CPixels stale = images[a].Pixels();
+                    images[a].SetPixelColor(x, y, cr);
+                    stale.MutableBytes()[0] ^= 0xFF;
+                    models[a][nAt] = cr.r;
+                    models[a][nAt + 1] = cr.g;
+                    models[a][nAt + 2] = cr.b;
+                    break;
+                }
+                case 2:
+                    images[a].MutableBytes()[nAt] = 1;
+                    models[a][nAt] = 1;
+                    break;
+                default: {
+                    CxImage other = images[a];
+                    other.Mirror();
+                    other.HistogramEqualize();
+                    break;
+                }
+            }
+            for (std::size_t i = 0; i < images.size(); ++i) {
+                ASSERT_TRUE(std::ranges::equal(images[i].Pixels().Bytes(), models[i]))
+                    << "step " << nStep << " image " << i;
+            }
+        }
+    }
+}
+
+TEST(Pixels, CopiesCostNothingUntilAWrite) {
+    const CxImage image = SmoothPicture(20, 10);
+    CxImage copy = image;
+    EXPECT_TRUE(copy.Pixels().SharesWith(image.Pixels()));
+    EXPECT_TRUE(copy.Resample(20, 10)) << "the same size is a plain copy";
+    EXPECT_EQ(copy.GetPixelColor(3, 3), image.GetPixelColor(3, 3));
+    EXPECT_TRUE(copy.Pixels().SharesWith(image.Pixels()));
+
+    // One buffer between a drawing surface and a picture.
+    CPixels surface;
+    ASSERT_TRUE(surface.CreateFilled(4, 3, {9, 8, 7}));
+    CxImage fromSurface;
+    ASSERT_TRUE(fromSurface.CreateFromHBITMAP(surface));
+    EXPECT_TRUE(fromSurface.Pixels().SharesWith(surface));
+
+    copy.SetPixelColor(0, 0, {1, 2, 3});
+    EXPECT_FALSE(copy.Pixels().SharesWith(image.Pixels()));
+    const std::uint8_t* const pBits = copy.Pixels().Bytes().data();
+    copy.SetPixelColor(1, 0, {1, 2, 3});
+    EXPECT_EQ(copy.Pixels().Bytes().data(), pBits) << "an unshared picture is written where it stands";
+}
+
+TEST(Pixels, SizesThatCannotBeHeldAreRefused) {
+    const auto refused = [](int nWidth, int nHeight) {
+        CxImage image = SmoothPicture(5, 4);
+        return !image.Create(nWidth, nHeight) && image.GetSize() == CSize{5, 4} &&
+               !CxImage(nWidth, nHeight).IsValid() && !image.Resample(nWidth, nHeight) &&
+               image.GetSize() == CSize{5, 4};
+    };
+    EXPECT_TRUE(refused(0, 10));
+    EXPECT_TRUE(refused(10, 0));
+    EXPECT_TRUE(refused(-3, 10));
+    EXPECT_TRUE(refused(65500, 65500));
+    EXPECT_TRUE(refused(INT32_MAX, INT32_MAX));
+    EXPECT_TRUE(refused(INT32_MAX, 1)) << "2 GiB of pixels are the limit";
+    EXPECT_FALSE(CPixels::Fits(26755, 26755));
+    EXPECT_FALSE(CxImage(4, 4, 7).IsValid()) << "no such depth";
+}
+
+TEST(Pixels, LargeBlocksThatAreKeptAreHandedOutOnce) {
+    for (int nRound = 0; nRound < 3; ++nRound) {
+        CPixels a;
+        CPixels b;
+        ASSERT_TRUE(a.CreateFilled(2000, 1000, {1, 1, 1}));
+        ASSERT_TRUE(b.CreateFilled(2000, 1000, {2, 3, 4}));
+        ASSERT_FALSE(a.SharesWith(b));
+        EXPECT_EQ(a.View().Get(1999, 999), (CColor{1, 1, 1}));
+        EXPECT_EQ(b.View().Get(1999, 999), (CColor{2, 3, 4}));
+        CPixels black;
+        ASSERT_TRUE(black.Create(2000, 1000));
+        EXPECT_EQ(black.View().Get(700, 500), CColor{}) << "what a kept block held before must not show";
+    }
+}
+
+}  // namespace

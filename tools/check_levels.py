@@ -84,11 +84,14 @@ def check_includes(rooms, root, path, lines):
 
 
 def is_own_file(root, path, name):
-    """A file beside the includer, one of the tests' or benchmarks' own, or what Qt's moc makes of the includer."""
+    """A file beside the includer, of the build tool that it belongs to, one of the tests' or benchmarks' own, or what
+    Qt's moc makes of the includer."""
     if ".." in name.split("/"):
         return False
     own_top = root / path.relative_to(root).parts[0]
+    tool = next((folder for folder in path.parents if folder.name == "tool"), path.parent)
     return (("/" not in name and (path.parent / name).is_file())
+            or (tool / name).is_file()
             or (own_top.name != "src" and (own_top / name).is_file())
             or name in (f"{path.stem}.moc", f"moc_{path.stem}.cpp"))
 

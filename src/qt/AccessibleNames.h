@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+#include <string_view>
+
+// What a screen reader says for a control that shows only a picture, by the root of the picture's name. Empty
+// for a root that has no name here.
+QString FindAccessibleName(std::string_view strRoot);

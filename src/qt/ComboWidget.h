@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QComboBox>
+
+#include "qt/ControlWidget.h"
+
+// A drop-down list of texts.
+class CComboWidget : public QComboBox, public CControlWidget {
+  public:
+    explicit CComboWidget(const CControlContext& context);
+
+    QWidget& Widget() override { return *this; }
+    void Mirror(EControlChange change) override;
+
+  private:
+    CControlContext m_context;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QFileDialog>
+#include <string>
+
+#include "window/FileDialogs.h"
+
+// The window of the file dialogs: a list of the current folder with a line to type a name in. When opening, a
+// name need not exist and need not match the filter. When saving, a name without extension gets "jpg" and an
+// existing file is asked about.
+class CFileWindow : public QFileDialog {
+  public:
+    CFileWindow(AcceptMode mode, const CFileDialogRequest& request, QWidget* pParent);
+
+    // Puts a widget at the right of the list and the name line.
+    void AddBeside(QWidget& widget);
+    // Full path, as the file system has it.
+    std::string ChosenPath() const;
+
+  protected:
+    void accept() override;
+
+  private:
+    bool AskReplace(const std::string& strPath);
+};

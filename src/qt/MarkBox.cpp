@@ -1,0 +1,86 @@
+#include "qt/MarkBox.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include "qt/AccessibleNames.h"
+#include "qt/SkinColors.h"
+#include "qt/Text.h"
+#include "window/Dialog.h"
+#include "window/Marks.h"
+
+namespace {
+
+constexpr int kBoxSide = 14;
+constexpr int kCaptionGap = 5;
+constexpr QColor kRim(64, 74, 78);
+constexpr QColor kWell(228, 233, 228);
+constexpr QColor kPaleWell(186, 194, 188);
+constexpr QColor kPaleMark(150, 158, 153);
+
+// The label that stands beside a mark without a caption of its own names it.
+QString NameOfMark(const CControlContext& context) {
+    const auto& arrAll = context.dialog.Controls().All();
+    for (std::size_t i = 0; i + 1 < arrAll.size(); ++i)
+        for (std::size_t nNext = i + 1; arrAll[i].nId == context.control.nId && nNext < arrAll.size();
+             ++nNext) {
+            const CControl& other = arrAll[nNext];
+            if (other.kind == EControlKind::BitmapLabel && other.rcPlace.top == context.control.rcPlace.top)
+                return FindAccessibleName(other.strCaption);
+        }
+    return {};
+}
+
+}  // namespace
+
+CMarkBox::CMarkBox(const CControlContext& context) : QAbstractButton(context.pParent), m_context(context) {
+    setFocusPolicy(Qt::StrongFocus);
+    setText(ToQt(context.control.strCaption));  // also sets the key that an & names
+    if (text().isEmpty()) setAccessibleName(NameOfMark(context));
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        ClickMark(m_context.dialog.Controls(), m_context.control.nId);
+        m_context.dialog.OnCommand(m_context.control.nId);
+    });
+}
+
+void CMarkBox::Mirror(EControlChange /*change*/) {
+    update();
+}
+
+void CMarkBox::PaintRound(QPainter& painter, const QRectF& rc) const {
+    painter.drawEllipse(rc);
+    if (!m_context.control.bChecked) return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isEnabled() ? SkinColors::kWarm : kPaleMark);
+    painter.drawEllipse(rc.adjusted(3, 3, -3, -3));
+}
+
+void CMarkBox::PaintSquare(QPainter& painter, const QRectF& rc) const {
+    painter.drawRoundedRect(rc, 2, 2);
+    if (!m_context.control.bChecked) return;
+    QPainterPath path(rc.topLeft() + QPointF(2.6, 6.2));
+    path.lineTo(rc.topLeft() + QPointF(5.0, 9.0));
+    path.lineTo(rc.topLeft() + QPointF(9.6, 2.8));
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(isEnabled() ? SkinColors::kWarm.darker(110) : kPaleMark, 2.4, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(path);
+}
+
+void CMarkBox::paintEvent(QPaintEvent* /*pEvent*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool bFocus = m_context.dialog.Controls().Focus() == m_context.control.nId;
+    const QRectF rc = QRectF(0, (height() - kBoxSide) / 2, kBoxSide, kBoxSide).adjusted(1, 1, -1, -1);
+    painter.setPen(QPen(bFocus && isEnabled() ? SkinColors::kWarm : kRim, bFocus ? 1.6 : 1.2));
+    painter.setBrush(!isEnabled() ? kPaleWell : isDown() ? kWell.darker(112) : kWell);
+    if (m_context.control.kind == EControlKind::Radio)
+        PaintRound(painter, rc);
+    else
+        PaintSquare(painter, rc);
+    if (text().isEmpty()) return;
+    painter.setPen(
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    painter.drawText(rect().adjusted(kBoxSide + kCaptionGap, 0, 0, 0),
+                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic, text());
+}

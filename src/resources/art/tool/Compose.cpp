@@ -31,7 +31,7 @@ class CComposer {
         Put(painter, mode.pRow, {0, 79});
         if (*mode.pPanel) Put(painter, mode.pPanel, {0, 111});
         // The states go round along the row, so that each view shows them all.
-        int nKey = mode.pName[0];
+        int nKey = static_cast<unsigned char>(mode.pName[0]);
         for (const CSkinLine& line : m_arrLines) {
             if (line.strKind == "tab" && line.strName != mode.pTab)
                 Put(painter, line.strName + "U", line.rcPlace.topLeft());

@@ -29,7 +29,8 @@ CCapLook LookOf(EKeyState eState) {
 
 QRectF CapPlace(const QRect& rc, EKeyShape eShape, EKeyState eState) {
     QRectF rcCap = QRectF(rc).adjusted(1, 1, -1, -2);
-    if (eShape == EKeyShape::Bar) rcCap.adjust(0.5, 0, -0.5, 0);
+    // Neighbours in the top bar may overlap by two pixels; their caps must not.
+    if (eShape == EKeyShape::Bar) rcCap.adjust(1, 0, -1, 0);
     if (eState == EKeyState::Pressed) rcCap.translate(0, 1);
     return rcCap;
 }
@@ -143,7 +144,7 @@ void DrawTabFace(CSheet& sheet, CDrawings& drawings, const QRect& rcPlace, const
     const int x = rcPlace.x() + (rcPlace.width() - kSideGlyphPixels - kGap - nText) / 2;
     const int y = rcPlace.y() + (rcPlace.height() - kSideGlyphPixels) / 2;
     DrawGlyph(sheet, drawings, strGlyph, QRect(x, y, kSideGlyphPixels, kSideGlyphPixels), false);
-    const QColor crInk = bSelected ? QColor(24, 34, 36) : QColor(62, 74, 72);
+    const QColor crInk = bSelected ? QColor(24, 34, 36) : QColor(48, 60, 58);
     const QRect rcText(x + kSideGlyphPixels + kGap, rcPlace.y(), nText, rcPlace.height());
     DrawText(sheet, rcText, strCaption, crInk, kCaptionPixels, ETextAlign::Left);
 }

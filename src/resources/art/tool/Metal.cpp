@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int kStreakPixels = 36;    // half the length of a streak, at single density
-constexpr int kStreakContrast = 26;  // largest change of a channel before the streaks are averaged
+constexpr int kStreakContrast = 44;  // largest change of a channel before the streaks are averaged
 
 uint32_t Scramble(uint32_t n) {
     n ^= n >> 16;
@@ -32,7 +32,8 @@ std::vector<int> StreaksOfRow(int y, int nWidth, int nReach) {
     for (int i = 0; i < 2 * nReach; ++i) nSum += arrNoise[static_cast<size_t>(i)];
     for (int x = 0; x < nWidth; ++x) {
         arrStreaks[static_cast<size_t>(x)] = nSum * kStreakContrast / (2 * nReach) + nRow;
-        nSum += arrNoise[static_cast<size_t>(x + 2 * nReach)] - arrNoise[static_cast<size_t>(x)];
+        const auto nLeft = static_cast<size_t>(x);
+        nSum += arrNoise[nLeft + static_cast<size_t>(2 * nReach)] - arrNoise[nLeft];
     }
     return arrStreaks;
 }

@@ -3,6 +3,8 @@
 #include <QLinearGradient>
 #include <QPainterPath>
 #include <cmath>
+#include <numbers>
+#include <random>
 
 #include "Keys.h"
 #include "Metal.h"
@@ -17,7 +19,8 @@ constexpr int kTextPixels = 12;
 constexpr QRgb kMaskGround = qRgb(255, 0, 255);
 
 const QColor kEngravedInk(47, 60, 58);
-const QColor kEngravedLight(232, 238, 232, 120);
+const QColor kLabelInk(28, 39, 39);
+const QColor kEngravedLight(232, 238, 232, 90);
 
 QColor ColorFrom(const QString& strTriple) {
     const QStringList arrParts = strTriple.split(',');
@@ -63,7 +66,7 @@ CSkin::CSkin(const std::vector<CSkinLine>& arrLines, const QString& strArtFolder
 std::map<QString, QImage> CSkin::Render() {
     std::map<QString, QImage> mapPictures;
     for (const CSkinLine& line : m_arrLines) {
-        if (line.strKind == "title") continue;
+        if (line.strKind == "title" || line.strKind == "face") continue;
         if (line.strKind == "key") {
             RenderKey(line, mapPictures);
             continue;
@@ -148,8 +151,11 @@ void CSkin::DrawTabFaces(CSheet& sheet, const QString& strSelected) {
     }
 }
 
-void CSkin::DrawTitles(CSheet& sheet, const QString& strGround) const {
+void CSkin::DrawTitles(CSheet& sheet, const QString& strGround) {
     for (const CSkinLine& line : m_arrLines) {
+        if (line.strKind == "face" && line.arrRest[0] == strGround) {
+            DrawTabFace(sheet, m_drawings, line.rcPlace, line.arrRest[1], line.arrRest[2], true);
+        }
         if (line.strKind != "title" || line.arrRest[0] != strGround) continue;
         Engrave(sheet, line.rcPlace, line.arrRest[1], line.rcPlace.height() - 4);
     }
@@ -174,9 +180,16 @@ CSheet CSkin::RenderTab(const CSkinLine& line) {
 CSheet CSkin::RenderLabel(const CSkinLine& line) {
     CSheet sheet = Ground(line.arrRest[0], "-").Cut(line.rcPlace);
     const QString& strText = line.arrRest[1];
+    // A character's ink leaves its square's last column free, so the text may be one pixel wider than its
+    // place.
     int nPixels = kTextPixels;
-    while (nPixels > 9 && TextWidth(strText, nPixels, 2) > line.rcPlace.width()) --nPixels;
-    Engrave(sheet, QRect(QPoint(0, 0), line.rcPlace.size()), strText, nPixels);
+    while (nPixels > 9 && TextWidth(strText, nPixels, 2) > line.rcPlace.width() + 1) --nPixels;
+    // The smoothed small type is thin: written twice it has the weight of the hand-made one.
+    const int nTimes = nPixels < kTextPixels ? 2 : 1;
+    for (int i = 0; i < nTimes; ++i) {
+        DrawText(sheet, QRect(QPoint(0, 0), line.rcPlace.size()), strText, kLabelInk, nPixels,
+                 ETextAlign::Left);
+    }
     return sheet;
 }
 
@@ -224,16 +237,16 @@ CSheet CSkin::RenderSpray(const CSkinLine& line) const {
     CSheet sheet(line.rcPlace.size(), m_nDensity, ColorFrom(line.arrRest[2]));
     CSheetPainter painter(sheet);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    // Seeds in a sunflower's order lie evenly and without a pattern; every other one gives the cloud its
-    // grain.
-    constexpr double kGoldenAngle = 2.399963229728653;
-    const int nDots = static_cast<int>(fRadius * fRadius * 0.75);
+    const int nDots = static_cast<int>(fRadius * fRadius);
+    std::minstd_rand random(1);
+    const auto Part = [&random] { return static_cast<double>(random()) / std::minstd_rand::max(); };
+    const QPoint ptMiddle(line.rcPlace.width() / 2, line.rcPlace.height() / 2);
     for (int i = 0; i < nDots; ++i) {
-        const double fOut = fRadius * std::sqrt((i + 0.5) / nDots);
-        const int x =
-            static_cast<int>(std::lround(line.rcPlace.width() / 2 + fOut * std::cos(i * kGoldenAngle)));
-        const int y =
-            static_cast<int>(std::lround(line.rcPlace.height() / 2 + fOut * std::sin(i * kGoldenAngle)));
+        // Somewhat denser in the middle, as a jet of air leaves it.
+        const double fOut = fRadius * std::pow(Part(), 0.65);
+        const double fTurn = 2 * std::numbers::pi * Part();
+        const int x = ptMiddle.x() + static_cast<int>(std::lround(fOut * std::cos(fTurn)));
+        const int y = ptMiddle.y() + static_cast<int>(std::lround(fOut * std::sin(fTurn)));
         painter.fillRect(x, y, 1, 1, crInk);
     }
     return sheet;

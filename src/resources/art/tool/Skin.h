@@ -25,7 +25,7 @@ class CSkin {
     CSheet MakeDialog(const QString& strSource);
     void DrawTabPlates(CSheet& sheet, const QString& strSelected) const;
     void DrawTabFaces(CSheet& sheet, const QString& strSelected);
-    void DrawTitles(CSheet& sheet, const QString& strGround) const;
+    void DrawTitles(CSheet& sheet, const QString& strGround);
 
     QImage RenderLine(const CSkinLine& line);
     void RenderKey(const CSkinLine& line, std::map<QString, QImage>& mapPictures);

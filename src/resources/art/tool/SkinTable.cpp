@@ -10,9 +10,9 @@ constexpr int kPlaceFields = 6;
 
 // How many fields follow the place, by kind. The last of them takes the rest of the line, blanks included.
 const QMap<QString, int>& FieldsOfKinds() {
-    static const QMap<QString, int> mapFields{{"sheet", 2}, {"key", 5},  {"tab", 2},     {"title", 2},
-                                              {"label", 2}, {"hint", 1}, {"picture", 2}, {"masked", 1},
-                                              {"spray", 3}, {"icon", 1}};
+    static const QMap<QString, int> mapFields{{"sheet", 2},   {"key", 5},    {"tab", 2},  {"title", 2},
+                                              {"face", 3},    {"label", 2},  {"hint", 1}, {"spray", 3},
+                                              {"picture", 2}, {"masked", 1}, {"icon", 1}};
     return mapFields;
 }
 

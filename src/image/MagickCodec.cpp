@@ -59,17 +59,29 @@ void PrepareMagick() {
     static_cast<void>(bPrepared);
 }
 
-int OwnDepth(const Magick::Image& image) {
-    if (image.classType() == Magick::PseudoClass) {
-        const std::size_t nColors = image.colorMapSize();
-        return nColors <= 2 ? 1 : nColors <= 16 ? 4 : 8;
-    }
-    return image.colorSpace() == Magick::GRAYColorspace ? 8 : 24;
+// The depth that a file of these two types writes in its header; 0 for others. The file has been decoded.
+int DepthInHeader(std::span<const std::uint8_t> file, ImageType type) {
+    constexpr std::size_t kPngDepth = 24;
+    constexpr std::size_t kBmpDepth = 28;
+    if (file.size() <= kBmpDepth) return 0;
+    if (type == ImageType::kBmp) return file[kBmpDepth];
+    const bool bOneSample = type == ImageType::kPng && (file[kPngDepth + 1] == 0 || file[kPngDepth + 1] == 3);
+    return bOneSample ? std::min<int>(file[kPngDepth], 8) : 0;
 }
 
-std::optional<CMagickPicture> TakePixels(Magick::Image& image) {
+int OwnDepth(std::span<const std::uint8_t> file, ImageType type, const Magick::Image& image) {
+    int nDepth = DepthInHeader(file, type);
+    if (nDepth == 0 && image.classType() == Magick::PseudoClass) {
+        const std::size_t nColors = image.colorMapSize();
+        nDepth = nColors <= 2 ? 1 : nColors <= 16 ? 4 : 8;
+    }
+    if (nDepth == 0) nDepth = image.colorSpace() == Magick::GRAYColorspace ? 8 : 24;
+    return nDepth <= 1 ? 1 : nDepth <= 4 ? 4 : nDepth <= 8 ? 8 : 24;
+}
+
+std::optional<CMagickPicture> TakePixels(Magick::Image& image, int nBpp) {
     CMagickPicture picture;
-    picture.nBpp = OwnDepth(image);
+    picture.nBpp = nBpp;
     const std::size_t nWidth = image.columns();
     const std::size_t nHeight = image.rows();
     if (nWidth > INT32_MAX || nHeight > INT32_MAX) return std::nullopt;
@@ -89,15 +101,15 @@ std::optional<CMagickPicture> TakePixels(Magick::Image& image) {
 
 // Some coders warn about what they could read after all, some about a file that is cut. A warning that stands
 // at the end of a file is a failure like an error; the others are not.
-std::optional<CMagickPicture> Decode(std::span<const std::uint8_t> file, const char* szReader) {
+std::optional<CMagickPicture> Decode(std::span<const std::uint8_t> file, const CFormat& format) {
     const Magick::Blob blob(file.data(), file.size());
     Magick::Image image;
     image.quiet(true);
-    image.magick(szReader);
+    image.magick(format.szReader);
     image.subImage(0);
     image.subRange(1);
     image.read(blob);
-    return TakePixels(image);
+    return TakePixels(image, OwnDepth(file, format.type, image));
 }
 
 // R, G, B, A in turn, as the library takes them.
@@ -155,7 +167,7 @@ std::optional<CMagickPicture> DecodeWithMagick(std::span<const std::uint8_t> fil
     if (pFormat == nullptr || pFormat->szReader == nullptr) return std::nullopt;
     try {
         PrepareMagick();
-        return Decode(file, pFormat->szReader);
+        return Decode(file, *pFormat);
     } catch (const std::exception&) {
         return std::nullopt;
     }

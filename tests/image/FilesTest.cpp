@@ -1,0 +1,152 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+
+#include "image/JpegFiles.h"
+#include "image/TestPictures.h"
+
+namespace {
+
+// From here to its end no file grows above nBytes: a full disk, for root too.
+class CFullDisk {
+  public:
+    explicit CFullDisk(rlim_t nBytes) : m_pOld(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &m_old);
+        const rlimit limit{nBytes, m_old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    CFullDisk(const CFullDisk&) = delete;
+    CFullDisk& operator=(const CFullDisk&) = delete;
+    ~CFullDisk() {
+        setrlimit(RLIMIT_FSIZE, &m_old);
+        std::signal(SIGXFSZ, m_pOld);
+    }
+
+  private:
+    rlimit m_old{};
+    void (*m_pOld)(int);
+};
+
+class Files : public CFolderTest {
+  protected:
+    static bool Opens(const std::string& strPath) {
+        return CxImage(strPath, FindImageTypeOfName(strPath)).IsValid();
+    }
+};
+
+TEST_F(Files, TheNameAloneTellsTheType) {
+    const auto typeOf = [](std::string_view strName) {
+        return static_cast<int>(FindImageTypeOfName(strName));
+    };
+    const char* const kNames[] = {"",    "bmp",  "gif", "jpg", "png", "ico", "tif", "tga",
+                                  "pcx", "wbmp", "emf", "j2k", "j2c", "pgx", "pgm", "ras"};
+    for (int i = 1; i <= 15; ++i) EXPECT_EQ(typeOf(std::string("a.") + kNames[i]), i);
+    for (const char* const szName :
+         {"jpeg", ".jpg", "archive.tar.jpg", "photo.JPG", "\xE7\x85\xA7\xE7\x89\x87.Jpeg"}) {
+        EXPECT_EQ(typeOf(std::string("x.") + szName), 3) << szName;
+    }
+    for (const char* const szName :
+         {"", "jpg", "a.", "a.jpg.", "a.jpg ", "a.txt", "a.jpge", "a.b/photo", "a.jpg\n"}) {
+        EXPECT_EQ(typeOf(szName), 0) << szName;
+    }
+    EXPECT_EQ(FindImageType("JPG"), ImageType::kUnknown) << "the caller lowers the case";
+    EXPECT_EQ(GetFileExtension("C:\\a.b\\photo"), "b\\photo");
+    EXPECT_EQ(GetFileExtension("photo.JPG"), "JPG");
+}
+
+TEST_F(Files, WhatIsNoPictureIsNotValid) {
+    WriteText(Path("empty.jpg"), "");
+    WriteText(Path("text.bmp"), "This is a letter and no picture, though it is called one.");
+    ASSERT_TRUE(SmoothPicture(9, 9).Save(Path("png.jpg"), ImageType::kPng));
+    ASSERT_TRUE(SmoothPicture(9, 9).Save(Path("jpg.png"), ImageType::kJpeg));
+    std::filesystem::create_directory(Path("folder.jpg"));
+    ASSERT_EQ(mkfifo(Path("pipe.jpg").c_str(), 0600), 0);
+    std::filesystem::create_symlink(Path("nowhere"), Path("link.jpg"));
+    for (const std::string& strName : Listing()) EXPECT_FALSE(Opens(Path(strName))) << strName;
+    EXPECT_FALSE(Opens(Path("missing.jpg")));
+    EXPECT_FALSE(Opens(""));
+    EXPECT_FALSE(Opens(Path(std::string("png.jpg") + '\0' + ".jpg")));
+    EXPECT_FALSE(CxImage(Path("png.jpg"), ImageType::kUnknown).IsValid());
+}
+
+TEST_F(Files, HugeClaimsOfOtherFormatsAreRefused) {
+    WriteText(Path("a.ppm"), "P6 65500 65500 255\n" + std::string(3000, 'x'));
+    Bytes bmp(54 + 3000);
+    bmp[0] = 'B';
+    bmp[1] = 'M';
+    bmp[10] = 54;
+    bmp[14] = 40;
+    bmp[18] = bmp[22] = 0xDC;
+    bmp[19] = bmp[23] = 0xFF;
+    bmp[26] = 1;
+    bmp[28] = 24;
+    WriteBytes(Path("a.bmp"), bmp);
+    EXPECT_FALSE(Opens(Path("a.ppm")));
+    EXPECT_FALSE(Opens(Path("a.bmp")));
+}
+
+TEST_F(Files, NamesMayHoldAnything) {
+    const CxImage picture = SmoothPicture(12, 9);
+    for (const char* const szName :
+         {"\xE7\x85\xA7 \xE7\x89\x87.jpg", "a 'b' \"c\" `d` $e;.jpg", "line\nbreak.jpg", "%s%d@~*?[.jpg",
+          "-rf.jpg", "png:x.jpg", "\xFF\xFE.jpg"}) {
+        ASSERT_TRUE(picture.Save(Path(szName), ImageType::kJpeg)) << szName;
+        EXPECT_TRUE(Opens(Path(szName))) << szName;
+    }
+    const std::string strLong = std::string(251, 'n') + ".jpg";
+    EXPECT_TRUE(picture.Save(Path(strLong), ImageType::kJpeg)) << "as long as a name can be";
+    EXPECT_FALSE(picture.Save(Path("n" + strLong), ImageType::kJpeg));
+}
+
+TEST_F(Files, ASaveThatFailsLeavesEverythingAsItWas) {
+    const CxImage old = SmoothPicture(12, 9);
+    const CxImage large = SmoothPicture(900, 700);
+    const std::string strPath = Path("old.jpg");
+    ASSERT_TRUE(old.Save(strPath, ImageType::kJpeg));
+    const Bytes file = ReadBytes(strPath);
+    std::filesystem::create_directory(Path("folder.jpg"));
+    ASSERT_EQ(mkfifo(Path("pipe.jpg").c_str(), 0600), 0);
+    std::filesystem::create_symlink("ring.jpg", Path("ring.jpg"));
+    const std::vector<std::string> names = Listing();
+
+    for (const ImageType type : {ImageType::kJpeg, ImageType::kPng, ImageType::kBmp}) {
+        const CFullDisk disk(2000);
+        EXPECT_FALSE(large.Save(strPath, type)) << "a full disk";
+        EXPECT_FALSE(large.Save(Path("new.jpg"), type));
+    }
+    EXPECT_FALSE(large.Save(strPath, ImageType::kWmf));
+    EXPECT_FALSE(large.Save(Path("folder.jpg"), ImageType::kJpeg));
+    EXPECT_FALSE(large.Save(Path("pipe.jpg"), ImageType::kJpeg)) << "a pipe is not replaced by a file";
+    EXPECT_FALSE(large.Save(Path("ring.jpg"), ImageType::kJpeg));
+    EXPECT_FALSE(large.Save(Path("missing/new.jpg"), ImageType::kJpeg));
+    EXPECT_FALSE(large.Save(strPath + "/new.jpg", ImageType::kJpeg)) << "a file is no folder";
+    EXPECT_FALSE(large.Save("/proc/new.jpg", ImageType::kJpeg)) << "a folder that not even root can write";
+    EXPECT_FALSE(large.Save(Path("folder.jpg/"), ImageType::kJpeg));
+    EXPECT_FALSE(large.Save("", ImageType::kJpeg));
+
+    EXPECT_EQ(ReadBytes(strPath), file);
+    EXPECT_EQ(Listing(), names) << "no temporary file is left behind";
+    EXPECT_TRUE(large.Save(strPath, ImageType::kJpeg));
+    EXPECT_EQ(Listing(), names);
+}
+
+TEST_F(Files, SavingOverAFileKeepsItsRightsAndItsLinks) {
+    const std::string strPath = Path("photo.jpg");
+    ASSERT_TRUE(SmoothPicture(12, 9).Save(strPath, ImageType::kJpeg));
+    ASSERT_EQ(chmod(strPath.c_str(), 0640), 0);
+    std::filesystem::create_directory(Path("links"));
+    std::filesystem::create_symlink("../photo.jpg", Path("links/photo.jpg"));
+
+    CxImage image(Path("links/photo.jpg"), ImageType::kJpeg);
+    ASSERT_TRUE(image.Rotate(90.0));
+    ASSERT_TRUE(image.Save(Path("links/photo.jpg"), ImageType::kJpeg)) << "over the opened file itself";
+    EXPECT_TRUE(std::filesystem::is_symlink(Path("links/photo.jpg")));
+    EXPECT_EQ(CxImage(strPath, ImageType::kJpeg).GetSize(), (CSize{9, 12}));
+    struct stat status {};
+    ASSERT_EQ(stat(strPath.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0640U);
+}
+
+}  // namespace

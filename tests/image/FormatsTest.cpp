@@ -1,0 +1,208 @@
+#include <Magick++.h>
+#include <gtest/gtest.h>
+
+#include "image/TestPictures.h"
+
+namespace {
+
+struct CFormat {
+    ImageType type;
+    const char* szExtension;
+    bool bAlpha;      // the format stores alpha
+    int nDifference;  // the most that a smooth picture may change; 256: it loses its colours
+};
+
+const CFormat kFormats[] = {
+    {ImageType::kBmp, "bmp", false, 0},     {ImageType::kGif, "gif", false, 24},
+    {ImageType::kJpeg, "jpg", false, 12},   {ImageType::kPng, "png", true, 0},
+    {ImageType::kIco, "ico", true, 0},      {ImageType::kTiff, "tif", true, 0},
+    {ImageType::kTga, "tga", true, 0},      {ImageType::kPcx, "pcx", false, 0},
+    {ImageType::kWbmp, "wbmp", false, 256}, {ImageType::kJp2, "jp2", true, 0},
+    {ImageType::kJpc, "jpc", false, 0},     {ImageType::kPgx, "pgx", false, 256},
+    {ImageType::kPnm, "ppm", false, 0},     {ImageType::kRas, "ras", false, 0},
+};
+
+class Formats : public CFolderTest {
+  protected:
+    // Writes a picture of the codec library's own into a file.
+    void Write(Magick::Image image, const char* szCoder, const std::string& strName) const {
+        Magick::Blob blob;
+        image.magick(szCoder);
+        image.write(&blob);
+        WriteBytes(Path(strName), {static_cast<const std::uint8_t*>(blob.data()), blob.length()});
+    }
+    CxImage Load(const std::string& strName) const {
+        return CxImage(Path(strName), FindImageTypeOfName(strName));
+    }
+
+    static Magick::Image OfSmoothPicture() {
+        const CxImage picture = SmoothPicture(41, 23);
+        return Magick::Image(41, 23, "RGB", Magick::CharPixel, picture.Pixels().Bytes().data());
+    }
+};
+
+TEST_F(Formats, EveryTypeOfTheTableComesBack) {
+    for (const CFormat& format : kFormats) {
+        SCOPED_TRACE(format.szExtension);
+        CxImage picture = SmoothPicture(41, 23);
+        const std::string strPath = Path(std::string("p.") + format.szExtension);
+        ASSERT_EQ(FindImageTypeOfName(strPath), format.type);
+        ASSERT_TRUE(picture.Save(strPath, format.type));
+        const CxImage back(strPath, format.type);
+        ASSERT_EQ(back.GetSize(), picture.GetSize());
+        EXPECT_LE(LargestDifference(back, picture), format.nDifference);
+
+        // The file under any other type is not valid, whatever its name says.
+        for (const CFormat& other : kFormats) {
+            const bool bOneFamily = (format.type == ImageType::kJp2 || format.type == ImageType::kJpc) &&
+                                    (other.type == ImageType::kJp2 || other.type == ImageType::kJpc);
+            if (other.type == format.type || bOneFamily) continue;
+            EXPECT_FALSE(CxImage(strPath, other.type).IsValid()) << other.szExtension;
+        }
+
+        // Cut files, from the header to the last quarter.
+        const Bytes file = ReadBytes(strPath);
+        for (std::size_t n = 0; n <= file.size() * 3 / 4; n += file.size() / 16 + 1) {
+            WriteBytes(strPath, std::span(file).first(n));
+            EXPECT_FALSE(CxImage(strPath, format.type).IsValid()) << n << " of " << file.size();
+        }
+    }
+}
+
+TEST_F(Formats, AlphaIsWrittenWhereTheFormatHasIt) {
+    CxImage picture = SmoothPicture(41, 23);
+    Bytes alpha;
+    for (std::size_t i = 0; i < 41 * 23; ++i) alpha.push_back(static_cast<std::uint8_t>(i * 7));
+    ASSERT_TRUE(picture.SetAlpha(alpha));
+    for (const CFormat& format : kFormats) {
+        SCOPED_TRACE(format.szExtension);
+        ASSERT_TRUE(picture.Save(Path("p"), format.type));
+        const CxImage back(Path("p"), format.type);
+        ASSERT_TRUE(back.IsValid());
+        if (format.bAlpha) {
+            EXPECT_TRUE(std::ranges::equal(back.Alpha(), alpha));
+            EXPECT_EQ(back.Pixels(), picture.Pixels()) << "colours under glass stay";
+        } else if (format.type != ImageType::kGif) {
+            EXPECT_FALSE(back.HasAlpha());
+            EXPECT_LE(LargestDifference(back, picture), format.nDifference);
+        }
+    }
+    picture.SetAlpha({});
+    EXPECT_FALSE(picture.HasAlpha());
+    EXPECT_FALSE(picture.SetAlpha(Bytes(5)));
+}
+
+TEST_F(Formats, WhatCannotBeWrittenOrReadFails) {
+    const CxImage picture = SmoothPicture(9, 9);
+    for (const ImageType type : {ImageType::kUnknown, ImageType::kWmf, static_cast<ImageType>(99)}) {
+        EXPECT_FALSE(picture.Save(Path("p"), type));
+        WriteText(Path("q.wmf"), std::string("\xD7\xCD\xC6\x9A", 4) + std::string(200, '\0'));
+        EXPECT_FALSE(CxImage(Path("q.wmf"), type).IsValid());
+    }
+    EXPECT_FALSE(CxImage().Save(Path("p"), ImageType::kPng));
+    EXPECT_FALSE(SmoothPicture(300, 300).Save(Path("p"), ImageType::kIco))
+        << "an icon has at most 256 by 256";
+    EXPECT_FALSE(SmoothPicture(65501, 1).Save(Path("p"), ImageType::kJpeg));
+    EXPECT_EQ(Listing(), std::vector<std::string>{"q.wmf"});
+}
+
+// A script, a text, a vector picture and an address under each of the names must not be followed.
+TEST_F(Formats, ContentNeverChoosesTheDecoder) {
+    const char* const kTexts[] = {"<svg xmlns='http://www.w3.org/2000/svg' width='5' height='5'/>",
+                                  "push graphic-context\nviewbox 0 0 9 9\nimage over 0,0 0,0 '/etc/passwd'\n",
+                                  "<?xml version='1.0'?><image size='5x5'><read filename='xc:red'/></image>",
+                                  "%!PS-Adobe-3.0\nshowpage\n",
+                                  "label:hello",
+                                  "@/etc/passwd"};
+    for (const char* const szText : kTexts) {
+        WriteText(Path("p"), szText);
+        for (const CFormat& format : kFormats)
+            EXPECT_FALSE(CxImage(Path("p"), format.type).IsValid()) << szText;
+    }
+    // A name with a coder in it is a name.
+    EXPECT_FALSE(CxImage("xc:red", ImageType::kPng).IsValid());
+    EXPECT_FALSE(CxImage("png:" + Path("p"), ImageType::kPng).IsValid());
+}
+
+TEST_F(Formats, DepthsAndColoursComeOutRight) {
+    Magick::InitializeMagick(nullptr);
+    struct CCase {
+        const char* szName;
+        const char* szCoder;
+        int nBpp;
+        CColor cr;
+        Magick::Image image;
+    };
+    const Magick::Geometry size(12, 7);
+    const Magick::Image color(size, Magick::ColorRGB(200 / 255.0, 100 / 255.0, 50 / 255.0));
+    const Magick::Image grey(size, Magick::ColorGray(100 / 255.0));
+    const CColor crColor{200, 100, 50};
+    const CColor crGrey{100, 100, 100};
+    const auto with = [](Magick::Image image, auto change) {
+        change(image);
+        return image;
+    };
+    const auto depth16 = [](Magick::Image& image) { image.depth(16); };
+    const auto interlaced = [](Magick::Image& image) { image.interlaceType(Magick::PlaneInterlace); };
+    const auto ink = [](Magick::Image& image) { image.colorSpace(Magick::CMYKColorspace); };
+    const CCase cases[] = {
+        {"grey.png", "PNG", 8, crGrey, grey},
+        {"grey16.png", "PNG", 8, crGrey,
+         with(grey,
+              [](Magick::Image& i) {
+                  i.depth(16);
+                  i.type(Magick::GrayscaleType);
+              })},
+        {"color16.png", "PNG48", 24, crColor, with(color, depth16)},
+        {"interlaced.png", "PNG24", 24, crColor, with(color, interlaced)},
+        {"palette.png", "PNG8", 8, crColor, color},
+        {"color16.tif", "TIFF", 24, crColor, with(color, depth16)},
+        {"ink.tif", "TIFF", 24, crColor, with(color, ink)},
+        {"grey.tif", "TIFF", 8, crGrey, with(grey, [](Magick::Image& i) { i.type(Magick::GrayscaleType); })},
+        {"grey16.pgm", "PGM", 8, crGrey, with(grey, depth16)},
+        {"interlaced.gif", "GIF", 1, crColor, with(color, interlaced)},
+        {"old.bmp", "BMP2", 24, crColor, color},
+        {"rle.tga", "TGA", 24, crColor,
+         with(color, [](Magick::Image& i) { i.compressType(Magick::RLECompression); })},
+    };
+    for (const CCase& c : cases) {
+        SCOPED_TRACE(c.szName);
+        Write(c.image, c.szCoder, c.szName);
+        CxImage image = Load(c.szName);
+        ASSERT_EQ(image.GetSize(), (CSize{12, 7}));
+        for (int x = 0; x < 12; ++x) {
+            const CColor cr = image.GetPixelColor(x, x % 7);
+            EXPECT_NEAR(cr.r, c.cr.r, 1);
+            EXPECT_NEAR(cr.g, c.cr.g, 1);
+            EXPECT_NEAR(cr.b, c.cr.b, 1);
+        }
+        EXPECT_EQ(image.GetBpp(), c.nBpp);
+        image.SetPixelColor(0, 0, {});
+        EXPECT_EQ(image.GetBpp(), 24) << "a picture that was written to has 24 bits";
+    }
+
+    // A palette of sixteen colours in a file of four bits a pixel.
+    Magick::Image few = OfSmoothPicture();
+    few.quantizeColors(16);
+    few.quantizeDither(false);
+    few.quantize();
+    Write(few, "BMP3", "few.bmp");
+    EXPECT_EQ(Load("few.bmp").GetBpp(), 4);
+    Bytes palette = ReadBytes(Path("few.bmp"));
+    EXPECT_EQ(palette[28], 4);
+}
+
+TEST_F(Formats, OfSeveralPicturesTheFirstIsTaken) {
+    std::vector<Magick::Image> images = {OfSmoothPicture(),
+                                         Magick::Image(Magick::Geometry(5, 5), Magick::Color("red"))};
+    for (const char* const szName : {"many.gif", "many.tif"}) {
+        for (Magick::Image& image : images)
+            image.magick(FindImageTypeOfName(szName) == ImageType::kGif ? "GIF" : "TIFF");
+        Magick::Blob blob;
+        Magick::writeImages(images.begin(), images.end(), &blob, true);
+        WriteBytes(Path(szName), {static_cast<const std::uint8_t*>(blob.data()), blob.length()});
+        EXPECT_LE(LargestDifference(Load(szName), SmoothPicture(41, 23)), 24) << szName;
+    }
+}
+
+}  // namespace

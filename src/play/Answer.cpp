@@ -1,0 +1,23 @@
+#include "play/Answer.h"
+
+const char* NameOf(EQuestion question) {
+    switch (question) {
+        case EQuestion::Box:
+            return "box";
+        case EQuestion::Open:
+            return "open";
+        case EQuestion::Save:
+            return "save";
+        case EQuestion::Color:
+            return "color";
+        case EQuestion::Font:
+            return "font";
+        case EQuestion::Menu:
+            return "menu";
+        case EQuestion::Size:
+            return "size";
+        case EQuestion::Modal:
+            break;
+    }
+    return "dialog";
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "image/Color.h"
+#include "image/Geometry.h"
+#include "window/Choosers.h"
+#include "window/FileDialogs.h"
+#include "window/MessageBoxes.h"
+#include "window/PopupMenus.h"
+
+// What can be asked of the user. Modal: a dialog of the program's own that no other kind stands for.
+enum class EQuestion { Box, Open, Save, Color, Font, Menu, Size, Modal };
+
+// The name of a kind of question in scripts and messages.
+const char* NameOf(EQuestion question);
+
+// One answer that waits for its question. Which field counts depends on the question.
+struct CAnswer {
+    EQuestion question = EQuestion::Modal;
+    // Waits for the next question of any kind but Box, and leaves it without a choice.
+    bool bCancel = false;
+    EBoxAnswer box = EBoxAnswer::Ok;
+    std::string strPath;  // whole path
+    CColor color;
+    CFontChoice font;
+    CSize size;
+    int nMenuId = 0;
+    int nLine = 0;  // of the script that gave it, 0 for none
+};
+
+// A question other than a message box, as the program put it. Which fields count depends on the kind.
+struct CAsked {
+    EQuestion question = EQuestion::Modal;
+    CFileDialogRequest request;
+    CColor colorStart;
+    CFontChoice fontStart;
+    std::vector<CMenuItem> arrItems;
+    int nDialog = 0;  // number of the program's own dialog
+};
+
+// What went amiss between questions and answers.
+enum class EProblem {
+    Missing,     // nothing waited: the question took its default
+    Mismatch,    // answers waited, but none for a question of this kind: the same default
+    Impossible,  // the answer cannot be given: no such button, no such menu item, or it is grey
+};
+
+struct CProblem {
+    EProblem kind = EProblem::Missing;
+    std::string strText;
+};

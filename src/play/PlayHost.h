@@ -1,0 +1,76 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "window/Bitmaps.h"
+#include "window/Dialog.h"
+#include "window/ScrollView.h"
+
+class CScriptedPlatform;
+
+// The window of a dialog where there is no window: keeps dialog and views painted between events as the real
+// one does, and is the user's hand in it. What the user could not do is not done.
+//
+// Operations of the hand return an empty text, or why the thing cannot be done. They return when the event
+// and all that it wanted painted are over.
+class CPlayHost : private CDialogHost, private CViewHost {
+  public:
+    // Both outlive the host, and so do the pictures, which may be null for a window without a skin. Nothing
+    // of the dialog is called yet but Attach. As long as the host lives, the platform keeps the dialog
+    // painted while it asks a question.
+    CPlayHost(CScriptedPlatform& platform, CDialog& dialog, CBitmaps* pBitmaps = nullptr);
+    // Ends the dialog's window: OnDestroy if Init has run, and its timers go.
+    ~CPlayHost() override;
+    CPlayHost(const CPlayHost&) = delete;
+    CPlayHost& operator=(const CPlayHost&) = delete;
+
+    CDialog& Dialog() { return m_dialog; }
+    CScriptedPlatform& Platform() { return m_platform; }
+
+    // OnInitDialog, and the first paint.
+    void Init();
+    // Paints the dialog and the views that are shown until nothing wants to be painted. False if they want it
+    // without end.
+    bool Pump();
+    int PaintCount() const { return m_nPaints; }
+
+    // A click of a button, a bitmap label, a check box or a radio button.
+    [[nodiscard]] std::string Click(int nId);
+    // A click on a row of a list.
+    [[nodiscard]] std::string SelectRow(int nId, int nRow);
+    [[nodiscard]] std::string MoveSlider(int nId, int nPos);
+    // Replaces the text of an edit; what is beyond its most characters does not go in.
+    [[nodiscard]] std::string Type(int nId, const std::string& strText);
+    [[nodiscard]] std::string ScrollView(int nId, CPoint pt);
+    // A key that the dialog does not take means Ok and Cancel as in every dialog.
+    [[nodiscard]] std::string Key(const CKeyEvent& event);
+    // pt in client pixels of the view in that control.
+    [[nodiscard]] std::string MouseOnView(int nId, EMouseAction action, EMouseButton button, CPoint pt,
+                                          unsigned nKeys = 0);
+    // pt in client pixels of the dialog. A move may go anywhere; the rest only beside all controls.
+    [[nodiscard]] std::string MouseOnWindow(EMouseAction action, EMouseButton button, CPoint pt,
+                                            unsigned nKeys = 0);
+
+    // The shown control that the mouse is over; null beside all of them.
+    const CControl* ControlAt(CPoint pt) const;
+    CScrollView* ViewOf(int nId);
+
+  private:
+    void OnPaintWanted() override {}
+    void OnDrawn() override {}
+    void OnEnded() override {}
+    void OnScrollChanged() override {}
+
+    std::string Reach(int nId, const CControl*& pControl) const;
+    CMouseEvent MakeEvent(EMouseAction action, EMouseButton button, CPoint pt, unsigned nKeys);
+    std::string CheckButton(EMouseAction action, EMouseButton button) const;
+    std::string Done();
+
+    CScriptedPlatform& m_platform;
+    CDialog& m_dialog;
+    std::vector<CScrollView*> m_arrViews;
+    unsigned m_nHeld = 0;  // mouse buttons that are down, as flags
+    int m_nPaints = 0;
+    bool m_bInit = false;
+};

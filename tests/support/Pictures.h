@@ -1,0 +1,60 @@
+#pragma once
+
+#include "image/Image.h"
+
+// Pictures that tests make, and plain second forms of what is done to them.
+
+// Every pixel of a picture up to 256 by 256 has a colour of its own; nBlue tells pictures apart.
+inline CPixels NumberedPixels(int nWidth, int nHeight, int nBlue = 0) {
+    CPixels pixels;
+    if (!pixels.Create(nWidth, nHeight)) return pixels;
+    const CPixelView view = pixels.MutableView();
+    for (int y = 0; y < nHeight; ++y)
+        for (int x = 0; x < nWidth; ++x)
+            view.Set(x, y,
+                     {static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y),
+                      static_cast<std::uint8_t>(nBlue + x / 256 * 3 + y / 256 * 5)});
+    return pixels;
+}
+
+inline CxImage NumberedImage(int nWidth, int nHeight, int nBlue = 0) {
+    CxImage image;
+    image.CreateFromHBITMAP(NumberedPixels(nWidth, nHeight, nBlue));
+    return image;
+}
+
+inline CxImage FlatImage(int nWidth, int nHeight, CColor color) {
+    CPixels pixels;
+    pixels.CreateFilled(nWidth, nHeight, color);
+    CxImage image;
+    image.CreateFromHBITMAP(pixels);
+    return image;
+}
+
+// Column and row counted from the top left corner.
+inline CColor PixelAt(const CPixels& pixels, int x, int y) {
+    return pixels.View().Get(x, y);
+}
+
+// The nearest-pixel scaling, pixel by pixel, rows counted from the bottom.
+inline CPixels NaiveResample(const CPixels& pixels, int nWidth, int nHeight) {
+    CPixels result;
+    if (!result.Create(nWidth, nHeight)) return result;
+    const float sx = static_cast<float>(pixels.Width()) / static_cast<float>(nWidth);
+    const float sy = static_cast<float>(pixels.Height()) / static_cast<float>(nHeight);
+    const CPixelView view = result.MutableView();
+    for (int y = 0; y < nHeight; ++y)
+        for (int x = 0; x < nWidth; ++x) {
+            const int xFrom = static_cast<int>(static_cast<float>(x) * sx);
+            const int yFrom = static_cast<int>(static_cast<float>(y) * sy);
+            view.Set(x, nHeight - 1 - y, PixelAt(pixels, xFrom, pixels.Height() - 1 - yFrom));
+        }
+    return result;
+}
+
+// Paints over every pixel, as an edit does.
+inline void PaintOver(CxImage& image, CColor color) {
+    const CPixelView view = image.MutableView();
+    for (int y = 0; y < view.nHeight; ++y)
+        for (int x = 0; x < view.nWidth; ++x) view.Set(x, y, color);
+}

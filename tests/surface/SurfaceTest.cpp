@@ -1,0 +1,106 @@
+#include "surface/Surface.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "support/Pictures.h"
+
+namespace {
+
+constexpr CColor kBlack{};
+constexpr CColor kRed{200, 10, 20};
+
+// Compares every pixel with what a function of column and row says.
+template <typename T>
+void ExpectPixels(const CSurface& surface, T expected) {
+    for (int y = 0; y < surface.Height(); ++y)
+        for (int x = 0; x < surface.Width(); ++x)
+            ASSERT_EQ(surface.GetPixel(x, y).ToRef(), CColor(expected(x, y)).ToRef()) << x << "," << y;
+}
+
+}  // namespace
+
+TEST(Surface, FillsAndFramesAreCutAtTheEdges) {
+    struct {
+        CRect rc;
+    } const kBoxes[] = {{{2, 3, 7, 6}},    {{-4, -4, 3, 3}},  {{6, 4, 40, 40}}, {{-9, -9, 40, 40}},
+                        {{5, 5, 5, 9}},    {{7, 2, 3, 6}},    {{3, 3, 4, 4}},   {{2, 4, 9, 5}},
+                        {{12, 0, 14, 10}}, {{0, -5, 12, -1}}, {{0, 0, 12, 10}}};
+    for (const auto& [rc] : kBoxes) {
+        CSurface filled(12, 10);
+        filled.FillRect(rc, kRed);
+        ExpectPixels(filled, [&](int x, int y) { return rc.Contains({x, y}) ? kRed : kBlack; });
+        if (rc.IsEmpty()) continue;
+        CSurface framed(12, 10);
+        framed.FrameRect(rc, kRed);
+        const CRect rcInner{rc.left + 1, rc.top + 1, rc.right - 1, rc.bottom - 1};
+        ExpectPixels(framed, [&](int x, int y) {
+            return rc.Contains({x, y}) && !rcInner.Contains({x, y}) ? kRed : kBlack;
+        });
+    }
+}
+
+TEST(Surface, PixelsOutsideReadBlackAndTakeNothing) {
+    CSurface surface(3, 2);
+    surface.FillRect(surface.Bounds(), kRed);
+    for (const CPoint pt : {CPoint{-1, 0}, {0, -1}, {3, 0}, {0, 2}}) {
+        surface.SetPixel(pt.x, pt.y, {1, 2, 3});
+        EXPECT_EQ(surface.GetPixel(pt.x, pt.y), kBlack);
+    }
+    ExpectPixels(surface, [](int, int) { return kRed; });
+}
+
+TEST(Surface, CopiesOfPartsAgreeWithAPixelByPixelCopy) {
+    const unsigned nSeed = std::random_device{}();
+    SCOPED_TRACE(nSeed);
+    std::mt19937 random(nSeed);
+    const auto pick = [&](int nFrom, int nTo) {
+        return std::uniform_int_distribution<int>(nFrom, nTo)(random);
+    };
+    const CPixels pixels = NumberedPixels(9, 7, 40);
+    for (int nRound = 0; nRound < 2000; ++nRound) {
+        const CRect rcSource{pick(-3, 9), pick(-3, 7), pick(-3, 12), pick(-3, 10)};
+        const int x0 = pick(-12, 14);
+        const int y0 = pick(-12, 12);
+        const int nFactor = pick(1, 3);
+        CSurface part(12, 10);
+        part.DrawPart(pixels, rcSource, x0, y0);
+        ExpectPixels(part, [&](int x, int y) {
+            const CPoint pt{x - x0 + rcSource.left, y - y0 + rcSource.top};
+            const bool bIn = rcSource.Contains(pt) && CRect{0, 0, 9, 7}.Contains(pt);
+            return bIn ? PixelAt(pixels, pt.x, pt.y) : kBlack;
+        });
+        CSurface enlarged(12, 10);
+        enlarged.DrawEnlarged(pixels, x0, y0, nFactor);
+        ExpectPixels(enlarged, [&](int x, int y) {
+            const bool bIn = CRect::FromPlace(x0, y0, 9 * nFactor, 7 * nFactor).Contains({x, y});
+            return bIn ? PixelAt(pixels, (x - x0) / nFactor, (y - y0) / nFactor) : kBlack;
+        });
+        if (HasFatalFailure()) return;
+    }
+}
+
+TEST(Surface, DrawingIsSeenByNoPictureThatSharesThePixels) {
+    const CPixels pixels = NumberedPixels(5, 4);
+    CSurface surface(pixels);
+    CSurface other = surface;
+    surface.FillRect({0, 0, 2, 2}, kRed);
+    EXPECT_EQ(pixels, NumberedPixels(5, 4));
+    EXPECT_EQ(other.Pixels(), pixels);
+    // A copy of its own pixels stays whole while it is drawn over them.
+    const CPixels own = other.Pixels();
+    other.DrawPixels(own, 1, 1);
+    ExpectPixels(other, [&](int x, int y) {
+        return x > 0 && y > 0 ? PixelAt(pixels, x - 1, y - 1) : PixelAt(pixels, x, y);
+    });
+}
+
+TEST(Surface, ASizeThatCannotBeIsAnEmptySurface) {
+    for (CSurface surface : {CSurface(0, 5), CSurface(5, -1), CSurface(100000, 100000)}) {
+        EXPECT_EQ(surface.Bounds(), CRect{});
+        surface.FillRect({0, 0, 9, 9}, kRed);
+        surface.DrawPixels(NumberedPixels(3, 3), 0, 0);
+        EXPECT_EQ(surface.GetPixel(0, 0), kBlack);
+    }
+}

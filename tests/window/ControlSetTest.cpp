@@ -1,0 +1,123 @@
+#include "window/ControlSet.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr CControlTemplate kTemplate[] = {
+    {1, EControlKind::BitmapButton, {0, 0, 10, 10}, "Open"},
+    {2, EControlKind::Slider, {0, 10, 10, 20}, "", true, false},
+    {3, EControlKind::Edit, {0, 20, 10, 30}, "words", false, true, 22},
+    {4, EControlKind::IconList, {0, 30, 10, 40}},
+};
+
+class CRecorder : public CControlObserver {
+  public:
+    void OnControlChanged(const CControl& control, EControlChange change) override {
+        m_arrChanges.emplace_back(control.nId, change);
+    }
+    std::vector<std::pair<int, EControlChange>> Take() { return std::exchange(m_arrChanges, {}); }
+
+  private:
+    std::vector<std::pair<int, EControlChange>> m_arrChanges;
+};
+
+using CChanges = std::vector<std::pair<int, EControlChange>>;
+
+}  // namespace
+
+TEST(ControlSet, TellsTheObserverOfRealChangesOnly) {
+    CControlSet controls(kTemplate);
+    CRecorder recorder;
+    controls.Attach(&recorder);
+    using enum EControlChange;
+
+    const auto expect = [&](const CChanges& changes) { EXPECT_EQ(recorder.Take(), changes); };
+    const auto setAll = [&] {
+        controls.Show(1, false);
+        controls.Enable(1, false);
+        controls.Check(1, true);
+        controls.SetText(3, "other");
+        controls.Move(2, {1, 1, 2, 2});
+        controls.SetPosition(2, 55);
+        controls.Select(4, 2);
+    };
+    setAll();
+    expect({{1, Shown}, {1, Enabled}, {1, Checked}, {3, Text}, {2, Place}, {2, Position}, {4, Selection}});
+    setAll();
+    expect({});
+    EXPECT_FALSE(controls.IsShown(1) || controls.IsEnabled(1));
+    EXPECT_TRUE(controls.IsChecked(1));
+    EXPECT_EQ(controls.Text(3), "other");
+    EXPECT_EQ(controls.Find(3)->strCaption, "words");
+    EXPECT_EQ(controls.Find(2)->rcPlace, (CRect{1, 1, 2, 2}));
+
+    controls.Attach(nullptr);
+    controls.Show(1, true);
+    expect({});
+}
+
+TEST(ControlSet, PassesOverIdsThatItDoesNotHave) {
+    CControlSet controls(kTemplate);
+    CRecorder recorder;
+    controls.Attach(&recorder);
+    controls.Show(99, true);
+    controls.Enable(99, true);
+    controls.Check(99, true);
+    controls.SetText(99, "x");
+    controls.SetRange(99, 0, 1);
+    controls.SetPosition(99, 5);
+    controls.SetItems(99, {{"a", 0}});
+    controls.Select(99, 0);
+    controls.SetFocus(99);
+    controls.Move(99, {});
+    EXPECT_TRUE(recorder.Take().empty());
+    EXPECT_EQ(controls.Find(99), nullptr);
+    EXPECT_FALSE(controls.IsShown(99) || controls.IsEnabled(99) || controls.IsChecked(99));
+    EXPECT_EQ(controls.Selection(99), -1);
+    EXPECT_EQ(controls.Text(99), "");
+}
+
+TEST(ControlSet, KeepsPositionsInTheirRange) {
+    CControlSet controls(kTemplate);
+    controls.SetRange(2, -100, 100);
+    for (const auto& [nSet, nGot] : {std::pair{100, 100}, {101, 100}, {-500, -100}, {7, 7}}) {
+        controls.SetPosition(2, nSet);
+        EXPECT_EQ(controls.Position(2), nGot);
+    }
+    controls.SetPosition(2, -80);
+    controls.SetRange(2, 0, 50);
+    EXPECT_EQ(controls.Position(2), 0);
+}
+
+TEST(ControlSet, ASelectionGoesWithItsRow) {
+    CControlSet controls(kTemplate);
+    controls.SetItems(4, {{"a", 0}, {"b", 1}, {"c", 2}});
+    controls.Select(4, 1);
+    controls.SetItems(4, {{"d", 0}, {"e", 1}});
+    EXPECT_EQ(controls.Selection(4), 1);
+    controls.SetItems(4, {{"f", 0}});
+    EXPECT_EQ(controls.Selection(4), -1);
+}
+
+TEST(ControlSet, FocusGoesToControlsThatCanTakeIt) {
+    CControlSet controls(kTemplate);
+    CRecorder recorder;
+    controls.SetFocus(1);
+    controls.Attach(&recorder);
+    controls.SetFocus(2);  // disabled
+    controls.SetFocus(3);  // hidden
+    EXPECT_EQ(controls.Focus(), 1);
+    EXPECT_TRUE(recorder.Take().empty());
+    controls.SetFocus(1);
+    EXPECT_EQ(recorder.Take(), (CChanges{{1, EControlChange::Focus}}));
+
+    controls.Show(4, false);
+    EXPECT_EQ(controls.Focus(), 1);
+    controls.Show(1, false);
+    EXPECT_EQ(controls.Focus(), 0);
+    controls.Show(4, true);
+    controls.SetFocus(4);
+    controls.Enable(4, false);
+    EXPECT_EQ(controls.Focus(), 0);
+}

@@ -92,7 +92,7 @@ BENCHMARK(PlainPass)
     ->Unit(benchmark::kMillisecond);
 
 void Copy(benchmark::State& state) {
-    const CxImage image = Picture();
+    const CxImage& image = Picture();
     for (auto _ : state) {
         CxImage copy = image;
         benchmark::DoNotOptimize(copy);
@@ -102,7 +102,7 @@ void Copy(benchmark::State& state) {
 BENCHMARK(Copy);
 
 void CopyAndWriteOne(benchmark::State& state) {
-    const CxImage image = Picture();
+    const CxImage& image = Picture();
     for (auto _ : state) {
         CxImage copy = image;
         copy.SetPixelColor(5, 5, {1, 2, 3});

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -22,8 +23,9 @@ std::string FollowLinks(std::string strPath) {
         char szLink[4096];
         const ssize_t nLength = readlink(strPath.c_str(), szLink, sizeof(szLink));
         if (nLength < 0) return strPath;
-        const std::string strLink(szLink, static_cast<std::size_t>(nLength));
-        strPath = strLink.starts_with('/') ? strLink : FolderOf(strPath) + strLink;
+        std::string strLink(szLink, static_cast<std::size_t>(nLength));
+        if (!strLink.starts_with('/')) strLink.insert(0, FolderOf(strPath));
+        strPath = std::move(strLink);
     }
     return {};
 }

@@ -17,9 +17,6 @@ namespace {
 
 using CVector16 = std::uint8_t __attribute__((vector_size(16)));
 
-// Five pixels in the other order; byte 15 is of no account.
-constexpr CVector16 kFiveReversed = {12, 13, 14, 9, 10, 11, 6, 7, 8, 3, 4, 5, 0, 1, 2, 15};
-
 // The rows must not overlap. Sixteen bytes are moved for five pixels, so the loop stops where the sixteenth
 // would fall behind the row.
 FOTARIUM_VECTOR_CLONES
@@ -30,7 +27,8 @@ void MirrorPixelRow(const std::uint8_t* __restrict pSrc, std::uint8_t* __restric
         pFrom -= 15;
         CVector16 five;
         std::memcpy(&five, pFrom, 16);
-        five = __builtin_shuffle(five, kFiveReversed);
+        // The other order; byte 15 is of no account.
+        five = __builtin_shufflevector(five, five, 12, 13, 14, 9, 10, 11, 6, 7, 8, 3, 4, 5, 0, 1, 2, 15);
         std::memcpy(pDst + 3 * x, &five, 16);
     }
     for (; x < nWidth; ++x) {
@@ -91,37 +89,46 @@ using CVector4 = std::uint32_t __attribute__((vector_size(16)));
 // Four neighbours of a source row as four numbers, in the order in which the rows of the result take them.
 template <bool kDownwards>
 [[gnu::always_inline]] inline CVector4 LoadFour(const std::uint8_t* pPixels) {
-    constexpr CVector16 kAscending = {0, 1, 2, 12, 3, 4, 5, 12, 6, 7, 8, 12, 9, 10, 11, 12};
-    constexpr CVector16 kDescending = {9, 10, 11, 12, 6, 7, 8, 12, 3, 4, 5, 12, 0, 1, 2, 12};
     CVector16 bytes;
     std::memcpy(&bytes, kDownwards ? pPixels : pPixels - 9, 16);
-    return reinterpret_cast<CVector4>(__builtin_shuffle(bytes, kDownwards ? kAscending : kDescending));
+    if constexpr (kDownwards) {
+        bytes = __builtin_shufflevector(bytes, bytes, 0, 1, 2, 12, 3, 4, 5, 12, 6, 7, 8, 12, 9, 10, 11, 12);
+    } else {
+        bytes = __builtin_shufflevector(bytes, bytes, 9, 10, 11, 12, 6, 7, 8, 12, 3, 4, 5, 12, 0, 1, 2, 12);
+    }
+    return reinterpret_cast<CVector4>(bytes);
 }
 
 // Twelve bytes of pixels, then four that a later store covers.
 [[gnu::always_inline]] inline CVector16 Pack(CVector4 pixels) {
-    constexpr CVector16 kPacked = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 3, 7, 11, 15};
-    return __builtin_shuffle(reinterpret_cast<CVector16>(pixels), kPacked);
+    const auto bytes = reinterpret_cast<CVector16>(pixels);
+    return __builtin_shufflevector(bytes, bytes, 0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 3, 7, 11, 15);
+}
+
+// Weaves the first or the second halves of two vectors.
+[[gnu::always_inline]] inline CVector4 WeaveLow(CVector4 a, CVector4 b) {
+    return __builtin_shufflevector(a, b, 0, 4, 1, 5);
+}
+[[gnu::always_inline]] inline CVector4 WeaveHigh(CVector4 a, CVector4 b) {
+    return __builtin_shufflevector(a, b, 2, 6, 3, 7);
 }
 
 // Four rows of kQuad pixels, each from a column of the source.
 template <bool kDownwards>
 [[gnu::always_inline]] inline void TransposeQuad(const std::uint8_t* pSrc, std::ptrdiff_t nRight,
                                                  CVector16 (&rows)[kQuad]) {
-    constexpr CVector4 kLow = {0, 4, 1, 5};
-    constexpr CVector4 kHigh = {2, 6, 3, 7};
     const CVector4 a = LoadFour<kDownwards>(pSrc);
     const CVector4 b = LoadFour<kDownwards>(pSrc + nRight);
     const CVector4 c = LoadFour<kDownwards>(pSrc + 2 * nRight);
     const CVector4 d = LoadFour<kDownwards>(pSrc + 3 * nRight);
-    const CVector4 acLow = __builtin_shuffle(a, c, kLow);
-    const CVector4 acHigh = __builtin_shuffle(a, c, kHigh);
-    const CVector4 bdLow = __builtin_shuffle(b, d, kLow);
-    const CVector4 bdHigh = __builtin_shuffle(b, d, kHigh);
-    rows[0] = Pack(__builtin_shuffle(acLow, bdLow, kLow));
-    rows[1] = Pack(__builtin_shuffle(acLow, bdLow, kHigh));
-    rows[2] = Pack(__builtin_shuffle(acHigh, bdHigh, kLow));
-    rows[3] = Pack(__builtin_shuffle(acHigh, bdHigh, kHigh));
+    const CVector4 acLow = WeaveLow(a, c);
+    const CVector4 acHigh = WeaveHigh(a, c);
+    const CVector4 bdLow = WeaveLow(b, d);
+    const CVector4 bdHigh = WeaveHigh(b, d);
+    rows[0] = Pack(WeaveLow(acLow, bdLow));
+    rows[1] = Pack(WeaveHigh(acLow, bdLow));
+    rows[2] = Pack(WeaveLow(acHigh, bdHigh));
+    rows[3] = Pack(WeaveHigh(acHigh, bdHigh));
 }
 
 template <bool kDownwards>

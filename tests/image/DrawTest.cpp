@@ -55,11 +55,10 @@ class CBoxRasterizer : public CTextRasterizer {
     CTextMask Rasterize(const CTextFont& font, const std::string& strText) override {
         m_font = font;
         CTextMask mask{4 * static_cast<int>(strText.size()), font.nHeight, {}};
-        mask.coverage.assign(static_cast<std::size_t>(mask.nWidth * mask.nHeight), 127);
-        for (int y = 1; y + 1 < mask.nHeight; ++y) {
-            for (int x = 0; x < mask.nWidth; ++x) {
-                if (x % 4 != 3) mask.coverage[static_cast<std::size_t>(y * mask.nWidth + x)] = 128;
-            }
+        const auto nStride = static_cast<std::size_t>(mask.nWidth);
+        mask.coverage.assign(nStride * static_cast<std::size_t>(mask.nHeight), 127);
+        for (std::size_t i = nStride; i + nStride < mask.coverage.size(); ++i) {
+            if (i % nStride % 4 != 3) mask.coverage[i] = 128;
         }
         return mask;
     }

@@ -37,7 +37,7 @@ inline Bytes MakeJpeg(const Bytes& samples, int nWidth, int nHeight, const CJpeg
     jpeg_set_quality(&info, kind.nQuality, TRUE);
     if (kind.bProgressive) jpeg_simple_progression(&info);
     jpeg_start_compress(&info, TRUE);
-    const std::size_t nStride = static_cast<std::size_t>(nWidth * info.input_components);
+    const std::size_t nStride = samples.size() / static_cast<std::size_t>(nHeight);
     while (info.next_scanline < info.image_height) {
         auto* pRow = const_cast<JSAMPROW>(samples.data() + nStride * info.next_scanline);
         jpeg_write_scanlines(&info, &pRow, 1);
@@ -45,7 +45,7 @@ inline Bytes MakeJpeg(const Bytes& samples, int nWidth, int nHeight, const CJpeg
     jpeg_finish_compress(&info);
     Bytes file(pFile, pFile + nSize);
     jpeg_destroy_compress(&info);
-    std::free(pFile);  // NOLINT(cppcoreguidelines-no-malloc): the library took it
+    std::free(pFile);  // NOLINT(cppcoreguidelines-*): the library took it
     return file;
 }
 

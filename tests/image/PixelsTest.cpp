@@ -15,6 +15,7 @@ TEST(Pixels, AWriteIsNeverSeenThroughAnotherCopy) {
     for (const int nSide : {9, 1300}) {  // small blocks, and large ones that are kept for the next picture
         std::vector<CxImage> images(4, RandomPicture(random, nSide, nSide));
         std::vector<Bytes> models;
+        models.reserve(images.size());
         for (const CxImage& image : images)
             models.emplace_back(image.Pixels().Bytes().begin(), image.Pixels().Bytes().end());
 

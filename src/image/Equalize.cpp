@@ -1,9 +1,11 @@
 #include "image/Equalize.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
 #include "image/ColorSpace.h"
+#include "image/VectorClones.h"
 
 namespace {
 
@@ -29,19 +31,48 @@ std::optional<CLevels> EqualLevels(CConstPixelView view) {
     return levels;
 }
 
+// One channel of some pixels behind each other, the form that vectors work on.
+constexpr std::size_t kBlock = 512;
+using CChannel = std::array<std::uint8_t, kBlock>;
+
+FOTARIUM_VECTOR_CLONES
+void EqualizeBlock(std::uint8_t* pPixels, std::size_t nPixels, const CLevels& levels) {
+    CChannel a{};
+    CChannel b{};
+    CChannel c{};
+    for (std::size_t i = 0; i < nPixels; ++i) {
+        a[i] = pPixels[3 * i];
+        b[i] = pPixels[3 * i + 1];
+        c[i] = pPixels[3 * i + 2];
+    }
+    for (std::size_t i = 0; i < kBlock; ++i) {
+        const CColor yuv = ColorRGBtoYUV({a[i], b[i], c[i]});
+        a[i] = yuv.r;
+        b[i] = yuv.g;
+        c[i] = yuv.b;
+    }
+    for (std::size_t i = 0; i < kBlock; ++i) a[i] = levels[a[i]];
+    for (std::size_t i = 0; i < kBlock; ++i) {
+        const CColor rgb = ColorYUVtoRGB({a[i], b[i], c[i]});
+        a[i] = rgb.r;
+        b[i] = rgb.g;
+        c[i] = rgb.b;
+    }
+    for (std::size_t i = 0; i < nPixels; ++i) {
+        pPixels[3 * i] = a[i];
+        pPixels[3 * i + 1] = b[i];
+        pPixels[3 * i + 2] = c[i];
+    }
+}
+
 }  // namespace
 
 void EqualizeHistogram(CPixelView view) {
     const std::optional<CLevels> levels = EqualLevels(view);
     if (!levels) return;
-    const std::size_t nBytes = view.Stride() * static_cast<std::size_t>(view.nHeight);
-    for (std::size_t i = 0; i < nBytes; i += 3) {
-        std::uint8_t* const p = view.pBits + i;
-        CColor yuv = ColorRGBtoYUV({p[0], p[1], p[2]});
-        yuv.r = (*levels)[yuv.r];
-        const CColor rgb = ColorYUVtoRGB(yuv);
-        p[0] = rgb.r;
-        p[1] = rgb.g;
-        p[2] = rgb.b;
+    const std::size_t nPixels =
+        static_cast<std::size_t>(view.nWidth) * static_cast<std::size_t>(view.nHeight);
+    for (std::size_t i = 0; i < nPixels; i += kBlock) {
+        EqualizeBlock(view.pBits + 3 * i, std::min(kBlock, nPixels - i), *levels);
     }
 }

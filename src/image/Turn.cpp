@@ -6,12 +6,7 @@
 #include <vector>
 
 #include "image/Geometry.h"
-
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
-#define FOTARIUM_VECTOR_CLONES __attribute__((target_clones("avx2", "default")))
-#else
-#define FOTARIUM_VECTOR_CLONES
-#endif
+#include "image/VectorClones.h"
 
 namespace {
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ostream>
+
 #include "image/Image.h"
 
 // Pictures that tests make, and plain second forms of what is done to them.
@@ -50,6 +52,17 @@ inline CPixels NaiveResample(const CPixels& pixels, int nWidth, int nHeight) {
             view.Set(x, nHeight - 1 - y, PixelAt(pixels, xFrom, pixels.Height() - 1 - yFrom));
         }
     return result;
+}
+
+// What a failed comparison shows.
+inline void PrintTo(const CPixels& pixels, std::ostream* pStream) {
+    *pStream << pixels.Width() << " by " << pixels.Height() << " pixels";
+}
+inline void PrintTo(const CSize& size, std::ostream* pStream) {
+    *pStream << size.cx << " by " << size.cy;
+}
+inline void PrintTo(const CPoint& pt, std::ostream* pStream) {
+    *pStream << "(" << pt.x << "," << pt.y << ")";
 }
 
 // Paints over every pixel, as an edit does.

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QImage>
+#include <QModelIndex>
+#include <QPoint>
+#include <QString>
+
+class CDialogView;
+class QFileDialog;
+class QTreeView;
+class QWidget;
+
+// The hands and eyes of the tour: acts on the windows that are up by events as mouse and keyboard send them,
+// and looks at what they show. Controls are named by their numbers.
+class CPerson {
+  public:
+    // The window of the dialog with that number that is up; null if there is none.
+    CDialogView* FindWindow(int nDialog) const;
+    CDialogView* MainWindow() const;
+    QFileDialog* FileDialog() const;
+    // A message box, or any other window of the toolkit's own that waits for an answer; null if there is
+    // none.
+    QWidget* Asking() const;
+
+    // Mouse to the middle of the control, press and release. A control that is hidden or disabled is a fault.
+    void Click(int nId);
+    void ClickPoint(QPoint pt);
+    void Hover(int nId);
+    void RightClickCanvas(QPoint pt);
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    // Presses the button with that caption in the window that asks.
+    void Answer(const QString& strCaption);
+
+    // In the file dialog: whether the list shows the file, a click on it, a name typed in the name line, and
+    // the button that takes it.
+    bool SeesFile(const QString& strName) const;
+    void ClickFile(const QString& strName);
+    void TypeFileName(const QString& strName);
+    void TakeFile();
+
+    bool IsOn(int nId) const;  // seen and not disabled
+    bool IsSeen(int nId) const;
+    QString TextOf(int nId) const;
+    QImage LookAt(int nId) const;  // what the control shows
+    QImage LookAtWindow() const;   // the main window
+
+    // The last fault; empty if there was none.
+    const QString& Fault() const { return m_strFault; }
+    void ForgetFault() { m_strFault.clear(); }
+
+  private:
+    QModelIndex FileRow(const QString& strName, QTreeView*& pList) const;
+    QWidget* Widget(int nId) const;
+
+    QString m_strFault;
+};

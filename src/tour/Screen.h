@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+// What a person would see: all windows that are up, the newest on top.
+QImage GrabScreen();
+
+// How many different colours a picture has, counted up to a limit; tells a photograph from an empty area.
+int CountColors(const QImage& image, int nLimit);
+
+// True if any pixel of both pictures differs, or their sizes do.
+bool Differs(const QImage& imageA, const QImage& imageB);

@@ -1,0 +1,122 @@
+// What the hand does to buttons, boxes and lines of text, and what their dialogs hear of it.
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QSlider>
+
+#include "TestDialog.h"
+
+namespace {
+
+using enum EControlKind;
+
+constexpr CControlTemplate kControls[] = {
+    {10, BitmapButton, CRect::FromPlace(10, 10, 30, 20), "Key"},
+    {11, BitmapButton, CRect::FromPlace(50, 10, 30, 20), "Dead", true, false},
+    {12, BitmapLabel, CRect::FromPlace(90, 10, 30, 20), "12"},
+    {19, Group, CRect{}},
+    {20, Radio, CRect::FromPlace(10, 40, 14, 14)},
+    {21, BitmapLabel, CRect::FromPlace(26, 40, 30, 14), "1246"},
+    {22, Radio, CRect::FromPlace(60, 40, 14, 14)},
+    {29, Group, CRect{}},
+    {30, Radio, CRect::FromPlace(80, 40, 14, 14)},
+    {31, Check, CRect::FromPlace(100, 40, 14, 14)},
+    {40, Edit, CRect::FromPlace(10, 60, 100, 18), "abc", true, true, 5},
+    {41, Slider, CRect::FromPlace(120, 60, 20, 60)},
+};
+constexpr CDialogTemplate kDialog{900, "Buttons", {160, 130}, EDialogFrame::Plain, kControls};
+
+QRgb PixelAt(const CShownDialog& shown, int nId) {
+    return shown.view->grab().toImage().pixel(shown.Centre(nId));
+}
+
+}  // namespace
+
+TEST(Buttons, ClickAndSpaceReachTheDialogOnce) {
+    CShownDialog shown(kDialog);
+    QTest::mouseClick(shown.Widget(10), Qt::LeftButton);
+    QTest::keyClick(shown.Widget(10), Qt::Key_Space);
+    QTest::mouseClick(shown.Widget(12), Qt::LeftButton);
+    EXPECT_EQ(shown.dialog.m_arrCommands, (std::vector{10, 10, 12}));
+    // Released beside the button: no click. So is a press with the other button.
+    Press(*shown.view, shown.Centre(10));
+    Release(*shown.view, {100, 100});
+    QTest::mouseClick(shown.Widget(10), Qt::RightButton);
+    EXPECT_EQ(shown.dialog.m_arrCommands.size(), 3U);
+}
+
+TEST(Buttons, ADisabledOneIsDeafButIsHoveredOver) {
+    CShownDialog shown(kDialog);
+    Press(*shown.view, shown.Centre(11));
+    Release(*shown.view, shown.Centre(11));
+    EXPECT_TRUE(shown.dialog.m_arrCommands.empty());
+    EXPECT_TRUE(shown.dialog.m_arrMouse.empty()) << "a press on a disabled key is none beside the controls";
+    Move(*shown.view, shown.Centre(11));
+    Move(*shown.view, {5, 100});
+    EXPECT_EQ(shown.dialog.m_arrHovers, (std::vector<std::pair<int, bool>>{{11, false}, {0, false}}));
+}
+
+TEST(Buttons, ThePictureFollowsTheState) {
+    CTestBitmaps skin;
+    skin.Add("KEYU", {30, 20}, {1, 0, 0});
+    skin.Add("KEYD", {30, 20}, {2, 0, 0});
+    skin.Add("KEYF", {30, 20}, {3, 0, 0});
+    skin.Add("DEADU", {30, 20}, {4, 0, 0});
+    CShownDialog shown(kDialog, nullptr, skin);
+    shown.dialog.Controls().SetFocus(31);
+    EXPECT_EQ(PixelAt(shown, 10), qRgb(1, 0, 0));
+    shown.dialog.Controls().SetFocus(10);
+    EXPECT_EQ(PixelAt(shown, 10), qRgb(3, 0, 0));
+    EXPECT_EQ(PixelAt(shown, 11), qRgb(4, 0, 0)) << "no picture for disabled: the normal one";
+    Press(*shown.view, shown.Centre(10));
+    EXPECT_EQ(PixelAt(shown, 10), qRgb(2, 0, 0));
+    Move(*shown.view, {150, 120});
+    EXPECT_EQ(PixelAt(shown, 10), qRgb(3, 0, 0)) << "the mouse has left it with the button held";
+    Move(*shown.view, shown.Centre(10));
+    EXPECT_EQ(PixelAt(shown, 10), qRgb(2, 0, 0));
+    Release(*shown.view, shown.Centre(10));
+}
+
+TEST(Marks, AreMovedBeforeTheDialogHears) {
+    CShownDialog shown(kDialog);
+    CControlSet& controls = shown.dialog.Controls();
+    std::vector<std::string> arrSeen;
+    shown.dialog.m_fnCommand = [&](int) {
+        std::string str;
+        for (const int nId : {20, 22, 30, 31}) str += controls.IsChecked(nId) ? '1' : '0';
+        arrSeen.push_back(str);
+    };
+    controls.Check(30, true);
+    for (const int nId : {20, 22, 31, 31, 22}) QTest::mouseClick(shown.Widget(nId), Qt::LeftButton);
+    EXPECT_EQ(arrSeen, (std::vector<std::string>{"1010", "0110", "0111", "0110", "0110"}));
+    EXPECT_EQ(shown.Widget(20)->accessibleName().toStdString(), "当前照片大小");
+}
+
+TEST(Edit, TypingIsLimitedAndTold) {
+    CShownDialog shown(kDialog);
+    auto* pEdit = qobject_cast<QLineEdit*>(shown.Widget(40));
+    ASSERT_NE(pEdit, nullptr);
+    EXPECT_EQ(pEdit->text(), "abc");
+    pEdit->setCursorPosition(0);
+    QTest::keyClicks(pEdit, "xyz");
+    EXPECT_EQ(shown.dialog.Controls().Text(40), "xyabc");
+    EXPECT_EQ(pEdit->cursorPosition(), 2) << "the caret stays where the user types";
+    EXPECT_EQ(shown.dialog.m_arrNotices.size(), 2U);
+    shown.dialog.Controls().SetText(40, "字");
+    EXPECT_EQ(pEdit->text(), "字");
+    EXPECT_EQ(shown.dialog.m_arrNotices.size(), 2U) << "what the logic sets is no news to it";
+}
+
+TEST(Slider, OnlyTheUsersMovesAreTold) {
+    CShownDialog shown(kDialog);
+    auto* pSlider = qobject_cast<QSlider*>(shown.Widget(41));
+    ASSERT_NE(pSlider, nullptr);
+    shown.dialog.Controls().SetRange(41, -100, 100);
+    shown.dialog.Controls().SetPosition(41, 100);
+    EXPECT_EQ(pSlider->value(), 100);
+    EXPECT_TRUE(shown.dialog.m_arrNotices.empty());
+    QTest::keyClick(pSlider, Qt::Key_Up);
+    EXPECT_EQ(shown.dialog.Controls().Position(41), 99) << "the lower bound is at the top";
+    EXPECT_EQ(shown.dialog.m_arrNotices, (std::vector<std::pair<int, ENotice>>{{41, ENotice::Scrolled}}));
+}

@@ -1,0 +1,156 @@
+// The window of a dialog: what it mirrors, and how keys, focus, mouse and painting go through it.
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+
+#include "TestDialog.h"
+
+namespace {
+
+using enum EControlKind;
+
+constexpr CControlTemplate kControls[] = {
+    {10, BitmapButton, CRect::FromPlace(10, 10, 30, 20), "A"},
+    {11, BitmapButton, CRect::FromPlace(50, 10, 30, 20), "B"},
+    {12, BitmapButton, CRect::FromPlace(90, 10, 30, 20), "C", false},
+    {13, Static, CRect::FromPlace(10, 40, 60, 15), "text"},
+    {14, Edit, CRect::FromPlace(10, 60, 60, 18)},
+    {2, Button, CRect::FromPlace(80, 60, 60, 20), "Cancel"},
+};
+constexpr CDialogTemplate kDialog{900, "Title", {160, 100}, EDialogFrame::Plain, kControls};
+constexpr CDialogTemplate kMain{901, "Main", {160, 100}, EDialogFrame::Caption, kControls};
+
+}  // namespace
+
+TEST(DialogView, MirrorsTheControls) {
+    CShownDialog shown(kDialog);
+    EXPECT_EQ(shown.view->windowTitle(), "Title");
+    EXPECT_EQ(shown.view->size(), QSize(160, 100));
+    EXPECT_EQ(shown.view->minimumSize(), shown.view->maximumSize());
+    EXPECT_FALSE(shown.Widget(12)->isVisible());
+    CControlSet& controls = shown.dialog.Controls();
+    controls.Show(12, true);
+    controls.Show(10, false);
+    controls.Enable(11, false);
+    controls.Move(13, CRect::FromPlace(20, 41, 70, 16));
+    EXPECT_TRUE(shown.Widget(12)->isVisible());
+    EXPECT_FALSE(shown.Widget(10)->isVisible());
+    EXPECT_FALSE(shown.Widget(11)->isEnabled());
+    EXPECT_EQ(shown.Widget(13)->geometry(), QRect(20, 41, 70, 16));
+    const QImage imageBefore = shown.Widget(13)->grab().toImage();
+    controls.SetText(13, "other");
+    EXPECT_NE(shown.Widget(13)->grab().toImage(), imageBefore);
+}
+
+TEST(DialogView, FocusGoesBothWays) {
+    CShownDialog shown(kMain);
+    CControlSet& controls = shown.dialog.Controls();
+    EXPECT_EQ(controls.Focus(), 0) << "the main window starts with no control in focus";
+    controls.SetFocus(11);
+    EXPECT_TRUE(shown.Widget(11)->hasFocus());
+    QTest::keyClick(shown.view.get(), Qt::Key_Tab);
+    EXPECT_EQ(controls.Focus(), 14) << "the hidden button takes no focus";
+    QTest::mouseClick(shown.Widget(10), Qt::LeftButton);
+    EXPECT_EQ(controls.Focus(), 10);
+    controls.Enable(10, false);
+    EXPECT_EQ(controls.Focus(), 0) << "the focus is not handed on to the next control";
+    EXPECT_FALSE(shown.Widget(11)->hasFocus());
+}
+
+TEST(DialogView, EveryKeyComesToTheDialogFirst) {
+    CShownDialog shown(kDialog);
+    shown.dialog.Controls().SetFocus(14);
+    shown.dialog.m_bSwallowKeys = true;
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter})
+        QTest::keyClick(shown.Widget(14), key);
+    QTest::keyClick(shown.Widget(14), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    ASSERT_EQ(shown.dialog.m_arrKeys.size(), 4U);
+    EXPECT_EQ(shown.dialog.m_arrKeys[0].nKey, kKeyEscape);
+    EXPECT_EQ(shown.dialog.m_arrKeys[2].nKey, kKeyEnter);
+    EXPECT_EQ(shown.dialog.m_arrKeys[3].nKey, 'Z');
+    EXPECT_TRUE(shown.dialog.m_arrKeys[3].bCtrl && shown.dialog.m_arrKeys[3].bShift);
+    EXPECT_TRUE(shown.dialog.m_arrCommands.empty());
+    EXPECT_FALSE(shown.dialog.HasEnded());
+
+    // Not swallowed, it is seen once though it climbs to the window; there Esc is the button Cancel.
+    shown.dialog.m_bSwallowKeys = false;
+    QTest::keyClick(shown.Widget(14), Qt::Key_A);
+    QTest::keyClick(shown.Widget(10), Qt::Key_Escape);
+    EXPECT_EQ(shown.dialog.m_arrKeys.size(), 6U);
+    EXPECT_EQ(shown.dialog.Controls().Text(14), "a");
+    EXPECT_EQ(shown.dialog.m_arrCommands, std::vector{2});
+}
+
+TEST(DialogView, TheCloseBoxAsksTheDialog) {
+    CShownDialog shown(kMain);
+    shown.view->close();
+    EXPECT_TRUE(shown.dialog.HasEnded());
+    EXPECT_EQ(shown.dialog.EndCode(), CDialog::kDialogCancel);
+    EXPECT_TRUE(shown.view->isVisible()) << "whoever runs the dialog takes it away";
+}
+
+TEST(DialogView, MouseBesideControlsIsTheDialogs) {
+    CShownDialog shown(kDialog);
+    Press(*shown.view, {150, 95}, Qt::RightButton, Qt::ShiftModifier);
+    Release(*shown.view, {170, 95}, Qt::RightButton);
+    Press(*shown.view, shown.Centre(13));
+    Release(*shown.view, shown.Centre(10));
+    const auto arrClicks = WithoutMoves(shown.dialog.m_arrMouse);
+    ASSERT_EQ(arrClicks.size(), 2U) << "outside and over a control nothing is beside the controls";
+    const CMouseEvent& first = arrClicks[0];
+    EXPECT_EQ(first.action, EMouseAction::Press);
+    EXPECT_EQ(first.button, EMouseButton::Right);
+    EXPECT_EQ(first.pt, (CPoint{150, 95}));
+    EXPECT_EQ(first.nFlags, kMouseRightDown | kMouseShift);
+    EXPECT_EQ(arrClicks[1].button, EMouseButton::Left) << "a line of text lets the mouse through";
+}
+
+TEST(DialogView, PaintsOnceBehindTheEvent) {
+    CShownDialog shown(kDialog);
+    const int nBefore = shown.dialog.m_nPaints;
+    shown.dialog.Invalidate();
+    shown.dialog.Invalidate();
+    shown.view->repaint();
+    EXPECT_EQ(shown.dialog.m_nPaints, nBefore) << "a paint event only copies";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shown.dialog.m_nPaints, nBefore + 1);
+    shown.dialog.Client().FillRect(CRect::FromPlace(100, 85, 10, 10), {1, 2, 3});
+    shown.dialog.Present();
+    EXPECT_EQ(shown.view->grab().toImage().pixel(105, 90), qRgb(1, 2, 3));
+    EXPECT_EQ(shown.view->grab().toImage().pixel(115, 90), qRgb(50, 60, 70));
+}
+
+// Runs in a process of its own on a screen of two by two pixels to a client pixel.
+TEST(DenseScreen, DISABLED_ShowsTheDenserPictures) {
+    CTestBitmaps skin;
+    skin.Add("AU", {30, 20}, {9, 9, 9});
+    skin.Add("GROUND", {20, 20}, {7, 7, 7});
+    CShownDialog shown(kDialog, nullptr, skin);
+    ASSERT_EQ(shown.view->Density(), 2);
+    shown.dialog.Client().DrawBitmap("GROUND", 130, 10);
+    shown.dialog.Present();
+    const QImage image = shown.view->grab().toImage();
+    ASSERT_EQ(image.size(), QSize(320, 200));
+    for (const QPoint pt : {QPoint(30, 30), QPoint(270, 30)}) {
+        EXPECT_EQ(image.pixel(pt), qRgb(255, 255, 255)) << pt.x();
+        EXPECT_NE(image.pixel(pt + QPoint(1, 0)), qRgb(255, 255, 255)) << pt.x();
+    }
+    // The mouse still counts in client pixels.
+    Press(*shown.view, {150, 95});
+    const auto arrClicks = WithoutMoves(shown.dialog.m_arrMouse);
+    ASSERT_EQ(arrClicks.size(), 1U);
+    EXPECT_EQ(arrClicks[0].pt, (CPoint{150, 95}));
+}
+
+TEST(DialogView, ADenseScreenShowsTheDenserPictures) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_SCALE_FACTOR", "2");
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QCoreApplication::applicationFilePath(),
+                  {"--gtest_filter=DenseScreen.*", "--gtest_also_run_disabled_tests"});
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitCode(), 0) << process.readAll().toStdString();
+}

@@ -1,0 +1,218 @@
+// Modal dialogs, message boxes, menus, font and colour windows, and what runs beside them.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
+
+#include "TestDialog.h"
+#include "qt/QtPlatform.h"
+#include "window/Choosers.h"
+#include "window/PopupMenus.h"
+
+namespace {
+
+constexpr CControlTemplate kControls[] = {
+    {1, EControlKind::Button, CRect::FromPlace(10, 10, 60, 24), "确定"},
+};
+constexpr CDialogTemplate kDialog{900, "One", {160, 100}, EDialogFrame::Plain, kControls};
+
+struct CTestPlatform {
+    CTestBitmaps bitmaps;
+    CQtPlatform owner{bitmaps};
+    const CPlatform& platform = owner.Platform();
+};
+
+template <typename T>
+T* ActiveWindow() {
+    return qobject_cast<T*>(QApplication::activeModalWidget());
+}
+
+}  // namespace
+
+TEST(ModalDialogs, NestAndGiveTheirCodes) {
+    CTestPlatform test;
+    CTestDialog outer(kDialog);
+    CTestDialog inner(kDialog);
+    int nInnerCode = 0;
+    bool bAbove = false;
+    outer.m_fnCommand = [&](int) {
+        QWidget* pOuter = QApplication::activeModalWidget();
+        Later([&inner, &bAbove, pOuter] {
+            bAbove = QApplication::activeModalWidget()->parentWidget() == pOuter;
+            inner.EndDialog(7);
+        });
+        nInnerCode = test.platform.modals.Run(inner);
+        EXPECT_FALSE(outer.HasEnded());
+        outer.EndDialog(9);
+    };
+    Later([&] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+    EXPECT_EQ(test.platform.modals.Run(outer), 9);
+    EXPECT_EQ(nInnerCode, 7);
+    EXPECT_TRUE(bAbove);
+    EXPECT_EQ(outer.m_nInits, 1);
+    EXPECT_EQ(outer.m_nDestroys, 1);
+    EXPECT_EQ(inner.m_nDestroys, 1);
+}
+
+TEST(ModalDialogs, OneThatEndsAtItsStartIsNeverShown) {
+    CTestPlatform test;
+    CTestDialog dialog(kDialog);
+    dialog.m_fnInit = [&] { dialog.EndDialog(5); };
+    EXPECT_EQ(test.platform.modals.Run(dialog), 5);
+    EXPECT_EQ(dialog.m_nDestroys, 1);
+    EXPECT_EQ(dialog.m_nPaints, 0);
+}
+
+TEST(Timers, RunUntilKilledAndStartAnew) {
+    CTestPlatform test;
+    CTestDialog dialog(kDialog);
+    std::vector<int> arrTicks;
+    dialog.m_fnTimer = [&](int nTimer) {
+        arrTicks.push_back(nTimer);
+        test.platform.timers.KillTimer(dialog, nTimer);
+        if (arrTicks.size() == 1) test.platform.timers.SetTimer(dialog, 4, 0);
+        if (arrTicks.size() == 2) test.platform.timers.SetTimer(dialog, 3, 1);
+    };
+    test.platform.timers.SetTimer(dialog, 3, 100000);
+    test.platform.timers.SetTimer(dialog, 3, 1);  // the new period counts
+    test.platform.timers.KillTimer(dialog, 99);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return arrTicks.size() == 3; }, 2000));
+    QTest::qWait(30);
+    EXPECT_EQ(arrTicks, (std::vector{3, 4, 3}));
+}
+
+TEST(Timers, EndWithTheirDialog) {
+    CTestPlatform test;
+    int nTicks = 0;
+    {
+        CTestDialog dialog(kDialog);
+        dialog.m_fnInit = [&] { test.platform.timers.SetTimer(dialog, 1, 0); };
+        dialog.m_fnTimer = [&](int) {
+            if (++nTicks == 3) dialog.EndDialog(1);
+        };
+        test.platform.modals.Run(dialog);
+    }
+    QTest::qWait(20);
+    EXPECT_EQ(nTicks, 3);
+}
+
+TEST(MessageBoxes, ShowTextToTheLetterAndAnswer) {
+    CTestPlatform test;
+    struct CCase {
+        EBoxButtons buttons;
+        EBoxIcon icon;
+        const char* szPress;  // caption, or empty to close the box by Esc
+        EBoxAnswer answer;
+        QStringList arrCaptions;
+        QMessageBox::Icon iconQt;
+    };
+    const CCase arrCases[] = {
+        {EBoxButtons::Ok, EBoxIcon::None, "确定", EBoxAnswer::Ok, {"确定"}, QMessageBox::NoIcon},
+        {EBoxButtons::Ok, EBoxIcon::Stop, "", EBoxAnswer::Ok, {"确定"}, QMessageBox::Critical},
+        {EBoxButtons::OkCancel,
+         EBoxIcon::Information,
+         "确定",
+         EBoxAnswer::Ok,
+         {"取消", "确定"},
+         QMessageBox::Information},
+        {EBoxButtons::OkCancel,
+         EBoxIcon::Exclamation,
+         "",
+         EBoxAnswer::Cancel,
+         {"取消", "确定"},
+         QMessageBox::Warning},
+        {EBoxButtons::YesNo,
+         EBoxIcon::Exclamation,
+         "是",
+         EBoxAnswer::Yes,
+         {"否", "是"},
+         QMessageBox::Warning},
+        {EBoxButtons::YesNo, EBoxIcon::Exclamation, "", EBoxAnswer::No, {"否", "是"}, QMessageBox::Warning},
+    };
+    const std::string strText = "\n<b>'照片' & 100%</b>\n\n";
+    for (const CCase& one : arrCases) {
+        Later([&] {
+            auto* pBox = ActiveWindow<QMessageBox>();
+            ASSERT_NE(pBox, nullptr);
+            EXPECT_EQ(pBox->text().toStdString(), strText);
+            EXPECT_EQ(pBox->textFormat(), Qt::PlainText);
+            EXPECT_EQ(pBox->windowTitle(), "标题");
+            EXPECT_EQ(pBox->icon(), one.iconQt);
+            QStringList arrCaptions;
+            QAbstractButton* pPress = nullptr;
+            for (QAbstractButton* pButton : pBox->buttons()) {
+                arrCaptions += pButton->text();
+                if (pButton->text() == one.szPress) pPress = pButton;
+            }
+            arrCaptions.sort();
+            EXPECT_EQ(arrCaptions, one.arrCaptions);
+            if (pPress != nullptr)
+                pPress->click();
+            else
+                QTest::keyClick(pBox, Qt::Key_Escape);
+        });
+        EXPECT_EQ(test.platform.boxes.Show({strText, "标题", one.icon, one.buttons}), one.answer);
+    }
+}
+
+TEST(WaitCursor, NestsAndGivesWayToABox) {
+    CTestPlatform test;
+    test.platform.wait.Begin();
+    test.platform.wait.Begin();
+    test.platform.wait.End();
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    Later([] {
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+        ActiveWindow<QMessageBox>()->buttons().constFirst()->click();
+    });
+    test.platform.boxes.Show({"text", "title"});
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    test.platform.wait.End();
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST(PopupMenus, GiveTheChosenItem) {
+    CTestPlatform test;
+    const std::vector<CMenuItem> arrItems = {{101, "上下"}, {102, "Undo", false}, {103, "Redo"}};
+    Later([] {
+        auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(pMenu, nullptr);
+        EXPECT_FALSE(pMenu->actions()[1]->isEnabled());
+        QTest::mouseClick(pMenu, Qt::LeftButton, {}, pMenu->actionGeometry(pMenu->actions()[2]).center());
+    });
+    EXPECT_EQ(test.platform.menus.Track(arrItems), 103);
+    Later([] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); });
+    EXPECT_EQ(test.platform.menus.Track(arrItems), 0);
+}
+
+TEST(Choosers, ColourStartsWhereItWas) {
+    CTestPlatform test;
+    Later([] { ActiveWindow<QColorDialog>()->accept(); });
+    EXPECT_EQ(test.platform.colors.Run({1, 2, 3}), (CColor{1, 2, 3}));
+    Later([] { ActiveWindow<QColorDialog>()->reject(); });
+    EXPECT_FALSE(test.platform.colors.Run({1, 2, 3}).has_value());
+}
+
+TEST(Choosers, FontKeepsAFaceThatTheMachineLacks) {
+    CTestPlatform test;
+    Later([] { ActiveWindow<QDialog>()->accept(); });
+    EXPECT_EQ(test.platform.fonts.Run({"黑体", true}), (CFontChoice{"黑体", true}));
+    Later([] {
+        auto* pWindow = ActiveWindow<QDialog>();
+        auto arrLists = pWindow->findChildren<QListWidget*>();
+        for (QListWidget* pList : arrLists)
+            pList->setCurrentRow(pList->count() == 2 ? 0 : pList->count() - 1);
+        pWindow->accept();
+    });
+    const auto choice = test.platform.fonts.Run({"黑体", true});
+    ASSERT_TRUE(choice.has_value());
+    EXPECT_FALSE(choice->bBold);
+    EXPECT_NE(choice->strFace, "黑体");
+    EXPECT_FALSE(choice->strFace.empty());
+}

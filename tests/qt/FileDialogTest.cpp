@@ -1,0 +1,197 @@
+// The open and the save dialog over a folder of files.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <filesystem>
+#include <fstream>
+
+#include "TestDialog.h"
+#include "qt/FileNames.h"
+#include "qt/QtPlatform.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr CControlTemplate kPanelControls[] = {
+    {1000, EControlKind::Check, CRect::FromPlace(10, 10, 80, 16), "&Preview"},
+};
+constexpr CDialogTemplate kPanel{101, "", {120, 200}, EDialogFrame::Child, kPanelControls};
+const CFileDialogRequest kRequest{"JPG Files (*.JPG)|*.jpg||", ""};
+
+class CTestPanel : public CFileDialogPanel {
+  public:
+    using CFileDialogPanel::CFileDialogPanel;
+    void OnInitDialog() override { ++m_nInits; }
+    void OnDestroy() override { ++m_nDestroys; }
+    void OnFileNameChange(const std::string& strPath) override { m_arrPaths.push_back(strPath); }
+    std::vector<std::string> m_arrPaths;
+    int m_nInits = 0;
+    int m_nDestroys = 0;
+};
+
+class FileDialogs : public testing::Test {
+  protected:
+    void SetUp() override {
+        fs::current_path(Folder());
+        for (const char* szName : {"a.jpg", "b.JPG", "c.png", "two\nlines.jpg", "sub/deep.jpg"})
+            Touch(szName);
+    }
+    void TearDown() override {
+        fs::current_path("/");
+        fs::remove_all(m_folder.path().toStdString());  // also what Qt has no name for
+    }
+    fs::path Folder() const { return fs::canonical(m_folder.path().toStdString()); }
+    void Touch(const fs::path& name) const {
+        fs::create_directories((Folder() / name).parent_path());
+        std::ofstream(Folder() / name) << "x";
+    }
+    static QFileDialog& Window() {
+        auto* pWindow = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        EXPECT_NE(pWindow, nullptr);
+        return *pWindow;
+    }
+    static void Type(const QString& strName) {
+        Window().findChild<QLineEdit*>("fileNameEdit")->setText(strName);
+    }
+    static void Accept() { QMetaObject::invokeMethod(&Window(), "accept"); }
+    // Opens the dialog, types the name, and takes what OK gives.
+    std::optional<CFileChoice> OpenTyped(const QString& strName) {
+        Later([=] {
+            Type(strName);
+            Accept();
+            // A dialog that does not take the name must not keep the test waiting.
+            if (QApplication::activeModalWidget() != nullptr) Window().reject();
+        });
+        return m_owner.Platform().files.RunOpen(kRequest, nullptr);
+    }
+
+    QTemporaryDir m_folder;
+    CTestBitmaps m_bitmaps;
+    CQtPlatform m_owner{m_bitmaps};
+};
+
+}  // namespace
+
+TEST_F(FileDialogs, OnlyMatchingFilesAreListed) {
+    QStringList arrNames;
+    Later([&] {
+        auto* pList = Window().findChild<QListView*>("listView");
+        ASSERT_NE(pList, nullptr);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return pList->model()->rowCount(pList->rootIndex()) == 4; }));
+        for (int i = 0; i < 4; ++i)
+            arrNames += pList->model()->index(i, 0, pList->rootIndex()).data().toString();
+        EXPECT_EQ(Window().nameFilters(), QStringList{"JPG Files (*.JPG)"});
+        Window().reject();
+    });
+    EXPECT_FALSE(m_owner.Platform().files.RunOpen(kRequest, nullptr).has_value());
+    arrNames.sort();
+    EXPECT_EQ(arrNames, (QStringList{"a.jpg", "b.JPG", "sub", "two\nlines.jpg"}));
+}
+
+TEST_F(FileDialogs, ThePanelFollowsTheSelection) {
+    CTestPanel panel(kPanel);
+    Later([&] {
+        auto* pList = Window().findChild<QListView*>("listView");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return pList->model()->rowCount(pList->rootIndex()) == 4; }));
+        for (int i = 0; i < 4; ++i) {
+            const QModelIndex index = pList->model()->index(i, 0, pList->rootIndex());
+            if (index.data().toString() != "sub") pList->setCurrentIndex(index);
+        }
+        EXPECT_EQ(panel.m_nInits, 1);
+        const auto* pView = Window().findChild<QAbstractButton*>("");
+        EXPECT_NE(pView, nullptr);
+        Accept();
+    });
+    const auto choice = m_owner.Platform().files.RunOpen(kRequest, &panel);
+    ASSERT_TRUE(choice.has_value());
+    std::vector<std::string> arrNames;
+    for (const std::string& strPath : panel.m_arrPaths) {
+        EXPECT_EQ(fs::path(strPath).parent_path(), Folder());
+        arrNames.push_back(fs::path(strPath).filename().string());
+    }
+    std::sort(arrNames.begin(), arrNames.end());
+    EXPECT_EQ(arrNames, (std::vector<std::string>{"a.jpg", "b.JPG", "two\nlines.jpg"}));
+    EXPECT_EQ(choice->strPath, panel.m_arrPaths.back());
+    EXPECT_EQ(panel.m_nDestroys, 1);
+}
+
+TEST_F(FileDialogs, AnyNameMayBeTyped) {
+    for (const char* szName : {"missing.jpg", "noextension", "c.png", "字 '引号'.jpg", "two\nlines.jpg"}) {
+        const auto choice = OpenTyped(szName);
+        ASSERT_TRUE(choice.has_value()) << szName;
+        EXPECT_EQ(choice->strName, szName);
+        EXPECT_EQ(choice->strPath, (Folder() / szName).string());
+    }
+}
+
+TEST_F(FileDialogs, OkMovesToTheFilesFolderAndCancelDoesNot) {
+    EXPECT_FALSE(OpenTyped("sub").has_value()) << "a folder is entered, not chosen";
+    EXPECT_EQ(fs::current_path(), Folder());
+    const auto choice = OpenTyped("sub/deep.jpg");
+    ASSERT_TRUE(choice.has_value());
+    EXPECT_EQ(choice->strName, "deep.jpg");
+    EXPECT_EQ(fs::current_path(), Folder() / "sub");
+}
+
+TEST_F(FileDialogs, BytesThatAreNoTextSurvive) {
+    const std::string strName =
+        "b\xc4\xe3\xba"
+        "d.jpg";
+    Touch(strName);
+    const auto choice = OpenTyped(QFile::decodeName(strName.c_str()));
+    ASSERT_TRUE(choice.has_value());
+    EXPECT_EQ(choice->strName, strName);
+    EXPECT_TRUE(fs::exists(choice->strPath));
+    const std::string strFolder = "\xb2\xbb";
+    Touch(strFolder + "/x.jpg");
+    fs::current_path(Folder() / strFolder);
+    EXPECT_EQ(fs::path(ResolvePath(QFile::decodeName((Folder() / strFolder / "x.jpg").c_str()))),
+              Folder() / strFolder / "x.jpg");
+}
+
+TEST_F(FileDialogs, SaveAsksBeforeItReplaces) {
+    struct CCase {
+        const char* szTyped;
+        int nAsked;
+        bool bYes;
+        std::string strName;  // empty: not chosen
+    };
+    for (const CCase& one : {CCase{"new.jpg", 0, false, "new.jpg"}, CCase{"new", 0, false, "new.jpg"},
+                             CCase{"a", 1, true, "a.jpg"}, CCase{"a.jpg", 1, false, ""},
+                             CCase{"c.png", 1, true, "c.png"}, CCase{"x.y", 0, false, "x.y"}}) {
+        int nAsked = 0;
+        Later([&] {
+            Type(one.szTyped);
+            Later([&] {
+                auto* pBox = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (pBox == nullptr) return;
+                ++nAsked;
+                pBox->button(one.bYes ? QMessageBox::Yes : QMessageBox::No)->click();
+            });
+            QFileDialog& window = Window();
+            Accept();
+            if (window.isVisible()) window.reject();
+            QCoreApplication::processEvents();
+        });
+        const auto choice = m_owner.Platform().files.RunSave({"JPEG Files (*.JPG)|*.jpg||", "photo.jpg"});
+        EXPECT_EQ(nAsked, one.nAsked) << one.szTyped;
+        EXPECT_EQ(choice.has_value(), !one.strName.empty()) << one.szTyped;
+        if (choice) {
+            EXPECT_EQ(choice->strPath, (Folder() / one.strName).string());
+        }
+    }
+}
+
+TEST(FileFilter, EachLabelNamesItsPattern) {
+    EXPECT_EQ(ParseFilter("JPG Files (*.JPG)|*.jpg||"), QStringList{"JPG Files (*.JPG)"});
+    EXPECT_EQ(ParseFilter("图片|*.bmp;*.gif|All (*.*)|*.*||"),
+              (QStringList{"图片 (*.bmp *.gif)", "All (*.*)"}));
+    EXPECT_TRUE(ParseFilter("").isEmpty());
+}

@@ -1,0 +1,127 @@
+// The scrolling view in its widget.
+
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "TestDialog.h"
+#include "qt/ScrollViewWidget.h"
+
+namespace {
+
+constexpr CControlTemplate kControls[] = {
+    {50, EControlKind::View, CRect::FromPlace(20, 10, 200, 150)},
+    {51, EControlKind::BitmapButton, CRect::FromPlace(230, 10, 20, 20), "B"},
+};
+constexpr CDialogTemplate kDialog{900, "View", {260, 170}, EDialogFrame::Caption, kControls};
+
+struct CShownView {
+    CTestScrollView view{CSize{200, 150}};
+    CShownDialog shown{kDialog, &view};
+
+    CScrollViewWidget& Widget() const { return *static_cast<CScrollViewWidget*>(shown.Widget(50)); }
+    int BarsUp() const {
+        int nBars = 0;
+        for (const QScrollBar* pBar : Widget().findChildren<QScrollBar*>())
+            nBars += pBar->isVisible() ? 1 : 0;
+        return nBars;
+    }
+    // Where a client pixel of the view stands in the window.
+    static QPoint At(int x, int y) { return {x + 20, y + 10}; }
+    QWidget& Window() const { return *shown.view; }
+};
+
+}  // namespace
+
+TEST(ScrollView, BarsTakeTheirRoomFromTheClientArea) {
+    CShownView test;
+    struct CCase {
+        CSize sizeContent;
+        int nBars;
+        QSize sizeClient;
+    };
+    for (const CCase& one : {CCase{{200, 150}, 0, {200, 150}}, CCase{{201, 100}, 1, {200, 134}},
+                             CCase{{100, 151}, 1, {184, 150}}, CCase{{190, 151}, 2, {184, 134}}}) {
+        test.view.SetScrollSizes(one.sizeContent);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(test.BarsUp(), one.nBars);
+        EXPECT_EQ(test.Widget().ClientArea().size(), one.sizeClient);
+        const QImage image = test.Widget().grab().toImage();
+        const QPoint ptLast(one.sizeClient.width() - 1, one.sizeClient.height() - 1);
+        EXPECT_EQ(image.pixel(ptLast), qRgb(10, 20, 30)) << "drawn up to the bars";
+    }
+}
+
+TEST(ScrollView, WheelAndBarsScroll) {
+    CShownView test;
+    test.view.SetScrollSizes({1000, 1000});
+    const QPoint pt(50, 50);
+    QWheelEvent event(pt, test.Widget().mapToGlobal(pt), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&test.Widget(), &event);
+    EXPECT_GT(test.view.ScrollPosition().y, 0);
+    EXPECT_EQ(test.view.ScrollPosition().x, 0);
+    for (QScrollBar* pBar : test.Widget().findChildren<QScrollBar*>()) pBar->setValue(99999);
+    EXPECT_EQ(test.view.ScrollPosition(), test.view.ScrollLimit());
+    test.view.ScrollTo({3, 4});
+    for (const QScrollBar* pBar : test.Widget().findChildren<QScrollBar*>())
+        EXPECT_EQ(pBar->value(), pBar->orientation() == Qt::Horizontal ? 3 : 4);
+}
+
+TEST(ScrollView, MouseComesAsOnThePlatform) {
+    CShownView test;
+    Move(test.Window(), test.At(0, 0));
+    Press(test.Window(), test.At(5, 6));
+    Move(test.Window(), test.At(-3, 6));
+    Release(test.Window(), test.At(-3, 6));
+    QTest::mouseDClick(test.Window().windowHandle(), Qt::RightButton, {}, test.At(199, 149));
+    // Pressed beside the view and released over it: the release is the view's.
+    Press(test.Window(), test.At(-5, 20));
+    Release(test.Window(), test.At(7, 8));
+
+    std::vector<std::pair<EMouseAction, CPoint>> arrSeen;
+    const auto arrClicks = WithoutMoves(test.view.m_arrMouse);
+    for (const CMouseEvent& event : arrClicks) arrSeen.emplace_back(event.action, event.pt);
+    using CSeen = std::vector<std::pair<EMouseAction, CPoint>>;
+    EXPECT_EQ(arrSeen, (CSeen{{EMouseAction::Press, {5, 6}},
+                              {EMouseAction::Press, {199, 149}},
+                              {EMouseAction::Release, {199, 149}},
+                              {EMouseAction::DoubleClick, {199, 149}},
+                              {EMouseAction::Release, {199, 149}},
+                              {EMouseAction::Release, {7, 8}}}));
+    EXPECT_EQ(arrClicks[3].nFlags, kMouseRightDown);
+    EXPECT_EQ(arrClicks[4].nFlags, 0U);
+    ASSERT_FALSE(test.view.m_arrMouse.empty());
+    EXPECT_EQ(test.view.m_arrMouse[0].action, EMouseAction::Move) << "moves come with no button too";
+    EXPECT_EQ(test.view.m_arrMouse[0].pt, CPoint{});
+    // What left the view went to the window around it, like any other release there.
+    const auto arrBeside = WithoutMoves(test.shown.dialog.m_arrMouse);
+    ASSERT_EQ(arrBeside.size(), 2U);
+    EXPECT_EQ(arrBeside[0].action, EMouseAction::Release);
+    EXPECT_EQ(arrBeside[0].pt, (CPoint{17, 16}));
+    EXPECT_EQ(arrBeside[1].action, EMouseAction::Press);
+}
+
+TEST(ScrollView, APressOnABarIsNotTheViews) {
+    CShownView test;
+    test.view.SetScrollSizes({100, 1000});
+    Press(test.Window(), test.At(192, 75));
+    Release(test.Window(), test.At(192, 75));
+    EXPECT_TRUE(test.view.m_arrMouse.empty());
+    EXPECT_TRUE(test.shown.dialog.m_arrMouse.empty());
+    EXPECT_GT(test.view.ScrollPosition().y, 0);
+}
+
+TEST(ScrollView, IsPaintedOnlyWhileItIsShown) {
+    CShownView test;
+    test.shown.dialog.Controls().Show(50, false);
+    QCoreApplication::processEvents();
+    const int nDraws = test.view.m_nDraws;
+    test.view.Invalidate();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(test.view.m_nDraws, nDraws);
+    test.shown.dialog.Controls().Show(50, true);
+    test.view.Invalidate();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(test.view.m_nDraws, nDraws + 1);
+}

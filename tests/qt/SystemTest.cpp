@@ -1,0 +1,106 @@
+// Text, clipboard and folders as the real system gives them.
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <filesystem>
+
+#include "TestDialog.h"
+#include "qt/QtPlatform.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+int Inked(const CTextMask& mask) {
+    return static_cast<int>(
+        std::count_if(mask.coverage.begin(), mask.coverage.end(), [](auto n) { return n >= 128; }));
+}
+
+}  // namespace
+
+TEST(TextRasterizer, FacesThatTheMachineLacksStillHaveTheCharacters) {
+    CQtTextRasterizer rasterizer;
+    const CTextMask missing = rasterizer.Rasterize({"黑体", 32}, "\U0010FFFD");
+    for (const char* szFace : {"黑体", "Tahoma", "no such face", ""})
+        for (const char* szText : {"你", "한", "W"}) {
+            const CTextMask mask = rasterizer.Rasterize({szFace, 32}, szText);
+            EXPECT_EQ(mask.nHeight, 32);
+            EXPECT_EQ(mask.coverage.size(), static_cast<std::size_t>(mask.nWidth) * 32);
+            EXPECT_GT(Inked(mask), 30) << szFace << szText;
+            EXPECT_NE(mask.coverage, missing.coverage) << "no box for a missing character";
+        }
+    EXPECT_NE(rasterizer.Rasterize({"黑体", 32}, "你").coverage,
+              rasterizer.Rasterize({"黑体", 32}, "好").coverage);
+}
+
+TEST(TextRasterizer, CellStyleAndEdges) {
+    CQtTextRasterizer rasterizer;
+    for (const int nHeight : {1, 7, 12, 16, 33, 100, 400}) {
+        const CTextMask mask = rasterizer.Rasterize({"黑体", nHeight}, "Ag字");
+        EXPECT_EQ(mask.nHeight, nHeight);
+        EXPECT_GT(mask.nWidth, nHeight / 2);
+    }
+    const int nRegular = Inked(rasterizer.Rasterize({"黑体", 64}, "文字"));
+    EXPECT_GT(Inked(rasterizer.Rasterize({"黑体", 64, 700}, "文字")), nRegular);
+    EXPECT_GT(Inked(rasterizer.Rasterize({"黑体", 64, 400, false, true}, "文字")), nRegular);
+    EXPECT_EQ(rasterizer.Rasterize({"黑体", 64}, "").nWidth, 0);
+    EXPECT_EQ(rasterizer.Rasterize({"黑体", 0}, "x").nHeight, 0);
+    // Nothing of a glyph is cut off at the cell's upper or lower edge.
+    const CTextMask tall = rasterizer.Rasterize({"黑体", 60}, "|gÅ国");
+    const auto bRowEmpty = [&](int y) {
+        const auto itRow = tall.coverage.begin() + static_cast<std::ptrdiff_t>(y) * tall.nWidth;
+        return std::all_of(itRow, itRow + tall.nWidth, [](auto n) { return n < 128; });
+    };
+    EXPECT_TRUE(bRowEmpty(0) || bRowEmpty(59));
+}
+
+TEST(Clipboard, APictureComesBackAsItWent) {
+    CTestBitmaps bitmaps;
+    CQtPlatform owner(bitmaps);
+    CClipboard& clipboard = owner.Platform().clipboard;
+    CxImage image(5, 3);
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 5; ++x)
+            image.SetPixelColor(x, y,
+                                {static_cast<std::uint8_t>(x * 50), static_cast<std::uint8_t>(y * 90), 7});
+    ASSERT_TRUE(clipboard.SetBitmap(image.CopyToHandle()));
+    const auto dib = clipboard.GetBitmap();
+    ASSERT_TRUE(dib.has_value());
+    CxImage back;
+    ASSERT_TRUE(back.CreateFromHANDLE(*dib));
+    EXPECT_TRUE(back.Pixels() == image.Pixels());
+    EXPECT_FALSE(clipboard.SetBitmap(std::vector<std::uint8_t>(10)));
+
+    // What another program puts there may be see-through: it lands on white.
+    QImage clear(2, 1, QImage::Format_ARGB32);
+    clear.fill(Qt::transparent);
+    QGuiApplication::clipboard()->setImage(clear);
+    ASSERT_TRUE(back.CreateFromHANDLE(*clipboard.GetBitmap()));
+    EXPECT_EQ(back.GetPixelColor(1, 0), (CColor{255, 255, 255}));
+    QGuiApplication::clipboard()->setText("no picture");
+    EXPECT_FALSE(clipboard.GetBitmap().has_value());
+}
+
+TEST(Folders, InstallValueIsTheStoredOneElseTheUsersFolder) {
+    const QTemporaryDir folder;
+    qputenv("XDG_DATA_HOME", (folder.path() + "/data").toUtf8());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path() + "/config");
+    const CQtFolders folders;
+    const std::string strOwn = folders.InstallValue();
+    EXPECT_TRUE(fs::is_directory(strOwn)) << strOwn;
+    EXPECT_TRUE(strOwn.starts_with(folder.path().toStdString()));
+    QSettings("ZEFA Fotarium", "1.0").setValue("Default", "\"/some where\"");
+    EXPECT_EQ(folders.InstallValue(), "\"/some where\"") << "as it stands, quotes included";
+}
+
+TEST(Folders, CurrentFolderStaysWhenItCannotBeLeft) {
+    CQtFolders folders;
+    ASSERT_TRUE(folders.SetCurrentFolder("/"));
+    EXPECT_EQ(folders.CurrentFolder(), "/");
+    EXPECT_FALSE(folders.SetCurrentFolder("/no such folder"));
+    EXPECT_EQ(folders.CurrentFolder(), "/");
+}

@@ -1,0 +1,140 @@
+#pragma once
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "image/Image.h"
+#include "qt/DialogView.h"
+#include "qt/Pictures.h"
+#include "window/Dialog.h"
+#include "window/ScrollView.h"
+
+// Pictures of one colour by name; at density 2 the left upper pixel of every client pixel is white.
+class CTestBitmaps : public CBitmaps {
+  public:
+    void Add(const std::string& strName, CSize size, CColor color) {
+        for (const int nDensity : {1, 2}) {
+            CPixels pixels;
+            pixels.CreateFilled(size.cx * nDensity, size.cy * nDensity, color);
+            for (int y = 0; nDensity == 2 && y < pixels.Height(); y += 2)
+                for (int x = 0; x < pixels.Width(); x += 2) pixels.MutableView().Set(x, y, {255, 255, 255});
+            m_mapImages[{nDensity, strName}].CreateFromHBITMAP(pixels);
+        }
+    }
+    const CxImage* Find(const std::string& strName, int nDensity) override {
+        const auto it = m_mapImages.find({nDensity, strName});
+        return it == m_mapImages.end() ? nullptr : &it->second;
+    }
+
+  private:
+    std::map<std::pair<int, std::string>, CxImage> m_mapImages;
+};
+
+// A view that is painted in one colour and keeps what the mouse does to it.
+class CTestScrollView : public CScrollView {
+  public:
+    using CScrollView::CScrollView;
+    void OnMouse(const CMouseEvent& event) override { m_arrMouse.push_back(event); }
+    std::vector<CMouseEvent> m_arrMouse;
+    int m_nDraws = 0;
+
+  protected:
+    void OnDraw(CSurface& surface) override {
+        surface.FillRect(surface.Bounds(), {10, 20, 30});
+        ++m_nDraws;
+    }
+};
+
+// Keeps every call of a handler.
+class CTestDialog : public CDialog {
+  public:
+    using CDialog::CDialog;
+    void OnInitDialog() override {
+        ++m_nInits;
+        if (m_fnInit) m_fnInit();
+    }
+    void OnDestroy() override { ++m_nDestroys; }
+    void OnCommand(int nId) override {
+        m_arrCommands.push_back(nId);
+        if (m_fnCommand) m_fnCommand(nId);
+    }
+    void OnNotify(int nId, ENotice notice) override { m_arrNotices.emplace_back(nId, notice); }
+    void OnMouse(const CMouseEvent& event) override { m_arrMouse.push_back(event); }
+    void OnHover(int nId, bool bLeftDown) override { m_arrHovers.emplace_back(nId, bLeftDown); }
+    bool OnKey(const CKeyEvent& event) override {
+        m_arrKeys.push_back(event);
+        return m_bSwallowKeys;
+    }
+    void OnTimer(int nTimer) override {
+        if (m_fnTimer) m_fnTimer(nTimer);
+    }
+    CScrollView* ViewOf(int /*nId*/) override { return m_pView; }
+
+    std::vector<int> m_arrCommands;
+    std::vector<std::pair<int, ENotice>> m_arrNotices;
+    std::vector<CMouseEvent> m_arrMouse;
+    std::vector<std::pair<int, bool>> m_arrHovers;
+    std::vector<CKeyEvent> m_arrKeys;
+    bool m_bSwallowKeys = false;
+    int m_nInits = 0;
+    int m_nDestroys = 0;
+    int m_nPaints = 0;
+    std::function<void()> m_fnInit;
+    std::function<void(int)> m_fnCommand;
+    std::function<void(int)> m_fnTimer;
+    CScrollView* m_pView = nullptr;
+
+  protected:
+    void OnPaint(CClientArea& client) override {
+        ++m_nPaints;
+        client.FillRect(CRect::FromPlace(0, 0, client.Size().cx, client.Size().cy), {50, 60, 70});
+    }
+};
+
+// A dialog in its window.
+struct CShownDialog {
+    CShownDialog(const CDialogTemplate& dialogTemplate, CScrollView* pView = nullptr, CTestBitmaps skin = {})
+        : bitmaps(std::move(skin)), dialog(dialogTemplate), pictures(bitmaps) {
+        dialog.m_pView = pView;
+        view = std::make_unique<CDialogView>(dialog, pictures, nullptr);
+        view->Prepare();
+        view->show();
+        QApplication::setActiveWindow(view.get());
+        QCoreApplication::processEvents();
+    }
+    QWidget* Widget(int nId) const { return view->WidgetOf(nId); }
+    QPoint Centre(int nId) const { return Widget(nId)->geometry().center(); }
+
+    CTestBitmaps bitmaps;
+    CTestDialog dialog;
+    CPictures pictures;
+    std::unique_ptr<CDialogView> view;
+};
+
+// The mouse over a window, as the system reports it. Buttons stay down until they are released.
+inline void Press(QWidget& window, QPoint pt, Qt::MouseButton button = Qt::LeftButton,
+                  Qt::KeyboardModifiers modifiers = {}) {
+    QTest::mousePress(window.windowHandle(), button, modifiers, pt);
+}
+inline void Release(QWidget& window, QPoint pt, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseRelease(window.windowHandle(), button, {}, pt);
+}
+inline void Move(QWidget& window, QPoint pt) {
+    QTest::mouseMove(window.windowHandle(), pt);
+}
+
+// What the buttons did; the system reports a move before each of them.
+inline std::vector<CMouseEvent> WithoutMoves(std::vector<CMouseEvent> arrEvents) {
+    std::erase_if(arrEvents, [](const CMouseEvent& event) { return event.action == EMouseAction::Move; });
+    return arrEvents;
+}
+
+// Runs once the event loop is up, which may be that of a dialog that is about to be opened.
+inline void Later(std::function<void()> fnStep) {
+    QTimer::singleShot(0, QCoreApplication::instance(), std::move(fnStep));
+}

@@ -1,0 +1,15 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "qt/Application.h"
+
+// Runs on the invisible screen unless told otherwise; in a window the tests would depend on where the mouse
+// is.
+int main(int nArguments, char** arrArguments) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&nArguments, arrArguments);
+    QApplication application(nArguments, arrArguments);
+    SetUpApplication(application);
+    return RUN_ALL_TESTS();
+}

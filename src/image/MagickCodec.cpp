@@ -18,7 +18,7 @@ struct CFormat {
     const char* szWriterWithAlpha;
 };
 
-constexpr std::array<CFormat, 13> kFormats = {{
+constexpr std::array<CFormat, 14> kFormats = {{
     {ImageType::kBmp, "BMP", "BMP3", "BMP3"},
     {ImageType::kGif, "GIF", "GIF", "GIF"},
     {ImageType::kPng, "PNG", "PNG24", "PNG32"},
@@ -27,6 +27,7 @@ constexpr std::array<CFormat, 13> kFormats = {{
     {ImageType::kTga, "TGA", "TGA", "TGA"},
     {ImageType::kPcx, "PCX", "PCX", "PCX"},
     {ImageType::kWbmp, "WBMP", "WBMP", "WBMP"},
+    {ImageType::kWmf, "WMF", nullptr, nullptr},  // the enhanced form of it has no decoder
     {ImageType::kJp2, "JP2", "JP2", "JP2"},
     {ImageType::kJpc, "JPC", "J2K", "J2K"},
     {ImageType::kPgx, "PGX", "PGX", "PGX"},

@@ -96,14 +96,39 @@ TEST_F(Formats, WhatCannotBeWrittenOrReadFails) {
     const CxImage picture = SmoothPicture(9, 9);
     for (const ImageType type : {ImageType::kUnknown, ImageType::kWmf, static_cast<ImageType>(99)}) {
         EXPECT_FALSE(picture.Save(Path("p"), type));
-        WriteText(Path("q.wmf"), std::string("\xD7\xCD\xC6\x9A", 4) + std::string(200, '\0'));
-        EXPECT_FALSE(CxImage(Path("q.wmf"), type).IsValid());
     }
     EXPECT_FALSE(CxImage().Save(Path("p"), ImageType::kPng));
     EXPECT_FALSE(SmoothPicture(300, 300).Save(Path("p"), ImageType::kIco))
         << "an icon has at most 256 by 256";
     EXPECT_FALSE(SmoothPicture(65501, 1).Save(Path("p"), ImageType::kJpeg));
-    EXPECT_EQ(Listing(), std::vector<std::string>{"q.wmf"});
+    EXPECT_EQ(Listing(), std::vector<std::string>());
+}
+
+// A red box on a page of 200 by 100 pixels at 72 to the inch; the decoder shows the part that is drawn on.
+const Bytes kMetafile = {0xD7, 0xCD, 0xC6, 0x9A, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xC8, 0x00, 0x64, 0x00,
+                         0x48, 0x00, 0x00, 0x00, 0x00, 0x00, 0xF5, 0x57, 0x01, 0x00, 0x09, 0x00, 0x00, 0x03,
+                         0x2C, 0x00, 0x00, 0x00, 0x02, 0x00, 0x07, 0x00, 0x00, 0x00, 0x00, 0x00, 0x04, 0x00,
+                         0x00, 0x00, 0x03, 0x01, 0x08, 0x00, 0x05, 0x00, 0x00, 0x00, 0x0B, 0x02, 0x00, 0x00,
+                         0x00, 0x00, 0x05, 0x00, 0x00, 0x00, 0x0C, 0x02, 0x64, 0x00, 0xC8, 0x00, 0x07, 0x00,
+                         0x00, 0x00, 0xFC, 0x02, 0x00, 0x00, 0xFF, 0x00, 0x00, 0x00, 0x00, 0x00, 0x04, 0x00,
+                         0x00, 0x00, 0x2D, 0x01, 0x00, 0x00, 0x07, 0x00, 0x00, 0x00, 0x1B, 0x04, 0x5A, 0x00,
+                         0x96, 0x00, 0x0A, 0x00, 0x14, 0x00, 0x03, 0x00, 0x00, 0x00, 0x00, 0x00};
+
+TEST_F(Formats, MetafilesAreReadAndNeverWritten) {
+    WriteBytes(Path("a.wmf"), kMetafile);
+    const CxImage image = Load("a.wmf");
+    ASSERT_EQ(image.GetSize(), (CSize{200, 100}));
+    EXPECT_EQ(image.GetPixelColor(85, 50), (CColor{255, 0, 0}));
+    EXPECT_FALSE(image.Save(Path("b.wmf"), ImageType::kWmf));
+    WriteBytes(Path("a.wmf"), std::span(kMetafile).first(60));
+    EXPECT_FALSE(Load("a.wmf").IsValid());
+
+    Bytes enhanced(200);
+    enhanced[0] = 1;
+    std::copy_n(" EMF", 4, enhanced.begin() + 40);
+    WriteBytes(Path("a.emf"), enhanced);
+    EXPECT_FALSE(Load("a.emf").IsValid());
+    EXPECT_EQ(Listing(), (std::vector<std::string>{"a.emf", "a.wmf"}));
 }
 
 // A script, a text, a vector picture and an address under each of the names must not be followed.

@@ -1,0 +1,117 @@
+// The commands of an edit on twelve megapixels, as the window runs them: through the controller, with
+// buttons, display image and canvas. Beside them stands the plain pass over the same bytes.
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <random>
+
+#include "app/MainDlg.h"
+#include "play/PlayHost.h"
+#include "play/ScriptedPlatform.h"
+#include "resources/Ids.h"
+
+namespace {
+
+constexpr int kWidth = 4000;
+constexpr int kHeight = 3000;
+
+// A program with a picture open, as it stands behind a double click in the file list.
+class CBenchProgram {
+  public:
+    CBenchProgram() : m_dialog(m_platform.Get()), m_host(m_platform, m_dialog) {
+        m_host.Init();
+        const std::filesystem::path folder = std::filesystem::temp_directory_path();
+        CxImage image(kWidth, kHeight);
+        std::minstd_rand random(1);
+        for (std::uint8_t& byte : image.MutableBytes()) byte = static_cast<std::uint8_t>(random());
+        image.Save((folder / "fotarium-bench.bmp").string(), ImageType::kBmp);
+        m_dialog.OpenFileByName(folder.string(), "fotarium-bench.bmp");
+        std::filesystem::remove(folder / "fotarium-bench.bmp");
+        m_host.Pump();
+    }
+    CMainDlg& Dialog() { return m_dialog; }
+    void Command(int nId) { m_dialog.OnCommand(nId); }
+    void Pump() { m_host.Pump(); }
+
+  private:
+    CScriptedPlatform m_platform;
+    CMainDlg m_dialog;
+    CPlayHost m_host;
+};
+
+CBenchProgram& Program() {
+    static CBenchProgram program;
+    return program;
+}
+
+void Count(benchmark::State& state) {
+    state.counters["MP/s"] =
+        benchmark::Counter(kWidth * kHeight / 1e6, benchmark::Counter::kIsIterationInvariantRate);
+}
+
+void PlainPass(benchmark::State& state) {
+    CPixels pixels;
+    pixels.Create(kWidth, kHeight);
+    for (auto _ : state) {
+        for (std::uint8_t& byte : pixels.MutableBytes()) byte = static_cast<std::uint8_t>(255 - byte);
+        benchmark::ClobberMemory();
+    }
+    Count(state);
+}
+BENCHMARK(PlainPass)->Unit(benchmark::kMicrosecond);
+
+// One display resample to another size, the cost that Undo may have.
+void DisplayResample(benchmark::State& state) {
+    const CxImage& image = *Program().Dialog().Images().m_pImgWork;
+    for (auto _ : state) {
+        CxImage display(image);
+        display.Resample(kWidth / 2, kHeight / 2);
+        benchmark::DoNotOptimize(display);
+    }
+    Count(state);
+}
+BENCHMARK(DisplayResample)->Unit(benchmark::kMicrosecond);
+
+void Reset(benchmark::State& state) {
+    CBenchProgram& program = Program();
+    for (auto _ : state) program.Command(kCmdReset);
+    Count(state);
+}
+BENCHMARK(Reset)->Unit(benchmark::kMicrosecond);
+
+// Undo and Redo in turn, between two states of the same size.
+void UndoAndRedo(benchmark::State& state) {
+    CBenchProgram& program = Program();
+    program.Command(kCmdReset);
+    for (auto _ : state) {
+        program.Command(kCmdUndo);
+        program.Command(kCmdRedo);
+    }
+    Count(state);
+}
+BENCHMARK(UndoAndRedo)->Unit(benchmark::kMicrosecond);
+
+// A push alone, with a full stack behind it.
+void PushUndo(benchmark::State& state) {
+    const CWorkingImages& images = Program().Dialog().Images();
+    CUndoStack stack;
+    for (auto _ : state) stack.Push(images.MakeEntry());
+    Count(state);
+}
+BENCHMARK(PushUndo)->Unit(benchmark::kMicrosecond);
+
+// From one mode to another and back, with the canvas painted each time.
+void SwitchMode(benchmark::State& state) {
+    CBenchProgram& program = Program();
+    for (auto _ : state) {
+        program.Command(kTabDraw);
+        program.Pump();
+        program.Command(kTabEffect);
+        program.Pump();
+    }
+    Count(state);
+}
+BENCHMARK(SwitchMode)->Unit(benchmark::kMicrosecond);
+
+}  // namespace

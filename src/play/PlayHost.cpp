@@ -228,9 +228,10 @@ std::string CPlayHost::MouseOnView(int nId, EMouseAction action, EMouseButton bu
     if (std::string strWhy = CheckButton(action, button); !strWhy.empty()) return strWhy;
     const CMouseEvent event = MakeEvent(action, button, pt, nKeys);
     if (action == EMouseAction::Move) {
-        m_dialog.OnHover(nId, (m_nHeld & kMouseLeftDown) != 0);
+        m_dialog.OnHover(nId, (event.nFlags & kMouseLeftDown) != 0);
         Pump();
     }
+    if (action == EMouseAction::Press) m_dialog.Controls().SetFocus(nId);
     pView->OnMouse(event);
     return Done();
 }
@@ -249,7 +250,7 @@ std::string CPlayHost::MouseOnWindow(EMouseAction action, EMouseButton button, C
             if (CRect::FromPlace(0, 0, sizeView.cx, sizeView.cy).Contains(ptView))
                 return MouseOnView(pControl->nId, action, button, ptView, nKeys);
         }
-        m_dialog.OnHover(pControl == nullptr ? 0 : pControl->nId, (m_nHeld & kMouseLeftDown) != 0);
+        m_dialog.OnHover(pControl == nullptr ? 0 : pControl->nId, ((m_nHeld | nKeys) & kMouseLeftDown) != 0);
         Pump();
         if (bOnControl) return Done();
     } else if (bOnControl) {

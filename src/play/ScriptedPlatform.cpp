@@ -150,7 +150,7 @@ int CScriptedPlatform::Run(CDialog& dialog) {
     CPlayHost host(*this, dialog, m_pBitmaps);
     host.Init();
     const auto it = m_mapRunners.find(nDialog);
-    if (it != m_mapRunners.end())
+    if (it != m_mapRunners.end() && it->second)
         it->second(host);
     else
         TakeAnswer(EQuestion::Modal);
@@ -253,12 +253,15 @@ CTextMask CScriptedPlatform::Rasterize(const CTextFont& font, const std::string&
     mask.nHeight = font.nHeight;
     mask.coverage.assign(static_cast<std::size_t>(mask.nWidth) * static_cast<std::size_t>(mask.nHeight), 0);
     const int nRim = font.nHeight / 8;
-    int nLeft = 0;
-    for (const int nWidth : arrWidths) {
-        for (int y = nRim; y < mask.nHeight - nRim; ++y)
-            for (int x = nLeft + nRim; x < nLeft + nWidth - nRim; ++x)
-                mask.coverage[static_cast<std::size_t>(y * mask.nWidth + x)] = 255;
-        nLeft += nWidth;
+    std::size_t nRow = 0;
+    for (int y = 0; y < mask.nHeight; ++y, nRow += static_cast<std::size_t>(mask.nWidth)) {
+        if (y < nRim || y >= mask.nHeight - nRim) continue;
+        std::size_t nLeft = nRow;
+        for (const int nWidth : arrWidths) {
+            std::fill_n(mask.coverage.begin() + static_cast<std::ptrdiff_t>(nLeft) + nRim,
+                        std::max(0, nWidth - 2 * nRim), std::uint8_t{255});
+            nLeft += static_cast<std::size_t>(nWidth);
+        }
     }
     return mask;
 }

@@ -53,6 +53,8 @@ class CScriptedPlatform : private CMessageBoxes,
     void AnswerMenu(int nId);
     // Leaves the next question of any kind but a box without a choice.
     void AnswerCancel();
+    // Goes before all that wait.
+    void AnswerNext(CAnswer answer) { m_arrAnswers.insert(m_arrAnswers.begin(), std::move(answer)); }
     // Those that nobody has asked for yet.
     const std::vector<CAnswer>& WaitingAnswers() const { return m_arrAnswers; }
     void ForgetAnswers() { m_arrAnswers.clear(); }
@@ -73,7 +75,7 @@ class CScriptedPlatform : private CMessageBoxes,
 
     // --- dialogs of the program's own ---
     // Plays the user in the dialog of that number, which is up and painted. A dialog that has not ended when
-    // the runner returns is closed. Dialogs without a runner are closed at once.
+    // the runner returns is closed. Dialogs without a runner, or with an empty one, are closed at once.
     using CRunner = std::function<void(CPlayHost&)>;
     void SetRunner(int nDialog, CRunner fnRun) { m_mapRunners[nDialog] = std::move(fnRun); }
     // For runners and topics: the answer that waits for such a question. Nothing if it is to be cancelled.
@@ -82,6 +84,7 @@ class CScriptedPlatform : private CMessageBoxes,
     // --- the rest ---
     // The pictures of all dialogs that the program runs; may be null.
     void SetBitmaps(CBitmaps* pBitmaps) { m_pBitmaps = pBitmaps; }
+    CBitmaps* Bitmaps() { return m_pBitmaps; }
     void SetInstallValue(const std::string& strValue) { m_strInstallValue = strValue; }
     std::optional<std::vector<std::uint8_t>>& ClipboardPicture() { return m_clipboard; }
 

@@ -1,0 +1,137 @@
+#include "play/WindowPicture.h"
+
+#include <algorithm>
+
+#include "image/Image.h"
+#include "resources/Ids.h"
+
+namespace {
+
+constexpr CColor kInfoGround{142, 154, 143};
+constexpr CColor kHelpGround{117, 131, 134};
+constexpr CColor kLevelGround{75, 94, 103};
+constexpr CColor kListGround{109, 121, 126};
+constexpr CColor kBarGround{95, 107, 112};
+constexpr CColor kPaper{245, 247, 244};
+constexpr CColor kFace{214, 220, 214};
+constexpr CColor kRim{64, 74, 78};
+constexpr CColor kMark{232, 143, 54};
+constexpr int kThumb = 12;
+
+class CComposer {
+  public:
+    CComposer(CPlayHost& host, CBitmaps* pBitmaps)
+        : m_host(host), m_pBitmaps(pBitmaps), m_surface(host.Dialog().Client().Surface()) {}
+
+    CSurface Compose() {
+        for (const CControl& control : m_host.Dialog().Controls().All())
+            if (control.bShown) Draw(control);
+        return std::move(m_surface);
+    }
+
+  private:
+    void Draw(const CControl& control);
+    void DrawButton(const CControl& control);
+    void DrawMark(const CControl& control);
+    void DrawShare(const CControl& control);
+    void DrawView(const CControl& control);
+    bool DrawBitmap(const std::string& strName, const CControl& control);
+    void DrawBox(const CRect& rc, CColor color) {
+        m_surface.FillRect(rc, color);
+        m_surface.FrameRect(rc, kRim);
+    }
+
+    CPlayHost& m_host;
+    CBitmaps* m_pBitmaps;
+    CSurface m_surface;
+};
+
+bool CComposer::DrawBitmap(const std::string& strName, const CControl& control) {
+    const CxImage* pImage = m_pBitmaps == nullptr ? nullptr : m_pBitmaps->Find(strName, 1);
+    if (pImage == nullptr) return false;
+    m_surface.DrawPart(pImage->Pixels(),
+                       CRect::FromPlace(0, 0, control.rcPlace.Width(), control.rcPlace.Height()),
+                       control.rcPlace.left, control.rcPlace.top);
+    return true;
+}
+
+// A state without a picture shows the normal one.
+void CComposer::DrawButton(const CControl& control) {
+    std::string strRoot = control.strCaption;
+    std::transform(strRoot.begin(), strRoot.end(), strRoot.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    const bool bFocus = m_host.Dialog().Controls().Focus() == control.nId;
+    const char cState = !control.bEnabled ? 'X' : bFocus ? 'F' : 'U';
+    if (!DrawBitmap(strRoot + cState, control)) DrawBitmap(strRoot + 'U', control);
+}
+
+void CComposer::DrawMark(const CControl& control) {
+    const int nSide = std::min(control.rcPlace.Width(), control.rcPlace.Height());
+    const CRect rc = CRect::FromPlace(control.rcPlace.left, control.rcPlace.top, nSide, nSide);
+    DrawBox(rc, kPaper);
+    if (control.bChecked) m_surface.FillRect({rc.left + 4, rc.top + 4, rc.right - 4, rc.bottom - 4}, kMark);
+}
+
+// Slider and progress bar: how far they are.
+void CComposer::DrawShare(const CControl& control) {
+    const CRect& rc = control.rcPlace;
+    const int nRange = std::max(1, control.nMax - control.nMin);
+    const int nShare = control.nPos - control.nMin;
+    if (control.kind == EControlKind::Progress) {
+        m_surface.FillRect(rc, kInfoGround);
+        return m_surface.FillRect({rc.left, rc.top, rc.left + rc.Width() * nShare / nRange, rc.bottom},
+                                  kMark);
+    }
+    DrawBox({rc.left + rc.Width() / 2 - 2, rc.top, rc.left + rc.Width() / 2 + 2, rc.bottom}, kBarGround);
+    const int nTop = rc.top + (rc.Height() - kThumb) * nShare / nRange;
+    DrawBox({rc.left, nTop, rc.right, nTop + kThumb}, kMark);
+}
+
+void CComposer::DrawView(const CControl& control) {
+    m_surface.FillRect(control.rcPlace, kBarGround);
+    const CScrollView* pView = m_host.ViewOf(control.nId);
+    if (pView == nullptr) return;
+    m_surface.DrawPixels(pView->Surface().Pixels(), control.rcPlace.left, control.rcPlace.top);
+}
+
+void CComposer::Draw(const CControl& control) {
+    switch (control.kind) {
+        case EControlKind::Group:
+        case EControlKind::Place:
+            return;
+        case EControlKind::BitmapButton:
+            return DrawButton(control);
+        case EControlKind::BitmapLabel:
+            DrawBitmap(control.strCaption, control);
+            return;
+        case EControlKind::Radio:
+        case EControlKind::Check:
+            return DrawMark(control);
+        case EControlKind::Static: {
+            const bool bInfo = control.nId != kHelpLine && control.nId != kEffectLevel;
+            const CColor color = control.nId == kHelpLine ? kHelpGround : kLevelGround;
+            return m_surface.FillRect(control.rcPlace, bInfo ? kInfoGround : color);
+        }
+        case EControlKind::Button:
+            return DrawBox(control.rcPlace, kFace);
+        case EControlKind::Edit:
+        case EControlKind::Combo:
+            return DrawBox(control.rcPlace, kPaper);
+        case EControlKind::PictureList:
+        case EControlKind::IconList:
+            return m_surface.FillRect(control.rcPlace, kListGround);
+        case EControlKind::Tree:
+            return m_surface.FillRect(control.rcPlace, kPaper);
+        case EControlKind::Slider:
+        case EControlKind::Progress:
+            return DrawShare(control);
+        case EControlKind::View:
+            return DrawView(control);
+    }
+}
+
+}  // namespace
+
+CSurface ComposeWindow(CPlayHost& host, CBitmaps* pBitmaps) {
+    return CComposer(host, pBitmaps).Compose();
+}

@@ -87,7 +87,7 @@ class CBlockStore {
     std::size_t KeptBytes() const { return m_nKeptBytes; }
 
   private:
-    static constexpr std::size_t kMaxKept = 3;
+    static constexpr std::size_t kMaxKept = 6;
     static constexpr std::size_t kMaxKeptBytes = std::size_t{128} << 20;
 
     CLargeBlock MapOrMakeRoom(std::size_t nSize) {

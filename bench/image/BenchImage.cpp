@@ -1,6 +1,6 @@
-// The picture container on twelve megapixels. Beside each result stands the pass that nothing can beat by much:
-// x = 255 - x in place over as many bytes as the result has. OpenJpeg and SaveJpeg are to be held against the
-// codec's own tools on a file of this size that lies in memory, each run twenty times:
+// The picture container on twelve megapixels. Beside each result stands the pass that nothing can beat by
+// much: x = 255 - x in place over as many bytes as the result has. OpenJpeg and SaveJpeg are to be held
+// against the codec's own tools on a file of this size that lies in memory, each run twenty times:
 //   djpeg -outfile /dev/null p.jpg
 //   cjpeg -quality 90 -outfile q.jpg p.ppm
 // FOTARIUM_BENCH_DIR=/dev/shm takes the disk out of SaveJpeg.

@@ -1,0 +1,63 @@
+#include <cstdlib>
+
+#include "play/ScriptTest.h"
+
+// Whoever has a hundred pictures to do: each goes its own way, and none leaves a trace in the next.
+TEST_F(ScriptTest, HundredPictures) {
+    std::filesystem::create_directory("in");
+    std::filesystem::create_directory("out");
+    std::string strScript;
+    for (int i = 0; i < 100; ++i) {
+        const std::string strName = "图 " + std::to_string(i) + ".png";
+        MakePicture("in/" + strName, 40 + i, 30 + i % 7, i);
+        strScript += "open \"in/" + strName + "\"\n";
+        // Every fourth in the phone's size, every other fourth by way of DRAW and back in time.
+        if (i % 4 == 0) strScript += "mode 4\ncheck 1188\n";
+        if (i % 4 == 2) strScript += "mode 4\ncheck 1188\nmode 1\ncommand 1004\nmode 3\nmode 4\n";
+        strScript += "answer save \"out/" + strName + "\"\ncommand 1002\n";
+    }
+    EXPECT_EQ(Play(strScript + "boxes", true).strOut, "boxes 0\n");
+    for (int i = 0; i < 100; ++i) {
+        const std::string strName = "out/图 " + std::to_string(i) + ".png";
+        const CPixels before = NumberedPixels(40 + i, 30 + i % 7, i);
+        EXPECT_EQ(PixelsOf(strName), i % 4 == 0 ? NaiveResample(before, 176, 144) : before) << strName;
+    }
+}
+
+// The program itself, on a script of this folder.
+class ProgramTest : public ScriptTest {
+  protected:
+    static int Run(const std::string& strArguments) {
+        const std::string strLine = "'" FOTARIUM_PLAY "' " + strArguments + " > out.txt 2> err.txt";
+        const int nStatus = std::system(strLine.c_str());
+        return WIFEXITED(nStatus) ? WEXITSTATUS(nStatus) : -1;
+    }
+};
+
+TEST_F(ProgramTest, PlaysTheWalk) {
+    const std::string strWalk = FOTARIUM_SOURCE_DIR "/tests/play/walk";
+    EXPECT_EQ(Run("--strict '" + strWalk + ".play'"), 0) << ReadBytes("err.txt");
+    EXPECT_EQ(ReadBytes("out.txt"), ReadBytes(strWalk + ".expected"));
+    EXPECT_EQ(ReadBytes("err.txt"), "");
+    // The skin is found beside the program: the ground of the window is painted.
+    const CPixels window = PixelsOf("window.ppm");
+    ASSERT_FALSE(window.IsEmpty());
+    EXPECT_NE(PixelAt(window, 5, 5), CColor{});
+    EXPECT_NE(PixelAt(window, 5, 5), PixelAt(window, 345, 400));
+}
+
+TEST_F(ProgramTest, ExitStatus) {
+    m_folder.Write("bad.txt", "state mode\nmode 9\n");
+    EXPECT_EQ(Run("bad.txt"), 1);
+    EXPECT_EQ(ReadBytes("out.txt"), "mode 0 THUM\n");
+    EXPECT_EQ(ReadBytes("err.txt"), "bad.txt:2: \"9\" is no mode\n");
+    EXPECT_EQ(Run("- < bad.txt"), 1);
+    EXPECT_EQ(ReadBytes("err.txt"), "-:2: \"9\" is no mode\n");
+    EXPECT_EQ(Run("- < /dev/null"), 0);
+    EXPECT_EQ(Run("none.txt"), 2);
+    EXPECT_EQ(Run(""), 2);
+    EXPECT_EQ(Run("--fast bad.txt"), 2);
+    EXPECT_EQ(Run("bad.txt bad.txt"), 2);
+    EXPECT_EQ(Run("--help"), 0);
+    EXPECT_EQ(ReadBytes("out.txt"), HelpText());
+}

@@ -1,0 +1,271 @@
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "play/ScriptedPlatform.h"
+#include "resources/Ids.h"
+#include "support/TempFolder.h"
+#include "window/FileDialogs.h"
+
+namespace {
+
+constexpr int kCheck = 10, kFirst = 11, kSecond = 12, kLine = 13, kView = 14, kList = 15, kEdit = 16,
+              kPlace = 17, kSlider = 18;
+constexpr std::array kControls = {
+    CControlTemplate{kCheck, EControlKind::Check, CRect::FromPlace(0, 0, 10, 10)},
+    CControlTemplate{kFirst, EControlKind::Radio, CRect::FromPlace(0, 10, 10, 10)},
+    CControlTemplate{kSecond, EControlKind::Radio, CRect::FromPlace(0, 20, 10, 10)},
+    CControlTemplate{kLine, EControlKind::Static, CRect::FromPlace(0, 30, 50, 10)},
+    CControlTemplate{kView, EControlKind::View, CRect::FromPlace(50, 50, 40, 40)},
+    CControlTemplate{kList, EControlKind::IconList, CRect::FromPlace(0, 50, 20, 20)},
+    CControlTemplate{kEdit, EControlKind::Edit, CRect::FromPlace(0, 70, 20, 10), "", true, true, 3},
+    CControlTemplate{kPlace, EControlKind::Place, CRect::FromPlace(20, 50, 10, 10)},
+    CControlTemplate{kSlider, EControlKind::Slider, CRect::FromPlace(20, 60, 10, 10)},
+};
+constexpr CDialogTemplate kTemplate = {900, "", {100, 100}, EDialogFrame::Plain, kControls};
+
+std::string Tell(const CMouseEvent& event) {
+    return std::to_string(static_cast<int>(event.action)) + std::to_string(static_cast<int>(event.button)) +
+           "@" + std::to_string(event.pt.x) + "," + std::to_string(event.pt.y) + "/" +
+           std::to_string(event.nFlags);
+}
+
+// Writes down what comes to it.
+class CLogView : public CScrollView {
+  public:
+    explicit CLogView(std::string& strLog) : CScrollView({40, 40}), m_strLog(strLog) {}
+    void OnMouse(const CMouseEvent& event) override { m_strLog += "view " + Tell(event) + ";"; }
+    void OnDraw(CSurface& /*surface*/) override { m_strLog += "draw;"; }
+
+  private:
+    std::string& m_strLog;
+};
+
+class CLogDialog : public CFileDialogPanel {
+  public:
+    CLogDialog() : CFileDialogPanel(kTemplate), m_view(m_strLog) {}
+    void OnInitDialog() override { m_strLog += "init;"; }
+    void OnDestroy() override { m_strLog += "destroy;"; }
+    void OnCommand(int nId) override { m_strLog += "command " + std::to_string(nId) + ";"; }
+    void OnNotify(int nId, ENotice notice) override {
+        m_strLog += "notice " + std::to_string(nId) + ":" + std::to_string(static_cast<int>(notice)) + ";";
+    }
+    void OnMouse(const CMouseEvent& event) override { m_strLog += "mouse " + Tell(event) + ";"; }
+    void OnHover(int nId, bool bLeft) override {
+        m_strLog += "hover " + std::to_string(nId) + (bLeft ? " down;" : ";");
+    }
+    bool OnKey(const CKeyEvent& event) override { return event.nKey != kKeyEscape; }
+    void OnTimer(int nTimer) override { m_strLog += "timer " + std::to_string(nTimer) + ";"; }
+    void OnFileNameChange(const std::string& strPath) override {
+        m_strLog += "file " + std::filesystem::path(strPath).filename().string() + ";";
+        Invalidate();
+    }
+    CScrollView* ViewOf(int nId) override { return nId == kView ? &m_view : nullptr; }
+    void OnPaint(CClientArea& /*client*/) override {
+        m_strLog += "paint;";
+        if (m_bRestless) Invalidate();
+    }
+    std::string TakeLog() { return std::exchange(m_strLog, {}); }
+
+    bool m_bRestless = false;
+    std::string m_strLog;
+    CLogView m_view;
+};
+
+class HostTest : public testing::Test {
+  protected:
+    HostTest() {
+        m_host.emplace(m_platform, m_dialog);
+        m_host->Init();
+        m_dialog.TakeLog();
+    }
+    CPlatform Get() { return m_platform.Get(); }
+
+    CScriptedPlatform m_platform;
+    CLogDialog m_dialog;
+    std::optional<CPlayHost> m_host;
+};
+
+}  // namespace
+
+TEST_F(HostTest, ClicksAsTheUserDoes) {
+    EXPECT_EQ(m_host->Click(kSecond), "");
+    EXPECT_TRUE(m_dialog.Controls().IsChecked(kSecond));
+    EXPECT_EQ(m_dialog.Controls().Focus(), kSecond);
+    EXPECT_EQ(m_host->Click(kFirst), "");
+    EXPECT_FALSE(m_dialog.Controls().IsChecked(kSecond));
+    EXPECT_EQ(m_dialog.TakeLog(), "command 12;command 11;");
+
+    m_dialog.Controls().SetItems(kList, {{"a"}, {"b"}});
+    EXPECT_EQ(m_host->SelectRow(kList, 1), "");
+    EXPECT_EQ(m_host->SelectRow(kList, 1), "");
+    EXPECT_EQ(m_host->Type(kEdit, "héllo"), "");
+    EXPECT_EQ(m_dialog.Controls().Text(kEdit), "hél");
+    EXPECT_EQ(m_host->MoveSlider(kSlider, 40), "");
+    EXPECT_NE(m_host->MoveSlider(kSlider, 101), "");
+    EXPECT_EQ(m_dialog.TakeLog(), "notice 15:0;notice 15:3;notice 15:3;notice 16:1;notice 18:2;");
+
+    m_dialog.Controls().Enable(kCheck, false);
+    EXPECT_NE(m_host->Click(kCheck), "");
+    EXPECT_EQ(m_dialog.TakeLog(), "");
+}
+
+// The mouse is over a control before the event comes, and what is held stays held until it is let go.
+TEST_F(HostTest, RoutesTheMouse) {
+    using enum EMouseAction;
+    EXPECT_EQ(m_host->MouseOnWindow(Press, EMouseButton::Left, {95, 5}), "");
+    EXPECT_EQ(m_host->MouseOnWindow(Move, EMouseButton::None, {60, 65}, kMouseCtrl), "");
+    EXPECT_EQ(m_host->MouseOnView(kView, Release, EMouseButton::Left, {1, 2}, kMouseShift), "");
+    EXPECT_EQ(m_dialog.TakeLog(), "mouse 11@95,5/1;hover 14 down;view 00@10,15/9;view 21@1,2/4;");
+
+    // A line of text lets presses through to the ground, and the ground's own places are no controls.
+    EXPECT_EQ(m_host->MouseOnWindow(Press, EMouseButton::Right, {5, 35}), "");
+    EXPECT_EQ(m_host->MouseOnWindow(Move, EMouseButton::None, {5, 35}), "");
+    EXPECT_EQ(m_host->MouseOnWindow(Move, EMouseButton::None, {25, 55}), "");
+    EXPECT_EQ(m_host->MouseOnWindow(Move, EMouseButton::None, {5, 5}), "");
+    EXPECT_EQ(m_dialog.TakeLog(),
+              "mouse 12@5,35/2;hover 13;mouse 00@5,35/2;hover 0;mouse 00@25,55/2;hover 10;");
+    EXPECT_NE(m_host->MouseOnWindow(Press, EMouseButton::Left, {5, 5}), "");
+
+    // A view that scrolls has no client area below its bars.
+    m_dialog.m_view.SetScrollSizes({100, 10});
+    EXPECT_NE(m_host->MouseOnView(kView, Press, EMouseButton::Left, {1, 30}), "");
+    EXPECT_EQ(m_dialog.TakeLog(), "");
+}
+
+TEST_F(HostTest, PaintsBetweenEventsOnlyWhatIsSeen) {
+    m_dialog.Controls().Show(kView, false);
+    m_dialog.m_view.Invalidate();
+    m_dialog.Invalidate();
+    EXPECT_EQ(m_host->Click(kCheck), "");
+    EXPECT_EQ(m_dialog.TakeLog(), "command 10;paint;");
+    m_dialog.Controls().Show(kView, true);
+    EXPECT_TRUE(m_host->Pump());
+    EXPECT_EQ(m_dialog.TakeLog(), "draw;");
+    m_dialog.m_bRestless = true;
+    m_dialog.Invalidate();
+    EXPECT_FALSE(m_host->Pump());
+}
+
+TEST_F(HostTest, EscapeClosesWhatDoesNotTakeIt) {
+    EXPECT_EQ(m_host->Key({kKeyEnter}), "");
+    EXPECT_FALSE(m_dialog.HasEnded());
+    EXPECT_EQ(m_host->Key({kKeyEscape}), "");
+    EXPECT_TRUE(m_dialog.HasEnded());
+    EXPECT_EQ(m_dialog.EndCode(), CDialog::kDialogCancel);
+}
+
+TEST_F(HostTest, EndsTheWindow) {
+    Get().timers.SetTimer(m_dialog, 1, 5);
+    Get().timers.SetTimer(m_dialog.m_view, 1, 5);
+    m_host.reset();
+    EXPECT_EQ(m_platform.Timers().Count(), 0);
+    EXPECT_EQ(m_dialog.TakeLog(), "destroy;");
+}
+
+// Ticks come when they are due; a timer goes on from then; one that is set anew starts anew.
+TEST_F(HostTest, Timers) {
+    CTimers& timers = Get().timers;
+    timers.SetTimer(m_dialog, 1, 30);
+    timers.SetTimer(m_dialog, 2, 10);
+    m_platform.Tick(29);
+    EXPECT_EQ(m_dialog.TakeLog(), "timer 2;timer 2;");
+    m_platform.Tick(1);
+    // Both are due: the one set first comes first.
+    EXPECT_EQ(m_dialog.TakeLog(), "timer 1;timer 2;");
+    m_platform.Tick(5);
+    timers.SetTimer(m_dialog, 2, 10);
+    m_platform.Tick(9);
+    EXPECT_EQ(m_dialog.TakeLog(), "");
+    m_platform.Tick(1);
+    timers.KillTimer(m_dialog, 2);
+    m_platform.Tick(16);
+    EXPECT_EQ(m_dialog.TakeLog(), "timer 2;timer 1;");
+    timers.KillTimer(m_dialog, 1);
+
+    // As fast as events allow has an end all the same.
+    timers.SetTimer(m_dialog, 3, 0);
+    m_platform.Tick(0);
+    EXPECT_EQ(m_dialog.TakeLog(), "timer 3;");
+    m_platform.Tick(2);
+    EXPECT_EQ(m_dialog.TakeLog(), "timer 3;timer 3;");
+}
+
+TEST_F(HostTest, BoxesTakeTheirAnswersOrTheirDefaults) {
+    using enum EBoxAnswer;
+    CMessageBoxes& boxes = Get().boxes;
+    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::Ok}), Ok);
+    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::OkCancel}), Cancel);
+    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::YesNo}), No);
+    EXPECT_EQ(m_platform.TakeProblems().size(), 3U);
+    for (const EBoxAnswer answer : {Ok, Yes, Cancel}) m_platform.Answer(answer);
+    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::OkCancel}), Ok);
+    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::YesNo}), Yes);
+    EXPECT_TRUE(m_platform.TakeProblems().empty());
+    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::YesNo}), No);
+    EXPECT_EQ(m_platform.TakeProblems().at(0).kind, EProblem::Impossible);
+    EXPECT_EQ(m_platform.TakeBoxes().size(), 6U);
+}
+
+TEST_F(HostTest, OpenDialogFollowsTheSelectionAndMovesThere) {
+    const CTempFolder folder;
+    CLogDialog panel;
+    m_dialog.Invalidate();
+    m_platform.AnswerCancel();
+    m_platform.AnswerOpen(folder.Path("x.jpg"));
+    EXPECT_FALSE(Get().files.RunOpen({}, nullptr));
+    // The window behind is painted while the dialog stands.
+    EXPECT_EQ(m_dialog.TakeLog(), "paint;");
+    const std::optional<CFileChoice> choice = Get().files.RunOpen({"*|*||", ""}, &panel);
+    EXPECT_EQ(choice, (CFileChoice{folder.Path("x.jpg"), "x.jpg"}));
+    EXPECT_EQ(panel.TakeLog(), "init;paint;draw;file x.jpg;paint;destroy;");
+    EXPECT_EQ(Get().folders.CurrentFolder(), std::filesystem::canonical(folder.Path()));
+    EXPECT_FALSE(Get().folders.SetCurrentFolder(folder.Path("none")));
+    EXPECT_EQ(m_platform.TakeAsked().at(1).request.strFilter, "*|*||");
+    Get().folders.SetCurrentFolder("/");
+}
+
+TEST_F(HostTest, OtherDialogs) {
+    m_platform.AnswerColor({1, 2, 3});
+    m_platform.AnswerFont("黑体", true);
+    m_platform.AnswerMenu(5);
+    EXPECT_EQ(Get().fonts.Run({"x", false}), (CFontChoice{"黑体", true}));
+    EXPECT_EQ(Get().colors.Run({9, 9, 9}), (CColor{1, 2, 3}));
+    const std::array arrItems = {CMenuItem{5, "", false}};
+    EXPECT_EQ(Get().menus.Track(arrItems), 0);
+    EXPECT_EQ(m_platform.TakeProblems().at(0).kind, EProblem::Impossible);
+
+    CLogDialog dialog;
+    EXPECT_EQ(Get().modals.Run(dialog), CDialog::kDialogCancel);
+    EXPECT_EQ(m_platform.TakeProblems().at(0).kind, EProblem::Missing);
+    m_platform.SetRunner(900, [](CPlayHost& host) {
+        const std::optional<CAnswer> answer = host.Platform().TakeAnswer(EQuestion::Size);
+        if (answer) host.Dialog().EndDialog(answer->size.cx);
+    });
+    m_platform.AnswerSize({7, 8});
+    CLogDialog second;
+    EXPECT_EQ(Get().modals.Run(second), 7);
+    EXPECT_EQ(second.TakeLog(), "init;paint;draw;destroy;");
+}
+
+TEST_F(HostTest, WaitCursorNests) {
+    {
+        const CWaitScope outer(Get().wait);
+        const CWaitScope inner(Get().wait);
+        EXPECT_EQ(m_platform.WaitDepth(), 2);
+    }
+    EXPECT_EQ(m_platform.WaitDepth(), 0);
+    EXPECT_EQ(m_platform.WaitCount(), 1);
+}
+
+// Text comes out the same on every machine, with each character where it stands.
+TEST_F(HostTest, TextMasks) {
+    const CTextMask mask = Get().text.Rasterize({"", 16}, "a字");
+    EXPECT_EQ(mask.nWidth, 8 + 16);
+    EXPECT_EQ(mask.nHeight, 16);
+    std::string strRow;
+    const auto itRow = mask.coverage.begin() + std::ptrdiff_t{8} * mask.nWidth;
+    for (auto it = itRow; it != itRow + mask.nWidth; ++it) strRow += *it != 0 ? '#' : '.';
+    EXPECT_EQ(strRow, "..####....############..");
+    EXPECT_EQ(Get().text.Rasterize({"", 16}, "").nHeight, 0);
+}

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
 #include <QTranslator>
 #include <memory>
@@ -69,5 +70,6 @@ void SetUpApplication(QApplication& application) {
     QApplication::setWindowIcon(LoadIcon());
     // One dialog's window follows another: between two there is none.
     QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
     InstallTranslation(application);
 }

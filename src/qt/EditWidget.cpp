@@ -2,9 +2,15 @@
 
 #include "qt/FontMapping.h"
 #include "qt/Text.h"
+#include "resources/Ids.h"
 #include "window/Dialog.h"
 
 namespace {
+
+// On the main window's skin the well around the line is drawn already.
+constexpr char kSkinStyle[] =
+    "QLineEdit { border: none; background: #f5f7f4; color: #222a28; padding: 0 2px;"
+    " selection-background-color: #e88f36; selection-color: #ffffff; }";
 
 constexpr char kStyle[] =
     "QLineEdit { border: 1px solid #4a5458; background: #f5f7f4; color: #222a28; padding: 0 2px;"
@@ -15,7 +21,7 @@ constexpr char kStyle[] =
 }  // namespace
 
 CEditWidget::CEditWidget(const CControlContext& context) : QLineEdit(context.pParent), m_context(context) {
-    setStyleSheet(kStyle);
+    setStyleSheet(context.dialog.Template().nId == kDlgMain ? kSkinStyle : kStyle);
     setFont(MapFont({}, context.control.rcPlace.Height() < 18 ? 12 : 13));
     if (context.control.nMaxText > 0) setMaxLength(context.control.nMaxText);
     setText(ToQt(context.control.strText));

@@ -2,6 +2,8 @@
 
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHeaderView>
+#include <QTreeView>
 #include <filesystem>
 
 #include "qt/FileNames.h"
@@ -11,6 +13,9 @@
 namespace {
 
 constexpr QSize kWindow(860, 520);
+constexpr int kTypeColumn = 2;
+constexpr int kDateColumn = 3;
+constexpr int kListRow = 1;  // of the dialog's grid; the folder's line stands above it
 
 }  // namespace
 
@@ -28,13 +33,26 @@ CFileWindow::CFileWindow(AcceptMode mode, const CFileDialogRequest& request, QWi
     setLabelText(Reject, "取消");
     if (mode == AcceptSave) setDefaultSuffix("jpg");
     if (!request.strDefaultName.empty()) selectFile(PathToQt(request.strDefaultName));
+    SetUpColumns();
     resize(kWindow);
+}
+
+// Name, size and date; the names get what room there is.
+void CFileWindow::SetUpColumns() {
+    auto* pList = findChild<QTreeView*>("treeView");
+    if (pList == nullptr) return;
+    QHeaderView& header = *pList->header();
+    header.setSectionResizeMode(QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(0, QHeaderView::Stretch);
+    header.hideSection(kTypeColumn);
+    pList->setItemDelegateForColumn(kDateColumn, &m_dates);
 }
 
 void CFileWindow::AddBeside(QWidget& widget) {
     auto* pGrid = qobject_cast<QGridLayout*>(layout());
-    if (pGrid != nullptr)
-        pGrid->addWidget(&widget, 0, pGrid->columnCount(), pGrid->rowCount(), 1, Qt::AlignTop);
+    if (pGrid == nullptr) return;
+    const int nRows = pGrid->rowCount() - kListRow;
+    pGrid->addWidget(&widget, kListRow, pGrid->columnCount(), nRows, 1, Qt::AlignTop);
 }
 
 std::string CFileWindow::ChosenPath() const {

@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <string>
 
+#include "qt/FileDateDelegate.h"
 #include "window/FileDialogs.h"
 
 // The window of the file dialogs: a list of the current folder with a line to type a name in. When opening, a
@@ -21,5 +22,8 @@ class CFileWindow : public QFileDialog {
     void accept() override;
 
   private:
+    void SetUpColumns();
     bool AskReplace(const std::string& strPath);
+
+    CFileDateDelegate m_dates;
 };

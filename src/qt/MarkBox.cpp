@@ -58,9 +58,9 @@ void CMarkBox::PaintRound(QPainter& painter, const QRectF& rc) const {
 void CMarkBox::PaintSquare(QPainter& painter, const QRectF& rc) const {
     painter.drawRoundedRect(rc, 2, 2);
     if (!m_context.control.bChecked) return;
-    QPainterPath path(rc.topLeft() + QPointF(2.6, 6.2));
-    path.lineTo(rc.topLeft() + QPointF(5.0, 9.0));
-    path.lineTo(rc.topLeft() + QPointF(9.6, 2.8));
+    QPainterPath path(rc.topLeft() + QPointF(2.4, 5.8));
+    path.lineTo(rc.topLeft() + QPointF(4.7, 8.4));
+    path.lineTo(rc.topLeft() + QPointF(8.8, 2.8));
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(isEnabled() ? SkinColors::kWarm.darker(110) : kPaleMark, 2.4, Qt::SolidLine,
                         Qt::RoundCap, Qt::RoundJoin));
@@ -71,10 +71,16 @@ void CMarkBox::paintEvent(QPaintEvent* /*pEvent*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool bFocus = m_context.dialog.Controls().Focus() == m_context.control.nId;
-    const QRectF rc = QRectF(0, (height() - kBoxSide) / 2, kBoxSide, kBoxSide).adjusted(1, 1, -1, -1);
-    painter.setPen(QPen(bFocus && isEnabled() ? SkinColors::kWarm : kRim, bFocus ? 1.6 : 1.2));
+    const bool bRadio = m_context.control.kind == EControlKind::Radio;
+    const QRectF rc = QRectF(0, (height() - kBoxSide) / 2, kBoxSide, kBoxSide).adjusted(1.5, 1.5, -1.5, -1.5);
+    if (bFocus && isEnabled()) {
+        const double fRadius = bRadio ? rc.width() / 2 + 1 : 3;
+        painter.setPen(QPen(SkinColors::kWarm, 1));
+        painter.drawRoundedRect(rc.adjusted(-1, -1, 1, 1), fRadius, fRadius);
+    }
+    painter.setPen(QPen(kRim, 1));
     painter.setBrush(!isEnabled() ? kPaleWell : isDown() ? kWell.darker(112) : kWell);
-    if (m_context.control.kind == EControlKind::Radio)
+    if (bRadio)
         PaintRound(painter, rc);
     else
         PaintSquare(painter, rc);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include "qt/Application.h"
 
@@ -8,6 +9,9 @@
 // is.
 int main(int nArguments, char** arrArguments) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Nor do they read or leave settings among the user's.
+    const QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
     testing::InitGoogleTest(&nArguments, arrArguments);
     QApplication application(nArguments, arrArguments);
     SetUpApplication(application);

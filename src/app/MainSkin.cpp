@@ -81,10 +81,9 @@ void CMainSkin::OnTimer(CClientArea& client, int nTimer) {
     EndHint(client);
 }
 
-// Redraws the control whose hint is up, which takes the hint away with it. A timer of a hint that has been
-// wiped already finds no control and does nothing.
+// Each strip's hint goes when its own second is over, whichever hint came up last: the strip of a hint that
+// has been wiped already is wiped once more.
 void CMainSkin::EndHint(CClientArea& client) {
-    if (m_nHintCtrl == 0) return;
     if (m_nHintState == 0) client.DrawBitmap(kTopStrip, kTopStripAt.x, kTopStripAt.y);
     if (m_nHintState == 1) {
         WipeTabHint(client);

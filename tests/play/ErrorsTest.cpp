@@ -50,9 +50,7 @@ TEST_F(ScriptTest, NamesTheLineThatCannotBeDone) {
         {"command 1027\nmouse release left 5 1", "test:2: that mouse button is not down\n"},
         {"command 1027\nmouse press left 5 1 alt", "test:2: \"alt\" is no key beside shift and ctrl\n"},
         {"command 1027\nmouse press left 5 y", "test:2: \"y\" is no number\n"},
-        {"command 1027\nmouse press left 5",
-         "test:2: it is mouse press|move|release|double left|right X Y "
-         "[shift] [ctrl]\n"},
+        {"command 1027\nmouse press left 5", "test:2: a place needs two numbers\n"},
         {"command 1027\nmouse fling left 5 1", "test:2: \"fling\" is no mouse action\n"},
         {"command 1027\nscroll 1 0", "test:2: the view scrolls no further than (0,0)\n"},
         {"window press left 40 30", "test:1: (40,30) is on control 1000\n"},

@@ -54,13 +54,13 @@ void CScriptedPlatform::Answer(EBoxAnswer answer) {
 
 void CScriptedPlatform::AnswerOpen(const std::string& strPath) {
     CAnswer answer = AnswerTo(EQuestion::Open);
-    answer.strPath = fs::absolute(strPath).string();
+    answer.strPath = fs::absolute(strPath).lexically_normal().string();
     Answer(std::move(answer));
 }
 
 void CScriptedPlatform::AnswerSave(const std::string& strPath) {
     CAnswer answer = AnswerTo(EQuestion::Save);
-    answer.strPath = fs::absolute(strPath).string();
+    answer.strPath = fs::absolute(strPath).lexically_normal().string();
     Answer(std::move(answer));
 }
 

@@ -20,7 +20,10 @@ struct CStage {
     std::filesystem::path pathStart;
     int nLine = 0;
 
-    std::string PathOf(const std::string& strPath) const { return (pathStart / strPath).string(); }
+    // Whole, as a dialog would give it.
+    std::string PathOf(const std::string& strPath) const {
+        return (pathStart / strPath).lexically_normal().string();
+    }
 };
 
 // One verb of the scripts. The handler gets the words behind the verb, as many as nMin to nMax say, and

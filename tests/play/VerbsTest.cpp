@@ -24,9 +24,10 @@ TEST_F(ScriptTest, OpensByAQuotedChinesePathAndDumpsThePixels) {
 TEST_F(ScriptTest, PathsCountFromTheStart) {
     std::filesystem::create_directory("sub");
     MakePicture("sub/a.png", 20, 10);
-    Print(
-        "open sub/a.png\nanswer save sub/b.bmp\ncommand 1002\nanswer open sub/b.bmp\ncommand 1000\n"
-        "dump work c.ppm");
+    const std::string strStart = std::filesystem::current_path().string();
+    EXPECT_EQ(Print("open sub/a.png\nanswer save sub/b.bmp\ncommand 1002\nanswer open sub/../sub/./b.bmp\n"
+                    "command 1000\ndump work c.ppm\nstate path"),
+              "path \"" + strStart + "/sub/b.bmp\"\n");
     EXPECT_EQ(PixelsOf("c.ppm"), NumberedPixels(20, 10));
     EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(m_folder.Path()));
 }

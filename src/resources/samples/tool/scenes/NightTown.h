@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include "Stage.h"
+
+struct CTownLamp {
+    CVec3 at;
+    CVec3 crLight;
+    float fPower;
+};
+
+// The far bank with its houses, towers, pagoda and bridge; returns its single lamps, which are no part of the
+// mesh.
+std::vector<CTownLamp> AddTown(CStage& stage);

@@ -23,9 +23,10 @@ function(fotarium_room NAME)
   target_link_libraries(room_${NAME} PRIVATE fotarium_flags ${ARG_PRIVATE} PUBLIC ${ARG_LINK})
 endfunction()
 
-# fotarium_test(NAME [LINK libraries...]): one GoogleTest program of the files in tests/NAME/.
+# fotarium_test(NAME [LINK libraries...] [FILTER tests]): one GoogleTest program of the files in tests/NAME/. With a
+# filter, ctest runs only what passes it, one by one; the rest is for an add_test of its own.
 function(fotarium_test NAME)
-  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "FILTER" "LINK" ${ARGN})
   file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.h)
   if(NOT SOURCES)
     return()
@@ -34,7 +35,8 @@ function(fotarium_test NAME)
   target_include_directories(test_${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(test_${NAME} PRIVATE fotarium_flags ${ARG_LINK} GTest::gtest_main)
   target_compile_definitions(test_${NAME} PRIVATE FOTARIUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-  gtest_discover_tests(test_${NAME} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" DISCOVERY_TIMEOUT 60)
+  gtest_discover_tests(test_${NAME} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TEST_FILTER "${ARG_FILTER}"
+    DISCOVERY_TIMEOUT 60)
 endfunction()
 
 # fotarium_bench(NAME [LINK libraries...]): one Google Benchmark program of the files in bench/NAME/.

@@ -9,7 +9,6 @@
 namespace {
 
 constexpr CColor kGround{109, 121, 126};
-constexpr CColor kPanel{142, 154, 143};
 constexpr CColor kEdge{75, 94, 103};
 
 // Decodes no more of a photograph than its preview needs.
@@ -51,7 +50,6 @@ CScrollView* CPreviewFileDlg::ViewOf(int nId) {
 }
 
 void CPreviewFileDlg::OnPaint(CClientArea& client) {
-    client.FillRect(CRect::FromPlace(0, 0, client.Size().cx, client.Size().cy), kPanel);
     const CRect rcFrame = Controls().Find(kPreviewFrame)->rcPlace;
     client.FillRect(rcFrame, kEdge);
     client.FillRect({rcFrame.left + 1, rcFrame.top + 1, rcFrame.right - 1, rcFrame.bottom - 1}, kGround);

@@ -11,6 +11,7 @@ struct CStep {
     const CFilm& variance;
     const CClues& clues;
     int nStride;
+    bool bByShape;
 };
 
 void FilterPixel(const CStep& step, int x, int y, CVec3& light, float& fVariance) {
@@ -47,8 +48,9 @@ void FilterPixel(const CStep& step, int x, int y, CVec3& light, float& fVariance
             const CVec3 dn = step.clues.normal.At(xx, yy) - normal;
             const CVec3 db = step.clues.body.At(xx, yy) - body;
             const float fPlane = std::fabs(Dot(step.clues.place.At(xx, yy) - place, normal)) / fFootprint;
-            const float fDifference = std::fabs(Luminance(there) - Luminance(here)) * fBrightness + fPlane +
-                                      24 * Dot(dn, dn) + 30 * Dot(db, db);
+            const float fShape = step.bByShape ? fPlane + 24 * Dot(dn, dn) : 0;
+            const float fDifference =
+                std::fabs(Luminance(there) - Luminance(here)) * fBrightness + fShape + 30 * Dot(db, db);
             const float w = kTaps[std::abs(i)] * kTaps[std::abs(j)] * std::exp(-fDifference);
             sum += there * w;
             fSum += w;
@@ -84,7 +86,7 @@ void Despeckle(CFilm& light, CFilm& variance) {
 
 }  // namespace
 
-CFilm Denoise(const CFilm& film, const CClues& clues) {
+CFilm Denoise(const CFilm& film, const CClues& clues, bool bByShape) {
     CFilm light = film;
     CFilm variance = clues.variance;
     for (std::size_t i = 0; i < film.pixels.size(); ++i) {
@@ -98,7 +100,7 @@ CFilm Denoise(const CFilm& film, const CClues& clues) {
     CFilm nextLight = light;
     CFilm nextVariance = variance;
     for (int nStride = 1; nStride <= 16; nStride *= 2) {
-        const CStep step{light, variance, clues, nStride};
+        const CStep step{light, variance, clues, nStride, bByShape};
         for (int y = 0; y < film.nHeight; ++y) {
             for (int x = 0; x < film.nWidth; ++x) {
                 FilterPixel(step, x, y, nextLight.At(x, y), nextVariance.At(x, y).x);

@@ -12,4 +12,5 @@ struct CClues {
 };
 
 // Light averaged over neighbours that belong to the same surface and are as bright as their noise allows.
-CFilm Denoise(const CFilm& film, const CClues& clues);
+// Without `bByShape` the direction and the place of the surface do not count.
+CFilm Denoise(const CFilm& film, const CClues& clues, bool bByShape);

@@ -123,7 +123,7 @@ std::vector<std::uint8_t> Develop(CFilm film, const CLook& look) {
         const float fLevel = Luminance(cr);
         const float fGrain = look.fGrain * 1.73F * fBell * (0.4F + 2.4F * fLevel * (1 - fLevel));
         for (int n = 0; n < 3; ++n) {
-            bytes.push_back(static_cast<std::uint8_t>(Clamp01(cr[n] + fGrain) * 255 + 0.5F));
+            bytes.push_back(static_cast<std::uint8_t>(std::lround(Clamp01(cr[n] + fGrain) * 255)));
         }
     }
     return bytes;

@@ -31,7 +31,7 @@ struct CLook {
     float fGrain = 0.008F;      // standard deviation in the developed picture, 0..1
     float fGlow = 0.04F;        // part of the light that the lens scatters
     float fGlowRadius = 0.02F;  // of the picture's height
-    float fSharpen = 0.25F;
+    float fSharpen = 0.12F;
 };
 
 // The film as 3 bytes a pixel R, G, B without row padding.

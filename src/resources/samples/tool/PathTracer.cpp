@@ -116,8 +116,7 @@ class CTracer {
             path.light += path.weight * surface.crEmitted;
             if (!path.bCluesTaken && (!bClear || nBounce > 3)) {
                 path.bCluesTaken = true;
-                clues.body.pixels[nPixel] +=
-                    Min(surface.crBody + surface.crEmitted + surface.crMirror, {1, 1, 1}) * fPart;
+                clues.body.pixels[nPixel] += Min(surface.crBody + surface.crMirror, {1, 1, 1}) * fPart;
                 clues.normal.pixels[nPixel] += surface.normal * fPart;
                 clues.place.pixels[nPixel] += hit.spot.position * fPart;
             }
@@ -330,7 +329,7 @@ CFilm Photograph(const CStage& stage, int nWidth, int nHeight, int nPaths) {
             clues.variance.pixels[nPixel].x = std::max(0.0F, fSquares * fPart - fMean * fMean) * fPart;
         }
     }
-    return Denoise(film, clues);
+    return Denoise(film, clues, !stage.bFarIsSoft);
 }
 
 CVec3 Bend(const CSpot& spot, CVec3 p, float fStep, float fHeight,

@@ -64,6 +64,7 @@ struct CStage {
     };
     std::function<CAir(CVec3 origin, CVec3 dir, float fLength)> air;
     CCamera camera;
+    bool bFarIsSoft = false;  // what is not in focus has no edges that the cleaning must keep
 
     int AddShader(CShader shader, bool bClear = false) {
         shaders.push_back(std::move(shader));

@@ -14,18 +14,12 @@
 namespace {
 
 constexpr std::array<CPicture, 6> kPictures{{
-    {"湖光",
-     1280,
-     960,
-     76,
-     20,
-     TakeLake,
-     {.fContrast = 1.06F, .fSaturation = 1.08F, .fGrain = 0.004F, .fSharpen = 0.15F}},
-    {"静物", 1280, 960, 84, 40, TakeStillLife, {.fExposure = 1.3F, .fGrain = 0.005F}},
-    {"肖像", 960, 1280, 84, 36, TakePortrait, {.fExposure = 1.2F, .fGrain = 0.005F}},
-    {"夜色", 1280, 960, 82, 96, TakeNight, {.fGrain = 0.006F, .fGlow = 0.1F}},
-    {"书页", 960, 1280, 80, 32, TakePage, {.fExposure = 1.15F, .fGrain = 0.005F}},
-    {"花砖", 1280, 960, 80, 28, TakeTiles, {.fSaturation = 1.1F, .fGrain = 0.005F}},
+    {"湖光", 1280, 960, 56, 20, TakeLake, {.fContrast = 1.06F, .fSaturation = 1.08F, .fGrain = 0.003F}},
+    {"静物", 1280, 960, 72, 40, TakeStillLife, {.fExposure = 1.3F, .fGrain = 0.003F}},
+    {"肖像", 960, 1280, 72, 36, TakePortrait, {.fExposure = 1.2F, .fGrain = 0.003F}},
+    {"夜色", 1280, 960, 66, 96, TakeNight, {.fGrain = 0.003F, .fGlow = 0.1F}},
+    {"书页", 900, 1200, 62, 32, TakePage, {.fExposure = 1.15F, .fGrain = 0.003F}},
+    {"花砖", 1024, 768, 62, 28, TakeTiles, {.fSaturation = 1.1F, .fGrain = 0.003F}},
 }};
 
 // In a draft both sides are halved.

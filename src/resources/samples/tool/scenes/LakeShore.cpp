@@ -48,8 +48,8 @@ void AddFarTree(CStage& stage, int nMaterial, CVec3 foot, float fHeight, int nAr
     const float fWide = fHeight * (0.15F + 0.07F * static_cast<float>(nSeed & 255U) / 255);
     const float fLean = 0.05F * (static_cast<float>(nSeed >> 8 & 255U) / 255 - 0.5F);
     AddSheet(stage.mesh, nMaterial, nAround, nTiers * 2, true, [&](float u, float v) {
-        const int nStep = static_cast<int>(v * static_cast<float>(nTiers) * 2 + 0.5F);
-        const int nSpoke = static_cast<int>(u * static_cast<float>(nAround) + 0.5F) % nAround;
+        const int nStep = static_cast<int>(std::lround(v * static_cast<float>(nTiers) * 2));
+        const int nSpoke = static_cast<int>(std::lround(u * static_cast<float>(nAround))) % nAround;
         const float fJag = HashUnit(nSpoke, nStep, static_cast<int>(nSeed & 0xffffU));
         const float r =
             fWide * (1 - v) * (nStep % 2 == 0 ? 0.95F + 0.5F * fJag : 0.5F + 0.25F * fJag) + 0.004F * fHeight;
@@ -80,15 +80,15 @@ void AddNearTree(CStage& stage, int nBark, int nNeedles, CVec3 foot, float fHeig
                 return foot + CVec3{0, fHeight * t, 0} + out * (fReach * s) +
                        CVec3{0, -fDroop * fReach * s * s + 0.12F * fReach * s * s * s, 0};
             };
-            for (int k = 0; k < 16; ++k) {
-                const float s = (static_cast<float>(k) + random.Unit()) / 16;
+            for (int k = 0; k < 26; ++k) {
+                const float s = (static_cast<float>(k) + random.Unit()) / 26;
                 const CVec3 root = along(s);
                 const float fSide = k % 2 == 0 ? 1.0F : -1.0F;
                 const float fTwig = fReach * 0.34F * (1.1F - s) + 0.05F;
                 const CVec3 tip = root + (side * (fSide * 0.75F) + out * 0.75F) * fTwig +
                                   CVec3{0, random.Between(-0.5F, 0.05F) * fTwig, 0};
                 const CVec3 thick =
-                    CVec3{random.Between(-1, 1), random.Between(-0.5F, 1), random.Between(-1, 1)} * 0.035F;
+                    CVec3{random.Between(-1, 1), random.Between(-0.5F, 1), random.Between(-1, 1)} * 0.022F;
                 AddSheet(stage.mesh, nNeedles, 2, 2, false, [&](float u, float v) {
                     return Mix(root, tip, u) + thick * ((v - 0.5F) * 2 * (1.2F - u)) +
                            CVec3{0, 0.02F * (1 - std::fabs(2 * v - 1)), 0};
@@ -96,6 +96,18 @@ void AddNearTree(CStage& stage, int nBark, int nNeedles, CVec3 foot, float fHeig
             }
         }
     }
+}
+
+// A point of the boat's shell; u runs from stern to bow, v from gunwale under the keel to gunwale.
+CVec3 SkinPoint(float u, float v, float fShrink) {
+    const float s = u * 2 - 1;
+    const float fBeam =
+        0.5F * fShrink * std::pow(std::max(0.0F, 1 - std::pow(std::max(s, -0.75F * s), 2.6F)), 0.6F);
+    const float fTop = 0.4F + 0.16F * s * s;
+    const float a = kPi * v;
+    const float fDepth = std::pow(std::fabs(std::sin(a)), 0.7F);
+    const float fKeel = -0.12F + 0.22F * std::pow(std::max(s, 0.0F), 3.0F) + (1 - fShrink) * 0.7F;
+    return {-fBeam * std::cos(a) * (0.75F + 0.25F * (1 - fDepth)), Mix(fTop, fKeel, fDepth), -s * 1.3F};
 }
 
 CSurface Plank(const CSpot& spot) {
@@ -133,7 +145,7 @@ float LandHeight(float x, float d) {
     const float fCut = Ridged(bent * 0.055F + CVec2{2.3F, 0.6F}, 8) - 0.55F;
     f += fRange * (1 + 0.4F * fCut) + 4.5F * fCut * Smooth(2, 14, fRange);
     // The bank at the photographer's feet, higher on the left.
-    const float fBank = Smooth(8.5F, 3.5F, d + 0.75F * x + 2.0F * Noise(at * 0.45F) + 2.2F);
+    const float fBank = Smooth(8.5F, 3.5F, d + 1.1F * x + 2.0F * Noise(at * 0.45F) + 2.2F);
     return std::max(f, -1.5F + 2.1F * fBank + 0.07F * Fbm(at * 2.2F, 4) * fBank);
 }
 
@@ -152,7 +164,7 @@ void AddWoods(CStage& stage) {
                    nSeed);
     }
     const int nBark = stage.AddShader(Bark(0x4a3828));
-    const int nNear = stage.AddShader(Needles(0x1d3a1e, 0x48662c));
+    const int nNear = stage.AddShader(Needles(0x24461f, 0x5d7a34));
     AddNearTree(stage, nBark, nNear, {-5.4F, LandHeight(-5.4F, 9.0F) - 0.1F, -9.0F}, 8.3F, 11);
     AddNearTree(stage, nBark, nNear, {-7.6F, LandHeight(-7.6F, 11.5F) - 0.1F, -11.5F}, 7.2F, 12);
     AddNearTree(stage, nBark, nNear, {-4.4F, LandHeight(-4.4F, 10.6F) - 0.1F, -10.6F}, 4.6F, 13);
@@ -198,7 +210,8 @@ void AddJetty(CStage& stage) {
     }
     for (int i = 0; i < 5; ++i) {
         for (int nSide = -1; nSide <= 1; nSide += 2) {
-            const CVec3 foot{0.52F * static_cast<float>(nSide), -1, -0.2F - 1.58F * static_cast<float>(i)};
+            const CVec3 foot{0.52F * static_cast<float>(nSide), -1,
+                             -0.2F - 1.58F * static_cast<float>(i) - (nSide > 0 ? 0.7F : 0.0F)};
             const float fTop = 1.55F + 0.35F * HashUnit(i, nSide + 40);
             AddTurned(stage.mesh, nPost,
                       {{0.06F, 0}, {0.06F, 0.8F}, {0.058F, fTop - 0.03F}, {0.045F, fTop}, {0, fTop}}, 18, 24,
@@ -218,7 +231,6 @@ void AddBoat(CStage& stage) {
         const float fStrake = std::fabs(std::fmod(p.y * 9 + 9, 1.0F) - 0.5F);
         surface.crBody = Mix(Srgb(0xb03a2a), Srgb(0x8a2a20), Fbm(p * 6, 4) + 0.4F);
         if (p.y > 0.36F) surface.crBody = Srgb(0xe6ddc8);
-        if (p.x > 90) surface.crBody = Srgb(0x9a7448);
         surface.crBody = surface.crBody * (0.75F + 0.25F * Smooth(0.04F, 0.12F, fStrake));
         surface.normal = spot.normal;
         surface.fRoughness = 0.45F;
@@ -226,22 +238,17 @@ void AddBoat(CStage& stage) {
     });
     const int nWood = stage.AddShader(Bark(0x9a7248));
     const std::size_t nFirst = stage.mesh.corners.size();
-    // Outside and inside of the shell; u runs from stern to bow, v from gunwale under the keel to gunwale.
+    // Outside and inside of the shell.
     for (int nSkin = 0; nSkin < 2; ++nSkin) {
-        const float fShrink = nSkin == 0 ? 1.0F : 0.93F;
         AddSheet(stage.mesh, nSkin == 0 ? nHull : nWood, 80, 40, false, [&](float u, float v) {
-            const float s = u * 2 - 1;
-            const float fBeam =
-                0.5F * fShrink * std::pow(std::max(0.0F, 1 - std::pow(std::max(s, -0.75F * s), 2.6F)), 0.6F);
-            const float fTop = 0.4F + 0.16F * s * s;
-            const float a = kPi * (nSkin == 0 ? v : 1 - v);
-            const float fDepth = std::pow(std::fabs(std::sin(a)), 0.7F);
-            const float fKeel =
-                -0.12F + 0.22F * std::pow(std::max(s, 0.0F), 3.0F) + (nSkin == 0 ? 0.0F : 0.05F);
-            return CVec3{-fBeam * std::cos(a) * (0.75F + 0.25F * (1 - fDepth)), Mix(fTop, fKeel, fDepth),
-                         -s * 1.3F * fShrink};
+            return nSkin == 0 ? SkinPoint(u, v, 1) : SkinPoint(0.03F + 0.94F * u, 1 - v, 0.93F);
         });
     }
+    // The flat stern.
+    AddSheet(stage.mesh, nHull, 20, 12, false, [&](float u, float v) {
+        const CVec3 low = SkinPoint(0, u, 1);
+        return CVec3{low.x, Mix(low.y, 0.56F, v), low.z + 0.003F};
+    });
     AddBox(stage.mesh, nWood, {0, 0.3F, 0.45F}, {0.45F, 0.02F, 0.13F}, 0);
     AddBox(stage.mesh, nWood, {0, 0.3F, -0.35F}, {0.44F, 0.02F, 0.13F}, 0);
     stage.mesh.Move(nFirst, [](CVec3 p) { return TurnY(p, 0.75F) + CVec3{0.55F, -0.03F, -9.0F}; });

@@ -45,13 +45,13 @@ CSurface Silk(const CSpot& spot) {
     const float fGlow = std::exp(-p.y * p.y * 2.6F) * (0.45F + 0.55F * Smooth(0.5F, 0.38F, fRib));
     CSurface surface;
     surface.crBody = Srgb(0x8a1410) * 0.5F;
-    surface.crEmitted = CVec3{0.95F, 0.075F, 0.03F} * (fGlow * (0.93F + 0.16F * Fbm(p * 6, 3))) +
-                        CVec3{1.1F, 0.42F, 0.1F} * (0.4F * std::pow(fGlow, 4.0F));
+    surface.crEmitted = CVec3{0.85F, 0.05F, 0.022F} * (fGlow * (0.93F + 0.16F * Fbm(p * 6, 3))) +
+                        CVec3{1.0F, 0.33F, 0.07F} * (0.42F * std::pow(fGlow, 4.0F));
     // A golden band of key pattern at top and bottom.
     const float fBand = std::fabs(std::fabs(p.y) - 0.66F);
     if (fBand < 0.07F)
         surface.crEmitted =
-            CVec3{0.8F, 0.45F, 0.08F} * (0.35F + 0.5F * Smooth(0.05F, 0.02F, std::fabs(fBand - 0.035F)));
+            CVec3{0.62F, 0.33F, 0.06F} * (0.35F + 0.5F * Smooth(0.05F, 0.02F, std::fabs(fBand - 0.035F)));
     surface.normal = spot.normal;
     surface.fRoughness = 0.5F;
     return surface;
@@ -128,8 +128,47 @@ void AddLanterns(CStage& stage) {
     AddLantern(stage, {-0.78F, 5.75F, -5.4F}, 0.23F, materials);
 }
 
-// The soft round images that a lens makes of lamps that it does not hold sharp, and their trails in the
-// water. `lanterns` hides those that stand behind.
+// The image of a lamp that the lens does not hold sharp, in pixels.
+struct CDisk {
+    float cx;
+    float cy;
+    float fRadius;
+    CVec3 crLight;
+    bool bInWater;
+};
+
+// How bright the disk is at a place given in its own radii; a lens draws the rim a little brighter.
+float AirDisk(float r) {
+    return (1 - Smooth(0.92F, 1.04F, r)) * (0.75F + 0.45F * Smooth(0.5F, 0.97F, r));
+}
+
+// On the water the disk is drawn out to a trail, and the waves cut it to dashes.
+float WaterDisk(float r, CVec2 ptDash) {
+    return std::max(0.0F, 1 - r) * Smooth(-0.25F, 0.45F, Noise(ptDash));
+}
+
+void DrawDisk(CFilm& film, const CDisk& disk, const CFilm& cover) {
+    constexpr float kTrail = 8;
+    const float fLong = disk.bInWater ? kTrail : 1.0F;
+    const float fDashes = 110.0F / static_cast<float>(film.nHeight);
+    const int nAcross = static_cast<int>(disk.fRadius) + 2;
+    const int nDown = static_cast<int>(disk.fRadius * fLong) + 2;
+    const int nLeft = static_cast<int>(disk.cx);
+    const int nTop = static_cast<int>(disk.cy);
+    for (int y = std::max(0, nTop - nDown); y <= std::min(film.nHeight - 1, nTop + nDown); ++y) {
+        for (int x = std::max(0, nLeft - nAcross); x <= std::min(film.nWidth - 1, nLeft + nAcross); ++x) {
+            const float dx = static_cast<float>(x) + 0.5F - disk.cx;
+            const float dy = (static_cast<float>(y) + 0.5F - disk.cy) / fLong;
+            const float r = std::sqrt(dx * dx + dy * dy) / disk.fRadius;
+            const CVec2 ptDash{static_cast<float>(x) * fDashes * 0.35F, static_cast<float>(y) * fDashes};
+            const float f = disk.bInWater ? 0.3F * WaterDisk(r, ptDash) : AirDisk(r);
+            film.At(x, y) += disk.crLight * (f * (1 - cover.At(x, y).x));
+        }
+    }
+}
+
+// Lamps far out of focus as the soft round images that a lens makes of them, and their trails in the water.
+// `cover` hides those that stand behind the lanterns.
 void AddLampDisks(CFilm& film, const CCamera& camera, const std::vector<CTownLamp>& lamps,
                   const CFilm& cover) {
     const auto fHeight = static_cast<float>(film.nHeight);
@@ -138,35 +177,16 @@ void AddLampDisks(CFilm& film, const CCamera& camera, const std::vector<CTownLam
     const CVec3 right = Normalize(Cross(ahead, {0, 1, 0}));
     const CVec3 up = Cross(right, ahead);
     for (const CTownLamp& lamp : lamps) {
-        for (int nImage = 0; nImage < 2; ++nImage) {
+        for (const bool bInWater : {false, true}) {
             CVec3 way = lamp.at - camera.eye;
-            if (nImage == 1) way.y = -lamp.at.y - camera.eye.y;
+            if (bInWater) way.y = -lamp.at.y - camera.eye.y;
             const float fDepth = Dot(way, ahead);
-            const float cx = static_cast<float>(film.nWidth) / 2 + fScale * Dot(way, right) / fDepth;
-            const float cy = fHeight / 2 - fScale * Dot(way, up) / fDepth;
-            const float fRadius =
-                fScale * camera.fAperture * std::fabs(1 / camera.fFocus - 1 / fDepth) * 1.05F;
-            // In the water the disk is drawn out and weaker.
-            const float fLong = nImage == 0 ? 1.0F : 2.6F;
-            const float fPower = (nImage == 0 ? 1.0F : 0.2F) * lamp.fPower;
-            const int nReach = static_cast<int>(fRadius * fLong) + 2;
-            for (int y = static_cast<int>(cy) - nReach; y <= static_cast<int>(cy) + nReach; ++y) {
-                for (int x = static_cast<int>(cx) - nReach; x <= static_cast<int>(cx) + nReach; ++x) {
-                    if (x < 0 || y < 0 || x >= film.nWidth || y >= film.nHeight) continue;
-                    const float dx = static_cast<float>(x) + 0.5F - cx;
-                    const float dy = (static_cast<float>(y) + 0.5F - cy) / fLong;
-                    const float r = std::sqrt(dx * dx + dy * dy) / fRadius;
-                    float f =
-                        nImage == 0
-                            ? (1 - Smooth(0.92F, 1.04F, r)) * (0.75F + 0.45F * Smooth(0.5F, 0.97F, r))
-                            : std::max(0.0F, 1 - r) *
-                                  (0.6F + 0.8F * Smooth(-0.3F, 0.5F,
-                                                        Noise(CVec2{dx * 0.06F, (static_cast<float>(y)) *
-                                                                                    900 / fHeight * 0.35F})));
-                    f *= 1 - cover.At(x, y).x;
-                    film.At(x, y) += lamp.crLight * (f * fPower);
-                }
-            }
+            DrawDisk(film,
+                     {static_cast<float>(film.nWidth) / 2 + fScale * Dot(way, right) / fDepth,
+                      fHeight / 2 - fScale * Dot(way, up) / fDepth,
+                      fScale * camera.fAperture * std::fabs(1 / camera.fFocus - 1 / fDepth) * 1.05F,
+                      lamp.crLight * lamp.fPower, bInWater},
+                     cover);
         }
     }
 }
@@ -200,6 +220,7 @@ CFilm TakeNight(int nWidth, int nHeight, int nFineness) {
     const std::vector<CTownLamp> lamps = AddTown(stage);
     AddLanterns(stage);
     stage.sky = NightSky;
+    stage.bFarIsSoft = true;
     stage.camera = {{0, 4.6F, 0}, {0, 5.35F, -10}, 37, 0.02F, 4.1F};
     CFilm film = Photograph(stage, nWidth, nHeight, nFineness);
     AddLampDisks(film, stage.camera, lamps, LanternCover(stage.camera, nWidth, nHeight));

@@ -24,8 +24,8 @@ CVec3 WindowLight(std::uint32_t nHash, CVec3 own) {
 
 // Walls with windows on a grid, some of them lit, and a crown in the tower's own colour.
 CShader Tower(int nSeed, float fTop, CVec3 crCrown) {
-    const float fWide = 0.9F + 0.6F * HashUnit(nSeed, 1);
-    const float fTall = 1.1F + 0.5F * HashUnit(nSeed, 2);
+    const float fWide = 0.62F + 0.4F * HashUnit(nSeed, 1);
+    const float fTall = 0.85F + 0.35F * HashUnit(nSeed, 2);
     const float fLit = 0.22F + 0.4F * HashUnit(nSeed, 3);
     const bool bStripes = HashUnit(nSeed, 4) < 0.3F;
     return [=](const CSpot& spot) {
@@ -40,7 +40,7 @@ CShader Tower(int nSeed, float fTop, CVec3 crCrown) {
         CVec3 cr = Mix(CVec3{0.03F, 0.022F, 0.03F}, CVec3{0.008F, 0.011F, 0.022F}, Smooth(0, 18, p.y));
         const bool bPane = bStripes ? fy < 0.16F : fx < 0.3F && fy < 0.28F;
         if (bPane && HashUnit(bStripes ? i / 5 : i, j, nSeed) < fLit)
-            cr = WindowLight(HashCell(bStripes ? i / 5 : i, j, nSeed + 9), {0.85F, 0.85F, 0.85F});
+            cr = WindowLight(HashCell(bStripes ? i / 5 : i, j, nSeed + 9), {1.1F, 1.1F, 1.1F});
         if (p.y > fTop - 1.1F) cr += crCrown * (0.35F + 0.65F * Smooth(0.5F, 0.2F, fx));
         if (std::fabs(spot.normal.y) > 0.7F) cr = {0.01F, 0.01F, 0.015F};
         return Shining(spot, cr);
@@ -133,8 +133,8 @@ void AddBridge(CStage& stage, std::vector<CTownLamp>& lamps) {
     const auto deck = [](float x) { return 2.6F + 2.2F * std::exp(-std::pow((x - 20) / 17, 2.0F)); };
     const int nStone = stage.AddShader([](const CSpot& spot) {
         const CVec3 p = spot.position;
-        const float fGlow = 0.25F + 0.75F * std::exp(-std::fabs(p.y - 0.5F) * 0.7F);
-        return Shining(spot, CVec3{0.75F, 0.42F, 0.16F} * (fGlow * (0.55F + 0.5F * Fbm(p * 2, 3))));
+        const float fGlow = 0.12F + 0.88F * std::exp(-std::max(0.0F, p.y) * 0.75F);
+        return Shining(spot, CVec3{0.72F, 0.39F, 0.15F} * (fGlow * (0.55F + 0.5F * Fbm(p * 2, 3))));
     });
     AddField(
         stage.mesh, nStone,

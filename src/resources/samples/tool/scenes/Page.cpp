@@ -63,7 +63,7 @@ CShader Paper(const CTextSheet& sheet) {
         surface.crBody =
             Mix(surface.crBody, Srgb(0xb08d58), 0.35F * (1 - Smooth(0.01F, 0.05F, spots.fFirst)));
         surface.crBody = Mix(surface.crBody, Srgb(0x211d1a), Clamp01(fInk));
-        surface.normal = Bend(spot, p, 0.01F, 0.004F, [](CVec3 q) {
+        surface.normal = Bend(spot, p, 0.01F, 0.0016F, [](CVec3 q) {
             return Fbm(CVec2{q.x * 18, q.z * 18}, 3);
         });
         surface.fRoughness = 0.8F;
@@ -143,7 +143,7 @@ void AddLeaf(CStage& stage) {
         const float fRim = 1 - fCleft - 0.06F * std::fabs(std::sin(a * 7 + 1)) - 0.1F * a * a -
                            0.02F * Noise(CVec2{a * 15, 2});
         const float r = corner.rest.y * 0.52F * fRim;
-        const CVec3 flat = TurnY({std::sin(a) * r, 0, -std::cos(a) * r}, -0.75F) + CVec3{1.52F, 0, 0.98F};
+        const CVec3 flat = TurnY({std::sin(a) * r, 0, -std::cos(a) * r}, -0.75F) + CVec3{1.56F, 0, 1.1F};
         const float fLift = 0.03F + 0.1F * r * r + 0.035F * std::sin(a * 6) * r * 2;
         corner.position = {flat.x, PageHeight(flat.x, flat.z) + fLift, flat.z};
     }
@@ -160,7 +160,7 @@ void AddLeaf(CStage& stage) {
     AddTurned(mesh, nStem, {{0.012F, 0}, {0.009F, 0.25F}, {0.008F, 0.45F}, {0.012F, 0.55F}, {0, 0.555F}}, 12,
               24, nullptr);
     mesh.Move(nStemFirst, [](CVec3 p) {
-        const CVec3 flat = TurnY({p.x + 0.5F * p.y * p.y, 0, p.y}, -0.75F) + CVec3{1.52F, 0, 0.98F};
+        const CVec3 flat = TurnY({p.x + 0.5F * p.y * p.y, 0, p.y}, -0.75F) + CVec3{1.56F, 0, 1.1F};
         return CVec3{flat.x, PageHeight(flat.x, flat.z) + 0.025F + p.z, flat.z};
     });
 }

@@ -67,9 +67,9 @@ CVec3 BlendPaint(CVec3 cr, unsigned nHex, float fAmount) {
 CSurface Skin(const CSpot& spot) {
     const CVec3 p = spot.rest;
     const CVec3 m = Mirrored(p);
-    CVec3 cr = Srgb(0xf0cdb4);
-    cr = BlendPaint(cr, 0xe08a78,
-                    0.62F *
+    CVec3 cr = Srgb(0xf6cdb6);
+    cr = BlendPaint(cr, 0xe27566,
+                    0.75F *
                         std::exp(-std::pow(Length(CVec2{(m.x - 0.43F) * 2.5F, (p.y + 0.31F) * 3.2F}), 2.0F)) *
                         Smooth(0.1F, 0.5F, p.z));
     cr = BlendPaint(cr, 0xe39a86, 0.35F * std::exp(-std::pow(Length(p - CVec3{0, -0.3F, 1.05F}) * 7, 2.0F)));
@@ -85,7 +85,7 @@ CSurface Skin(const CSpot& spot) {
                         (1 - Smooth(fThick * 0.6F, fThick * 1.3F, std::fabs(fLash))) *
                             Smooth(1.2F, 1.05F, std::fabs(t - 0.03F)));
         // Single lashes beyond it.
-        const float fBeat = std::fabs(std::fmod(t * 4.5F + fLash * 6 + 20, 1.0F) - 0.5F);
+        const float fBeat = std::fabs(std::fmod(t * 6.5F + fLash * 6 + 20, 1.0F) - 0.5F);
         const float fSingle = (1 - Smooth(0.06F, 0.2F, fBeat)) * Smooth(-0.065F, -0.045F, fLash) *
                               Smooth(0.005F, -0.01F, fLash);
         cr = BlendPaint(cr, 0x1d1512, 0.9F * fSingle * Smooth(1.1F, 0.9F, std::fabs(t - 0.1F)));
@@ -108,12 +108,12 @@ CSurface Skin(const CSpot& spot) {
     const float a = std::atan2(q.x, q.y);
     const float fPetal = 0.05F + 0.022F * std::cos(a * 5);
     if (p.z > 0.5F) {
-        cr = BlendPaint(cr, 0xc02a2a, 0.95F * (1 - Smooth(fPetal - 0.006F, fPetal + 0.004F, Length(q))));
+        cr = BlendPaint(cr, 0x9c0f14, 0.95F * (1 - Smooth(fPetal - 0.006F, fPetal + 0.004F, Length(q))));
         cr = BlendPaint(cr, 0xe2b13c, 1 - Smooth(0.014F, 0.02F, Length(q)));
     }
     CSurface surface;
     surface.crBody = cr * (0.98F + 0.05F * Fbm(p * 9, 4));
-    surface.normal = Bend(spot, p, 0.008F, 0.006F, [](CVec3 at) { return Fbm(at * 14, 4); });
+    surface.normal = Bend(spot, p, 0.012F, 0.004F, [](CVec3 at) { return Fbm(at * 9, 3); });
     surface.fRoughness = 0.4F;
     surface.crMirror = {0.035F, 0.035F, 0.035F};
     return surface;
@@ -130,6 +130,10 @@ CSurface Hair(const CSpot& spot) {
         const CVec3 b = n - CVec3{0.66F, 1.08F, -0.2F};
         const float fAround =
             bBun ? std::atan2(b.z, b.x) * 0.6F + b.y * 9 : std::atan2(n.z + 0.2F, 1.2F - n.y) * 3;
+        const bool bLock = n.x > 0.74F && n.y < 0.16F && n.z > 0.12F;
+        if (bLock)
+            return Noise(CVec3{n.x * 26, n.y * 1.2F, n.z * 26}) +
+                   0.5F * Noise(CVec3{n.x * 60, n.y * 2, n.z * 60});
         const float fCross = bBun ? b.y * 22 + std::atan2(b.z, b.x) * 2.5F : fAround * 6;
         return Noise(CVec3{fCross * 2.2F, n.x * 1.4F, 3}) + 0.7F * Noise(CVec3{fCross * 6, n.x * 2.2F, 9}) +
                0.3F * Noise(CVec3{fCross * 15, n.x * 3, 1});
@@ -146,11 +150,15 @@ CSurface Robe(const CSpot& spot) {
     const CVec3 p = spot.rest;
     CSurface surface;
     const float fWeave = std::sin(p.x * 150) * std::sin(p.y * 150);
-    const CCellular cells = Cellular(CVec2{std::atan2(p.x, p.z + 0.6F) * 2.4F, p.y * 2.6F});
-    const float fBlossom = 1 - Smooth(0.16F, 0.2F, cells.fFirst + 0.03F * Noise(p * 14));
-    surface.crBody =
-        Mix(Srgb(0x9c1f26), Srgb(0xd9a441), 0.85F * fBlossom * (cells.nId % 2 == 0 ? 1.0F : 0.0F)) *
-        (0.93F + 0.09F * fWeave);
+    // Blossoms in staggered rows about the body.
+    const float fRow = std::floor(p.y * 1.9F);
+    const float fTurn = std::atan2(p.x, p.z + 0.6F) * 2.1F + (static_cast<int>(fRow) % 2 == 0 ? 0.5F : 0.0F);
+    const CVec2 at{(fTurn - std::floor(fTurn) - 0.5F) * 0.62F, (p.y * 1.9F - fRow - 0.5F) * 0.55F};
+    const float fAngle = std::atan2(at.x, at.y) + fRow;
+    const float fPetal = 0.085F + 0.028F * std::cos(fAngle * 5);
+    const float fBlossom =
+        (1 - Smooth(fPetal - 0.012F, fPetal, Length(at))) * Smooth(0.018F, 0.03F, Length(at));
+    surface.crBody = Mix(Srgb(0x9c1a22), Srgb(0xe0ac4a), 0.9F * fBlossom) * (0.95F + 0.07F * fWeave);
     surface.normal = Bend(spot, p, 0.01F, 0.02F, [](CVec3 q) { return Fbm(q * 4, 4); });
     surface.fRoughness = 0.6F;
     return surface;
@@ -172,11 +180,11 @@ float RobeDistance(CVec3 p) {
     float f = EllipsoidDistance(p - CVec3{0, -2.75F, -0.2F}, {1.25F, 1.15F, 0.75F});
     f = SmoothMin(f, CapsuleDistance(m, {0.3F, -1.78F, -0.2F}, {1.12F, -2.2F, -0.25F}, 0.36F), 0.4F);
     f += 0.02F * std::sin(p.y * 7 + 3 * Noise(p * 1.3F)) * Smooth(-1.7F, -2.4F, p.y);
-    // The high collar.
+    // The high collar, its lower end inside the robe.
     const float r = std::sqrt(p.x * p.x + (p.z + 0.17F) * (p.z + 0.17F));
-    const float fCollar = std::max(std::fabs(r - 0.46F + 0.05F * (p.y + 1.4F)) - 0.035F,
-                                   std::fabs(p.y + 1.45F + 0.12F * p.z) - 0.22F);
-    return SmoothMin(f, fCollar, 0.12F);
+    const float fUp = std::fabs(p.y + 1.62F + 0.1F * p.z) - 0.42F;
+    const float fCollar = SmoothMax(std::fabs(r - 0.46F + 0.05F * (p.y + 1.4F)) - 0.035F, fUp, 0.03F);
+    return SmoothMin(f, fCollar, 0.1F);
 }
 
 // Beads and trims, added in the head's space.
@@ -198,7 +206,7 @@ void AddJewels(CStage& stage) {
             bun - CVec3{0.62F, 0.62F, 0.62F}, bun + CVec3{0.62F, 0.62F, 0.62F}, 0.02F);
         for (int i = 0; i < 7; ++i) {
             const float t = static_cast<float>(i);
-            const CVec3 at{(0.93F + 0.012F * t) * s, -0.3F - 0.085F * t, 0.03F};
+            const CVec3 at{(0.9F + 0.012F * t) * s, -0.27F - 0.085F * t, 0.03F};
             AddField(
                 stage.mesh,
                 i % 3 == 2 ? nRed
@@ -208,20 +216,14 @@ void AddJewels(CStage& stage) {
                 at + CVec3{0.06F, 0.06F, 0.06F}, 0.008F);
         }
     }
-    AddField(
-        stage.mesh, nGold,
-        [](CVec3 p) {
-            const float r = std::sqrt(p.x * p.x + (p.z + 0.17F) * (p.z + 0.17F));
-            return Length(CVec2{r - 0.468F, p.y + 1.245F + 0.12F * p.z}) - 0.03F;
-        },
-        {-0.6F, -1.45F, -0.8F}, {0.6F, -1.05F, 0.5F}, 0.012F);
 }
 
 // The garden far behind: leaves, blossoms and spots of sky, each a soft disk.
 CVec3 Garden(CVec3 dir, bool bClose) {
     const float fUp = Smooth(-0.5F, 0.6F, dir.y);
-    CVec3 cr = Mix(CVec3{0.05F, 0.075F, 0.05F}, CVec3{0.2F, 0.27F, 0.2F}, fUp);
-    if (!bClose || dir.z > 0) return cr * (dir.z > 0 ? 1.2F : 1.0F);
+    CVec3 cr = Mix(CVec3{0.022F, 0.035F, 0.025F}, CVec3{0.07F, 0.11F, 0.07F}, fUp);
+    // Behind the camera a pale room fills the shadows.
+    if (!bClose || dir.z > 0) return Mix(cr * 1.5F, CVec3{0.19F, 0.17F, 0.16F}, Smooth(-0.2F, 0.8F, dir.z));
     const CVec2 at{std::atan2(dir.x, -dir.z), dir.y};
     cr = cr * (0.75F + 0.9F * Smooth(-0.4F, 0.5F, Noise(at * 3.1F) + 0.5F * Noise(at * 6)));
     for (int nLayer = 0; nLayer < 3; ++nLayer) {
@@ -238,10 +240,10 @@ CVec3 Garden(CVec3 dir, bool bClose) {
             const float fSize = 0.32F + 0.32F * HashUnit(i, j, 3);
             const float fDisk =
                 (1 - Smooth(fSize - 0.09F, fSize, r)) * (0.72F + 0.4F * Smooth(0.5F, 1, r / fSize));
-            const CVec3 light = fPick < 0.12F  ? CVec3{0.85F, 0.38F, 0.4F}
-                                : fPick < 0.3F ? CVec3{0.75F, 0.7F, 0.42F}
-                                               : CVec3{0.32F, 0.5F, 0.26F};
-            cr += light * (fDisk * 0.5F * (0.3F + fUp));
+            const CVec3 light = fPick < 0.12F  ? CVec3{1.0F, 0.3F, 0.34F}
+                                : fPick < 0.3F ? CVec3{1.0F, 0.72F, 0.3F}
+                                               : CVec3{0.3F, 0.5F, 0.16F};
+            cr += light * (fDisk * 0.3F * (0.25F + fUp));
         }
     }
     return cr;
@@ -258,11 +260,18 @@ CFilm TakePortrait(int nWidth, int nHeight, int nFineness) {
     AddJewels(stage);
     stage.mesh.Move(0, [](CVec3 p) { return TurnZ(TurnX(TurnY(p, -0.42F), 0.07F), 0.05F); });
     const std::size_t nFirst = stage.mesh.corners.size();
+    AddField(
+        stage.mesh, stage.AddShader(Paint(0xe2b050, 0.25F, 0.9F)),
+        [](CVec3 p) {
+            const float r = std::sqrt(p.x * p.x + (p.z + 0.17F) * (p.z + 0.17F));
+            return Length(CVec2{r - 0.45F, p.y + 1.19F + 0.1F * p.z}) - 0.032F;
+        },
+        {-0.6F, -1.4F, -0.8F}, {0.6F, -1.0F, 0.5F}, 0.012F);
     AddField(stage.mesh, stage.AddShader(Robe), RobeDistance, {-1.7F, -3.2F, -1.2F}, {1.7F, -1.15F, 0.8F},
              0.025F);
     stage.mesh.Move(nFirst, [](CVec3 p) { return TurnY(p, -0.2F); });
-    stage.lamps.push_back(LampAt({-4.2F, 3.2F, 3.6F}, {0, 0, 0}, 2.6F, 2.6F, CVec3{1, 0.94F, 0.86F} * 11));
-    stage.lamps.push_back(LampAt({4.6F, 1.8F, -3.2F}, {0, 0.3F, 0}, 1.5F, 2.5F, CVec3{1, 0.85F, 0.66F} * 9));
+    stage.lamps.push_back(LampAt({-4.2F, 2.7F, 3.4F}, {0, 0, 0}, 2.4F, 2.4F, CVec3{1, 0.92F, 0.82F} * 15));
+    stage.lamps.push_back(LampAt({4.6F, 1.8F, -3.2F}, {0, 0.3F, 0}, 1.5F, 2.5F, CVec3{1, 0.82F, 0.6F} * 13));
     stage.sky = Garden;
     stage.camera = {{0.1F, -0.1F, 9.2F}, {0.02F, -0.3F, 0}, 24.5F, 0.1F, 8.4F};
     return Photograph(stage, nWidth, nHeight, nFineness);

@@ -332,7 +332,8 @@ void AddCloth(CStage& stage) {
                       q.z + 0.25F * Noise(CVec2{q.x * 1.3F + 9, q.z})};
         // Folds run between the things; under them the cloth lies flat.
         const auto away = [&](float x, float z) { return Length(CVec2{q.x - x, q.z - z}); };
-        const float fFree = Smooth(0.45F, 1.2F, away(0.35F, -0.35F)) * Smooth(0.35F, 0.75F, away(-0.1F, 1.1F)) *
+        const float fFree = Smooth(0.45F, 1.2F, away(0.35F, -0.35F)) *
+                            Smooth(0.35F, 0.75F, away(-0.1F, 1.1F)) *
                             Smooth(0.5F, 0.9F, away(-1.05F, 0.42F)) * Smooth(0.4F, 0.8F, away(1.45F, 0.72F));
         const float fRidge = 1 - std::fabs(Noise(CVec2{s.x * 0.9F + s.y * 0.5F, s.y * 0.35F - s.x * 0.1F}));
         const float fFolds =
@@ -362,10 +363,10 @@ CFilm TakeStillLife(int nWidth, int nHeight, int nFineness) {
     fruit.AddApple({-0.1F, 0.46F, 1.1F}, 0.86F, 2.2F, 0.25F);
     fruit.AddGrapes({1.5F, 0.05F, 0.72F});
     // A window of four panes, high on the left.
-    for (int i = 0; i < 4; ++i) {
-        const float y = 1.5F + 1.45F * static_cast<float>(i / 2);
-        const float z = 1.9F - 1.45F * static_cast<float>(i % 2);
-        stage.lamps.push_back({{-4.6F, y, z}, {0, 0, -1.3F}, {0, 1.3F, 0}, CVec3{1, 0.93F, 0.82F} * 17});
+    for (const float y : {1.5F, 2.95F}) {
+        for (const float z : {1.9F, 0.45F}) {
+            stage.lamps.push_back({{-4.6F, y, z}, {0, 0, -1.3F}, {0, 1.3F, 0}, CVec3{1, 0.93F, 0.82F} * 17});
+        }
     }
     stage.sky = [](CVec3 dir, bool) {
         return Mix(CVec3{0.05F, 0.045F, 0.04F}, CVec3{0.13F, 0.14F, 0.16F}, 0.5F + 0.5F * dir.y) *

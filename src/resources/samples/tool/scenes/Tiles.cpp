@@ -1,11 +1,14 @@
 // Hand-painted wall tiles in blue, ochre and green, with the shadow of leaves on them.
 
+#include <array>
+
 #include "Pictures.h"
 #include "Stage.h"
 
 namespace {
 
 constexpr float kTile = 1.0F;
+constexpr CVec3 kLamp{-8.2F, 5.6F, 6.6F};
 
 float Line(float f, float fHalf) {
     return 1 - Smooth(fHalf * 0.75F, fHalf * 1.25F, std::fabs(f));
@@ -108,14 +111,14 @@ CSurface Glaze(const CSpot& spot) {
     surface.crBody =
         Mix(Srgb(0xe9e4d6), Srgb(0xdcd6c2), fOwn) * (0.97F + 0.08F * Fbm(CVec2{p.x * 3, p.y * 3}, 3));
     surface.crBody = Mix(surface.crBody, Srgb(0x8fb0d0), Clamp01(0.55F * paint.fLight * fPool));
-    surface.crBody = Mix(surface.crBody, Srgb(0xd08a25), Clamp01(0.92F * paint.fOchre * fPool));
+    surface.crBody = Mix(surface.crBody, Srgb(0xcf7d14), Clamp01(1.1F * paint.fOchre * fPool));
     surface.crBody = Mix(surface.crBody, Srgb(0x4f8a62), Clamp01(0.85F * paint.fGreen * fPool));
     surface.crBody = Mix(surface.crBody, Mix(Srgb(0x16337f), Srgb(0x2c57a8), fOwn * 0.6F),
                          Clamp01(paint.fBlue * (0.35F + 0.75F * fPool)));
     const CCellular cracks = Cellular(CVec2{p.x * 11 + fOwn * 9, p.y * 11});
     surface.crBody =
         surface.crBody * (1 - 0.16F * (1 - Smooth(0.005F, 0.03F, cracks.fSecond - cracks.fFirst)));
-    surface.normal = Bend(spot, p, 0.006F, 0.022F, [](CVec3 at) {
+    surface.normal = Bend(spot, p, 0.006F, 0.016F, [](CVec3 at) {
         return Fbm(CVec2{at.x * 3.5F, at.y * 3.5F}, 3);
     });
     surface.fRoughness = 0.13F;
@@ -178,14 +181,18 @@ void AddBranch(CStage& stage) {
         return surface;
     });
     CRandom random(99, 3);
-    for (int i = 0; i < 64; ++i) {
-        const float t = static_cast<float>(i) / 64;
-        const int nBough = i % 3;
-        const CVec3 foot{-4.6F + 2.6F * t + 0.5F * static_cast<float>(nBough),
-                         3.7F - 1.5F * t * t - 1.0F * static_cast<float>(nBough) * t, 2.6F + 0.5F * t};
-        const float fLength = random.Between(0.3F, 0.5F);
-        const float fTurn = random.Between(-1.2F, 1.2F) + (i % 2 == 0 ? 0.9F : -2.0F);
-        const float fTilt = random.Between(-0.6F, 0.6F);
+    // Where the shadows of three boughs end on the wall; all begin beyond its upper left corner.
+    static constexpr std::array<CVec2, 3> kEnds{{{2.3F, 1.3F}, {0.9F, -0.2F}, {-1.5F, -1.3F}}};
+    for (int i = 0; i < 60; ++i) {
+        const float t = std::pow(static_cast<float>(i) / 60, 0.8F);
+        const CVec2 end = kEnds[static_cast<std::size_t>(i % 3)];
+        const CVec3 shadow{Mix(-3.0F, end.x, t) + random.Between(-0.3F, 0.3F),
+                           Mix(2.1F, end.y, t) + random.Between(-0.3F, 0.3F), 0};
+        const CVec3 foot = Mix(shadow, kLamp, 0.34F);
+        const float fLength = random.Between(0.3F, 0.52F);
+        const float fTurn = std::atan2(end.x + 3, 2.1F - end.y) + kPi +
+                            random.Between(0.4F, 1.2F) * (i / 3 % 2 == 0 ? 1.0F : -1.0F);
+        const float fTilt = random.Between(-0.5F, 0.5F) - 0.8F;
         AddSheet(stage.mesh, nLeaf, 8, 10, false, [&](float u, float v) {
             const float w = 0.3F * std::sin(kPi * std::pow(v, 0.8F)) * (u - 0.5F);
             return foot + TurnZ(TurnY({w * fLength * 2.4F, v * fLength, 0.2F * w}, fTilt), fTurn);
@@ -199,7 +206,7 @@ CFilm TakeTiles(int nWidth, int nHeight, int nFineness) {
     CStage stage;
     AddTiles(stage);
     AddBranch(stage);
-    stage.lamps.push_back(LampAt({-8.2F, 5.6F, 6.6F}, {0, 0, 0}, 0.7F, 0.7F, CVec3{1, 0.88F, 0.7F} * 900));
+    stage.lamps.push_back(LampAt(kLamp, {0, 0, 0}, 0.2F, 0.2F, CVec3{1, 0.88F, 0.7F} * 9600));
     stage.sky = [](CVec3 dir, bool) {
         const float fPane = Smooth(0.55F, 0.75F, dir.y) * Smooth(0.3F, 0.0F, std::fabs(dir.x - 0.1F));
         return Mix(CVec3{0.16F, 0.15F, 0.14F}, CVec3{0.34F, 0.42F, 0.52F}, 0.5F + 0.5F * dir.y) +

@@ -4,10 +4,10 @@
 
 #include <map>
 
-#include "Bvh.h"
-#include "Denoise.h"
-#include "Noise.h"
-#include "Stage.h"
+#include "resources/samples/tool/Bvh.h"
+#include "resources/samples/tool/Denoise.h"
+#include "resources/samples/tool/Noise.h"
+#include "resources/samples/tool/Stage.h"
 
 namespace {
 

@@ -24,7 +24,7 @@ std::string FindShown(const std::string& strFolder, const QString& strName) {
 }  // namespace
 
 std::string ResolvePath(const QString& strPath) {
-    const std::string strWhole = PathFromQt(strPath);
+    std::string strWhole = PathFromQt(strPath);
     if (!strPath.contains(QChar::ReplacementCharacter) || Exists(strWhole)) return strWhole;
     std::string strFound;
     for (const QString& strPiece : strPath.split('/')) {

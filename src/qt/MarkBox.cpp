@@ -72,7 +72,8 @@ void CMarkBox::paintEvent(QPaintEvent* /*pEvent*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     const bool bFocus = m_context.dialog.Controls().Focus() == m_context.control.nId;
     const bool bRadio = m_context.control.kind == EControlKind::Radio;
-    const QRectF rc = QRectF(0, (height() - kBoxSide) / 2, kBoxSide, kBoxSide).adjusted(1.5, 1.5, -1.5, -1.5);
+    const int nTop = (height() - kBoxSide) / 2;
+    const QRectF rc = QRectF(0, nTop, kBoxSide, kBoxSide).adjusted(1.5, 1.5, -1.5, -1.5);
     if (bFocus && isEnabled()) {
         const double fRadius = bRadio ? rc.width() / 2 + 1 : 3;
         painter.setPen(QPen(SkinColors::kWarm, 1));

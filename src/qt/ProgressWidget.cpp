@@ -25,7 +25,8 @@ void CProgressWidget::paintEvent(QPaintEvent* /*pEvent*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const int nHeight = std::min(height(), kMostHeight);
-    const QRectF rc = QRectF(0, (height() - nHeight) / 2, width(), nHeight).adjusted(0.5, 0.5, -0.5, -0.5);
+    const int nTop = (height() - nHeight) / 2;
+    const QRectF rc = QRectF(0, nTop, width(), nHeight).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.setPen(SkinColors::kListRim);
     painter.setBrush(SkinColors::kLevel);
     painter.drawRoundedRect(rc, 3, 3);

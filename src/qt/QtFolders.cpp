@@ -22,7 +22,7 @@ QString StoredFolder() {
 
 QString StoredFolder() {
     const QSettings settings("ZEFA Fotarium", "1.0");
-    const QString strStored = settings.value("Default").toString();
+    QString strStored = settings.value("Default").toString();
     if (!strStored.isEmpty()) return strStored;
     const QString strOwn = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     return !strOwn.isEmpty() && QDir().mkpath(strOwn) ? strOwn : QString{};

@@ -81,6 +81,7 @@ TEST(ScrollView, MouseComesAsOnThePlatform) {
 
     std::vector<std::pair<EMouseAction, CPoint>> arrSeen;
     const auto arrClicks = WithoutMoves(test.view.m_arrMouse);
+    arrSeen.reserve(arrClicks.size());
     for (const CMouseEvent& event : arrClicks) arrSeen.emplace_back(event.action, event.pt);
     using CSeen = std::vector<std::pair<EMouseAction, CPoint>>;
     EXPECT_EQ(arrSeen, (CSeen{{EMouseAction::Press, {5, 6}},

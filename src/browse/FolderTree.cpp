@@ -15,8 +15,8 @@ const CDrive* CFolderTree::FindDrive(char cLetter) const {
     return it == m_arrDrives.end() ? nullptr : &*it;
 }
 
-// The drive with the longest top folder that the folder lies in: where letters are made up, one drive can lie in
-// another.
+// The drive with the longest top folder that the folder lies in: where letters are made up, one drive can lie
+// in another.
 const CDrive* CFolderTree::DriveOfFolder(const std::string& strFolder) const {
     const CDrive* pBest = nullptr;
     for (const CDrive& drive : m_arrDrives) {
@@ -29,7 +29,8 @@ const CDrive* CFolderTree::DriveOfFolder(const std::string& strFolder) const {
 std::string CFolderTree::GetPath(CTreeItem item) const {
     if (item == kNoTreeItem || item == m_hRoot) return {};
     std::string strPath;
-    for (; m_model.Parent(item) != m_hRoot; item = m_model.Parent(item)) strPath = m_model.Text(item) + m_cSeparator + strPath;
+    for (; m_model.Parent(item) != m_hRoot; item = m_model.Parent(item))
+        strPath = m_model.Text(item) + m_cSeparator + strPath;
     // The text of a drive ends in its letter in brackets: "(X:)".
     const std::string& strText = m_model.Text(item);
     const CDrive* pDrive = strText.size() < 3 ? nullptr : FindDrive(strText[strText.size() - 3]);
@@ -75,8 +76,8 @@ void CFolderTree::BuildDrives() {
     for (const CDrive& drive : m_arrDrives) {
         // The first two letters are left in peace until the user opens them.
         const bool bFloppy = drive.cLetter == 'A' || drive.cLetter == 'B';
-        const CTreeItem item =
-            m_model.InsertLast(m_hRoot, drive.strDisplay, drive.icon, !bFloppy && HasSubfolders(drive.strRoot));
+        const CTreeItem item = m_model.InsertLast(m_hRoot, drive.strDisplay, drive.icon,
+                                                  !bFloppy && HasSubfolders(drive.strRoot));
         if (drive.cLetter != m_cStartDrive) continue;
         // With its folders in it already, the opening reads nothing further.
         if (m_bFoundFolder) ExpandFolder(item);
@@ -86,7 +87,8 @@ void CFolderTree::BuildDrives() {
     }
 }
 
-CTreeItem CFolderTree::InsertFolder(CTreeItem parent, const std::string& strPath, const std::string& strName) {
+CTreeItem CFolderTree::InsertFolder(CTreeItem parent, const std::string& strPath,
+                                    const std::string& strName) {
     return m_model.InsertSorted(parent, strName, ETreeIcon::Folder, HasSubfolders(strPath + strName));
 }
 

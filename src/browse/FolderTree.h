@@ -15,9 +15,10 @@ class CFolderFollower {
     virtual void ShowFolder(const std::string& strPath) = 0;
 };
 
-// The tree of the machine's folders: the computer, its drives, and below them folders that are read when a node opens
-// for the first time. It keeps no paths; they are worked out from the texts of the nodes. Each time the drives are read
-// it looks at their tops for the folder kStartFolder and, if there is one, starts there.
+// The tree of the machine's folders: the computer, its drives, and below them folders that are read when a
+// node opens for the first time. It keeps no paths; they are worked out from the texts of the nodes. Each
+// time the drives are read it looks at their tops for the folder kStartFolder and, if there is one, starts
+// there.
 class CFolderTree : public CTreeSink {
   public:
     static constexpr char kStartFolder[] = "ZEFA肖像";
@@ -36,13 +37,15 @@ class CFolderTree : public CTreeSink {
     void ShowCurrentFolder();
     // Opens and selects the current item.
     void ReturnToCurrent();
-    // Opens the current item, and makes the child with that path current if there is one. False if there is none.
+    // Opens the current item, and makes the child with that path current if there is one. False if there is
+    // none.
     bool StepInto(const std::string& strPath);
     // Takes a child of the selected item out of the tree that has been deleted, and opens the item.
     void DropChild(const std::string& strPath);
-    // Lets the tree follow the folder into which a file was saved, if that lies on drive C and is not the current one:
-    // the tree is made anew, and the folder, if it is a child of the current item, becomes current. The path that
-    // counts from then on: the folder itself, or the folder of the first level above it. Empty if nothing is to follow.
+    // Lets the tree follow the folder into which a file was saved, if that lies on drive C and is not the
+    // current one: the tree is made anew, and the folder, if it is a child of the current item, becomes
+    // current. The path that counts from then on: the folder itself, or the folder of the first level above
+    // it. Empty if nothing is to follow.
     std::string FollowFolder(const std::string& strFolder);
 
     // The folder of an item, with a closing separator; empty for the root and for no item.

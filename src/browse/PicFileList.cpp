@@ -16,15 +16,23 @@ constexpr const char* kLitFolderPicture = "415";
 constexpr int kProgressEnd = 50;
 constexpr int kTimerFill = 0;
 
-ImageType TypeOf(const std::string& strName) { return FindImageTypeOfName(strName); }
+ImageType TypeOf(const std::string& strName) {
+    return FindImageTypeOfName(strName);
+}
 
-bool IsPicture(const std::string& strName) { return TypeOf(strName) != ImageType::kUnknown; }
+bool IsPicture(const std::string& strName) {
+    return TypeOf(strName) != ImageType::kUnknown;
+}
 
 }  // namespace
 
-CPicFileList::CPicFileList(const CEnvironment& env) : m_env(env) { m_model.SetSink(this); }
+CPicFileList::CPicFileList(const CEnvironment& env) : m_env(env) {
+    m_model.SetSink(this);
+}
 
-CPicFileList::~CPicFileList() { StopFill(); }
+CPicFileList::~CPicFileList() {
+    StopFill();
+}
 
 std::string CPicFileList::PathOf(const std::string& strName) const {
     const bool bClosed = !m_strPath.empty() && m_strPath.back() == m_env.folders.Separator();
@@ -188,7 +196,8 @@ bool CPicFileList::RunDelete(const std::vector<std::string>& arrNames, bool bShi
     const bool bOwnQuestion = arrNames.size() == 1 && !bShift;
     if (bOwnQuestion) {
         const std::string strText = kTextDeleteBefore + arrNames.front() + kTextDeleteBehind;
-        if (m_env.boxes.Show({strText, kTitleDelete, EBoxIcon::Exclamation, EBoxButtons::YesNo}) != EBoxAnswer::Yes)
+        if (m_env.boxes.Show({strText, kTitleDelete, EBoxIcon::Exclamation, EBoxButtons::YesNo}) !=
+            EBoxAnswer::Yes)
             return false;
     }
     return m_env.shell.Delete(arrPaths, !bShift, !bOwnQuestion);

@@ -15,9 +15,9 @@
 #include "window/Timers.h"
 #include "window/WaitCursor.h"
 
-// The pictures of a folder: its folders, then its JPEG files, each with its name below. Names appear at once, pictures
-// one by one in slices between other events, under the wait cursor and with the progress bar up until the last is
-// there. A new fill ends the former.
+// The pictures of a folder: its folders, then its JPEG files, each with its name below. Names appear at once,
+// pictures one by one in slices between other events, under the wait cursor and with the progress bar up
+// until the last is there. A new fill ends the former.
 class CPicFileList : public CIconListSink, public CFolderFollower, private CTimerTarget {
   public:
     // How long one slice of a fill may hold up other events.

@@ -13,6 +13,7 @@ class CThumPanel {
 
     CFolderTree& Tree() { return m_tree; }
     CPicFileList& List() { return m_list; }
+    const CPicFileList& List() const { return m_list; }
 
     // At start: builds the tree.
     void Build() { m_tree.BuildRoot(); }

@@ -17,7 +17,8 @@ void FlipImage(CxImage& image, bool bVertical) {
 
 }  // namespace
 
-// Under the phone size rule the display has one size only. True for a command that must stop, after a message.
+// Under the phone size rule the display has one size only. True for a command that must stop, after a
+// message.
 bool CGeometryCommands::IsRefused(const char* szText) {
     if (!m_env.state.m_bImageOpen) return true;
     if (!m_env.images.m_bPhoneSize) return false;
@@ -40,8 +41,12 @@ void CGeometryCommands::EndEdit() {
     m_env.canvas.Repaint();
 }
 
-void CGeometryCommands::OnFlipVertical() { Flip(true); }
-void CGeometryCommands::OnFlipHorizontal() { Flip(false); }
+void CGeometryCommands::OnFlipVertical() {
+    Flip(true);
+}
+void CGeometryCommands::OnFlipHorizontal() {
+    Flip(false);
+}
 
 void CGeometryCommands::Flip(bool bVertical) {
     if (!m_env.state.m_bImageOpen) return;
@@ -57,8 +62,12 @@ void CGeometryCommands::Flip(bool bVertical) {
     if (m_env.state.m_bDrawMode) m_env.tools.FocusCurrentTool();
 }
 
-void CGeometryCommands::OnTurnLeft() { Turn(-90.0, kTextNoTurnLeft); }
-void CGeometryCommands::OnTurnRight() { Turn(90.0, kTextNoTurnRight); }
+void CGeometryCommands::OnTurnLeft() {
+    Turn(-90.0, kTextNoTurnLeft);
+}
+void CGeometryCommands::OnTurnRight() {
+    Turn(90.0, kTextNoTurnRight);
+}
 
 void CGeometryCommands::Turn(double fDegrees, const char* szRefusal) {
     if (IsRefused(szRefusal)) return;
@@ -93,8 +102,12 @@ void CGeometryCommands::OnSize() {
     m_env.editor.FocusEffectList();
 }
 
-void CGeometryCommands::OnLarge() { Zoom(kZoomStep); }
-void CGeometryCommands::OnSmall() { Zoom(-kZoomStep); }
+void CGeometryCommands::OnLarge() {
+    Zoom(kZoomStep);
+}
+void CGeometryCommands::OnSmall() {
+    Zoom(-kZoomStep);
+}
 
 // A refusal comes behind the undo step, which stays.
 void CGeometryCommands::Zoom(double fStep) {
@@ -119,7 +132,8 @@ void CGeometryCommands::OnActual() {
     const CWaitScope wait(m_env.wait);
     if (!BeginEdit()) return;
     CWorkingImages& images = m_env.images;
-    const auto [nSmall, nBig] = std::minmax({images.m_pImgOpened->GetWidth(), images.m_pImgOpened->GetHeight()});
+    const auto [nSmall, nBig] =
+        std::minmax({images.m_pImgOpened->GetWidth(), images.m_pImgOpened->GetHeight()});
     const bool bUpright = images.m_nDispWidth <= images.m_nDispHeight;
     images.SetDisplaySize(bUpright ? CSize{nSmall, nBig} : CSize{nBig, nSmall});
     images.m_pImgWork->Resample(images.m_nDispWidth, images.m_nDispHeight);

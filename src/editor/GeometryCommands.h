@@ -3,13 +3,13 @@
 #include "editor/Editor.h"
 #include "window/Dialog.h"
 
-// Flips and quarter turns, which change the working image, and the size dialog and zoom commands, which only say at
-// which size it is shown and saved. Each is one undo step.
+// Flips and quarter turns, which change the working image, and the size dialog and zoom commands, which only
+// say at which size it is shown and saved. Each is one undo step.
 class CGeometryCommands {
   public:
     static constexpr int kLargestSide = 3200;
-    static constexpr int kSmallestSide = 20;       // by the size dialog
-    static constexpr int kSmallestZoomedSide = 21; // by Small
+    static constexpr int kSmallestSide = 20;        // by the size dialog
+    static constexpr int kSmallestZoomedSide = 21;  // by Small
 
     // All of these outlive the commands.
     struct CEnvironment {

@@ -22,7 +22,8 @@ constexpr std::array kOwnPageControls = {kSizeWidthLabel, kSizeWidth,          k
 constexpr std::array kPhonePageControls = {kSizePhoneList, kSizeToOwn};
 
 int LimitToInt(std::int64_t n) {
-    return static_cast<int>(std::clamp<std::int64_t>(n, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    return static_cast<int>(
+        std::clamp<std::int64_t>(n, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
 // The whole number at the head of a text, 0 if there is none.
@@ -74,7 +75,9 @@ void CSizeChangeDlg::OnPaint(CClientArea& client) {
     client.DrawBitmap(kPageGrounds[static_cast<std::size_t>(m_nPage)], 0, 0);
 }
 
-int CSizeChangeDlg::Side(int nId) const { return ParseSide(Controls().Text(nId)); }
+int CSizeChangeDlg::Side(int nId) const {
+    return ParseSide(Controls().Text(nId));
+}
 
 // What the other side has to be for the ratio of the first size.
 int CSizeChangeDlg::Partner(int nTyped, int nValue) const {
@@ -92,8 +95,9 @@ void CSizeChangeDlg::Follow(int nTyped) {
     m_nUnsettled = nTyped;
 }
 
-// Both sides take each other's word until they stand still; a ratio that does not divide evenly can so take a unit from
-// the typed side too. This waits until the typing is over, or no number of several digits could be typed.
+// Both sides take each other's word until they stand still; a ratio that does not divide evenly can so take a
+// unit from the typed side too. This waits until the typing is over, or no number of several digits could be
+// typed.
 void CSizeChangeDlg::Settle(int nTyped) {
     if (std::exchange(m_nUnsettled, 0) == 0 || !Controls().IsChecked(kSizeKeepRatio)) return;
     const int nOther = nTyped == kSizeWidth ? kSizeHeight : kSizeWidth;

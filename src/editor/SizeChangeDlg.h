@@ -10,8 +10,8 @@ class CSizeChangeDlg : public CDialog {
   public:
     CSizeChangeDlg(CSize size, std::vector<CSize> arrPhoneSizes, CMessageBoxes& boxes);
 
-    // The size asked for; not checked for sense, each side limited to what an int holds. The size that was given
-    // until Ok.
+    // The size asked for; not checked for sense, each side limited to what an int holds. The size that was
+    // given until Ok.
     CSize Size() const { return m_size; }
 
     void OnInitDialog() override;
@@ -34,6 +34,6 @@ class CSizeChangeDlg : public CDialog {
     CSize m_size;
     std::vector<CSize> m_arrPhoneSizes;
     CMessageBoxes& m_boxes;
-    int m_nPage = 0;     // 0: the user's own size, 1: the phone's
+    int m_nPage = 0;       // 0: the user's own size, 1: the phone's
     int m_nUnsettled = 0;  // the edit that has been typed into since both sides last agreed; 0 for none
 };

@@ -4,8 +4,8 @@
 #include <utility>
 
 int CIconListModel::SelectedCount() const {
-    return static_cast<int>(
-        std::count_if(m_arrItems.begin(), m_arrItems.end(), [](const CItem& item) { return item.bSelected; }));
+    return static_cast<int>(std::count_if(m_arrItems.begin(), m_arrItems.end(),
+                                          [](const CItem& item) { return item.bSelected; }));
 }
 
 std::vector<int> CIconListModel::SelectedItems() const {

@@ -4,7 +4,9 @@
 
 namespace {
 
-unsigned char Fold(char c) { return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c); }
+unsigned char Fold(char c) {
+    return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+}
 
 // Without regard to the case of Latin letters; texts that differ in nothing else go by their bytes.
 bool StandsBefore(const std::string& strA, const std::string& strB) {
@@ -34,11 +36,13 @@ CTreeItem CTreeModel::Insert(CTreeItem parent, std::size_t nPlace, const std::st
     return item;
 }
 
-CTreeItem CTreeModel::InsertLast(CTreeItem parent, const std::string& strText, ETreeIcon icon, bool bHasChildren) {
+CTreeItem CTreeModel::InsertLast(CTreeItem parent, const std::string& strText, ETreeIcon icon,
+                                 bool bHasChildren) {
     return Insert(parent, Children(parent).size(), strText, icon, bHasChildren);
 }
 
-CTreeItem CTreeModel::InsertSorted(CTreeItem parent, const std::string& strText, ETreeIcon icon, bool bHasChildren) {
+CTreeItem CTreeModel::InsertSorted(CTreeItem parent, const std::string& strText, ETreeIcon icon,
+                                   bool bHasChildren) {
     const std::vector<CTreeItem>& arrChildren = Children(parent);
     const auto it = std::upper_bound(
         arrChildren.begin(), arrChildren.end(), strText,
@@ -59,7 +63,9 @@ void CTreeModel::Delete(CTreeItem item) {
     Forget(item);
 }
 
-void CTreeModel::DeleteAll() { DeleteChildren(kNoTreeItem); }
+void CTreeModel::DeleteAll() {
+    DeleteChildren(kNoTreeItem);
+}
 
 void CTreeModel::DeleteChildren(CTreeItem item) {
     while (!Children(item).empty()) Delete(Children(item).back());
@@ -74,7 +80,8 @@ void CTreeModel::SetHasChildrenMark(CTreeItem item, bool bHasChildren) {
 
 void CTreeModel::Expand(CTreeItem item, bool bByUser) {
     if (!Exists(item)) return;
-    if (m_pSink != nullptr && (bByUser || !m_mapNodes.at(item).bExpandedOnce)) m_pSink->OnItemExpanding(item, true);
+    if (m_pSink != nullptr && (bByUser || !m_mapNodes.at(item).bExpandedOnce))
+        m_pSink->OnItemExpanding(item, true);
     if (!Exists(item)) return;
     CNode& node = m_mapNodes.at(item);
     node.bExpandedOnce = true;
@@ -93,7 +100,8 @@ void CTreeModel::Collapse(CTreeItem item, bool bByUser) {
 
 void CTreeModel::Select(CTreeItem item, ETreeCause cause) {
     if (item == m_selected || (item != kNoTreeItem && !Exists(item))) return;
-    for (CTreeItem above = item == kNoTreeItem ? item : Parent(item); above != kNoTreeItem; above = Parent(above))
+    for (CTreeItem above = item == kNoTreeItem ? item : Parent(item); above != kNoTreeItem;
+         above = Parent(above))
         Expand(above);
     m_selected = item;
     if (m_pObserver != nullptr) m_pObserver->OnTreeSelected(item);

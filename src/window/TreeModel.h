@@ -36,15 +36,16 @@ class CTreeSink {
     virtual void OnSelectionChanged(CTreeItem item, ETreeCause cause) = 0;
 };
 
-// A tree control as data: texts, icons, has-children marks, what is open and what is selected. Like the platform's, it
-// tells its logic of an opening by the program only the first time, of one by the user each time.
+// A tree control as data: texts, icons, has-children marks, what is open and what is selected. Like the
+// platform's, it tells its logic of an opening by the program only the first time, of one by the user each
+// time.
 class CTreeModel {
   public:
     void SetSink(CTreeSink* pSink) { m_pSink = pSink; }
     void Attach(CTreeObserver* pObserver) { m_pObserver = pObserver; }
 
-    // At the end of the parent's children, or where the text belongs without regard to case. kNoTreeItem as parent
-    // makes a top item.
+    // At the end of the parent's children, or where the text belongs without regard to case. kNoTreeItem as
+    // parent makes a top item.
     CTreeItem InsertLast(CTreeItem parent, const std::string& strText, ETreeIcon icon, bool bHasChildren);
     CTreeItem InsertSorted(CTreeItem parent, const std::string& strText, ETreeIcon icon, bool bHasChildren);
     // The selection that goes with it is lost without a word.

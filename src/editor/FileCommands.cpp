@@ -9,13 +9,14 @@ namespace {
 constexpr CSize kBlankPage{160, 120};
 constexpr CSize kFirstPage{640, 480};
 
+// Not valid if there is no memory for it. A size that is none leaves the page as it is drawn.
 CxImage MakeWhitePage(CSize size) {
-    CxImage page;
     CPixels pixels;
-    if (pixels.CreateFilled(kBlankPage.cx, kBlankPage.cy, {255, 255, 255}))
-        page.CreateFromHBITMAP(std::move(pixels));
-    page.Resample(size.cx, size.cy);
-    return page;
+    CxImage page;
+    const bool bMade = pixels.CreateFilled(kBlankPage.cx, kBlankPage.cy, {255, 255, 255}) &&
+                       page.CreateFromHBITMAP(std::move(pixels));
+    const bool bScaled = size.cx <= 0 || size.cy <= 0 || page.Resample(size.cx, size.cy);
+    return bMade && bScaled ? page : CxImage();
 }
 
 }  // namespace

@@ -116,6 +116,8 @@ std::optional<CJpegPicture> DecodeJpeg(std::span<const std::uint8_t> file, CSize
     CJpegPicture picture;
     picture.sizeFull = Upright(reader.OutputSize(), nOrientation);
     picture.nBpp = reader.Info().jpeg_color_space == JCS_GRAYSCALE ? 8 : 24;
+    // What is too large to be opened has no smaller picture either.
+    if (!CPixels::Fits(picture.sizeFull.cx, picture.sizeFull.cy)) return std::nullopt;
     const bool bScaled = sizeAtLeast.cx > 0 && sizeAtLeast.cy > 0;
     if (bScaled && !ChooseScale(reader, Upright(sizeAtLeast, nOrientation))) return std::nullopt;
 

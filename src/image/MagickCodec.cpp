@@ -132,17 +132,20 @@ bool HasAlphaChannel(ImageType type) {
            type == ImageType::kIco || type == ImageType::kGif || type == ImageType::kJp2;
 }
 
+// The library makes a picture of given pixels with its own call for that, which ends the program when there
+// is no room for them; a blank picture that the pixels are put into fails as an exception.
 bool Fill(Magick::Image& image, const CMagickSource& source, bool bAlpha) {
     const auto nWidth = static_cast<std::size_t>(source.pixels.Width());
     const auto nHeight = static_cast<std::size_t>(source.pixels.Height());
-    if (!bAlpha) {
-        image.read(nWidth, nHeight, "RGB", Magick::CharPixel, source.pixels.Bytes().data());
-        return true;
-    }
     CSharedBytes bytes;
-    if (!Interleave(source, bytes)) return false;
-    image.read(nWidth, nHeight, "RGBA", Magick::CharPixel, bytes.Data());
-    return true;
+    if (bAlpha && !Interleave(source, bytes)) return false;
+    image.size(Magick::Geometry(nWidth, nHeight));
+    image.read("xc:black");
+    image.matte(bAlpha);
+    image.modifyImage();
+    return MagickCore::ImportImagePixels(image.image(), 0, 0, nWidth, nHeight, bAlpha ? "RGBA" : "RGB",
+                                         MagickCore::CharPixel,
+                                         bAlpha ? bytes.Data() : source.pixels.Bytes().data()) != 0;
 }
 
 bool Encode(const CMagickSource& source, const CFormat& format, Magick::Blob& blob) {

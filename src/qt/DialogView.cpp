@@ -68,8 +68,6 @@ void CDialogView::BuildControls() {
         QWidget& widget = pControl->Widget();
         widget.setGeometry(ToQt(control.rcPlace));
         widget.setMouseTracking(true);
-        // A press on a disabled control is not one beside all controls.
-        widget.setAttribute(Qt::WA_NoMousePropagation, !IsSeenThrough(control));
         widget.setEnabled(control.bEnabled);
         widget.setVisible(control.bShown);
         m_mapIds.emplace(&widget, control.nId);
@@ -142,15 +140,8 @@ void CDialogView::paintEvent(QPaintEvent* pEvent) {
 }
 
 void CDialogView::OnPaintWanted() {
-    if (m_bPaintQueued) return;
-    m_bPaintQueued = true;
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            m_bPaintQueued = false;
-            m_dialog.Paint();
-        },
-        Qt::QueuedConnection);
+        this, [this] { m_dialog.Paint(); }, Qt::QueuedConnection);
 }
 
 void CDialogView::OnDrawn() {

@@ -67,7 +67,6 @@ class CDialogView : public QWidget,
     CDialog& m_dialog;
     CPictures& m_pictures;
     int m_nDensity = 1;
-    bool m_bPaintQueued = false;
     int m_nFocusShown = 0;
     std::function<void()> m_fnEnded;
     std::unordered_map<int, std::unique_ptr<CControlWidget>> m_mapWidgets;

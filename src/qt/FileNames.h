@@ -11,3 +11,6 @@ std::string ResolvePath(const QString& strPath);
 // Name filters as Qt takes them from pairs "label|pattern|label|pattern||". A label that does not name its
 // pattern in brackets gets it.
 QStringList ParseFilter(const std::string& strFilter);
+
+// The patterns in a name filter: "*.jpg" and "*.jpeg" of "Pictures (*.jpg *.jpeg)".
+QStringList PatternsOf(const QString& strNameFilter);

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QTreeView>
 #include <filesystem>
 
@@ -20,7 +21,11 @@ constexpr int kListRow = 1;  // of the dialog's grid; the folder's line stands a
 }  // namespace
 
 CFileWindow::CFileWindow(AcceptMode mode, const CFileDialogRequest& request, QWidget* pParent)
-    : QFileDialog(pParent, mode == AcceptOpen ? "打开" : "另存为", QDir::currentPath()) {
+    : QFileDialog(pParent, mode == AcceptOpen ? "打开" : "另存为", QDir::currentPath()),
+      m_labelUnlisted("其他文件:", this),
+      m_unlisted(this) {
+    m_labelUnlisted.hide();
+    m_unlisted.hide();
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);  // asked in accept, about the name that the file really gets
     setAcceptMode(mode);
@@ -34,7 +39,31 @@ CFileWindow::CFileWindow(AcceptMode mode, const CFileDialogRequest& request, QWi
     if (mode == AcceptSave) setDefaultSuffix("jpg");
     if (!request.strDefaultName.empty()) selectFile(PathToQt(request.strDefaultName));
     SetUpColumns();
+    if (mode == AcceptOpen) SetUpUnlisted();
     resize(kWindow);
+}
+
+// A line below for the files that the list cannot show, as long as the folder has any.
+void CFileWindow::SetUpUnlisted() {
+    auto* pGrid = qobject_cast<QGridLayout*>(layout());
+    auto* pName = findChild<QLineEdit*>("fileNameEdit");
+    if (pGrid == nullptr || pName == nullptr) return;
+    const int nRow = pGrid->rowCount();
+    pGrid->addWidget(&m_labelUnlisted, nRow, 0);
+    pGrid->addWidget(&m_unlisted, nRow, 1);
+    FillUnlisted();
+    connect(this, &QFileDialog::directoryEntered, this, &CFileWindow::FillUnlisted);
+    connect(this, &QFileDialog::filterSelected, this, &CFileWindow::FillUnlisted);
+    connect(&m_unlisted, &QComboBox::activated, this, [this, pName](int nFile) {
+        pName->setText(m_unlisted.itemText(nFile));
+        emit currentChanged(directory().filePath(m_unlisted.itemText(nFile)));
+    });
+}
+
+void CFileWindow::FillUnlisted() {
+    const bool bAny = m_unlisted.Fill(directory().path(), PatternsOf(selectedNameFilter()));
+    m_unlisted.setVisible(bAny);
+    m_labelUnlisted.setVisible(bAny);
 }
 
 // Name, size and date; the names get what room there is.

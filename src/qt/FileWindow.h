@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QFileDialog>
+#include <QLabel>
 #include <string>
 
 #include "qt/FileDateDelegate.h"
+#include "qt/UnlistedFiles.h"
 #include "window/FileDialogs.h"
 
 // The window of the file dialogs: a list of the current folder with a line to type a name in. When opening, a
@@ -23,7 +25,11 @@ class CFileWindow : public QFileDialog {
 
   private:
     void SetUpColumns();
+    void SetUpUnlisted();
+    void FillUnlisted();
     bool AskReplace(const std::string& strPath);
 
     CFileDateDelegate m_dates;
+    QLabel m_labelUnlisted;
+    CUnlistedFiles m_unlisted;
 };

@@ -47,13 +47,10 @@ QRect CScrollViewWidget::ClientArea() const {
 }
 
 void CScrollViewWidget::OnPaintWanted() {
-    // A hidden view is not painted: it asks again when it is shown.
-    if (m_bPaintQueued || !isVisible()) return;
-    m_bPaintQueued = true;
     QMetaObject::invokeMethod(
         this,
         [this] {
-            m_bPaintQueued = false;
+            // A hidden view is not painted: it asks again when it is shown.
             if (isVisible()) m_view.Paint();
         },
         Qt::QueuedConnection);
@@ -102,6 +99,7 @@ void CScrollViewWidget::showEvent(QShowEvent* pEvent) {
 
 void CScrollViewWidget::HandleMouse(const QMouseEvent& event) {
     const QPoint pt = mapFromGlobal(event.globalPosition().toPoint());
+    // A release that belongs to a press elsewhere may come over a scroll bar.
     if (ClientArea().contains(pt)) m_view.OnMouse(MakeMouseEvent(event, pt));
 }
 

@@ -38,5 +38,4 @@ class CScrollViewWidget : public QWidget, public CControlWidget, private CViewHo
     CMouseRouter& m_router;
     QScrollBar m_barHorizontal;
     QScrollBar m_barVertical;
-    bool m_bPaintQueued = false;
 };

@@ -44,7 +44,7 @@ TEST_F(InputTest, EscapeAndEnterDoNothing) {
 }
 
 TEST_F(InputTest, CtrlKeysNeedAPictureAndTheCtrlKey) {
-    for (const int nKey : {'C', 'V', 'X', 'Y', 'Z'}) EXPECT_FALSE(CtrlKey(nKey));
+    for (const int nKey : std::vector<int>{'C', 'V', 'X', 'Y', 'Z'}) EXPECT_FALSE(CtrlKey(nKey));
     OpenNumbered(20, 20);
     Edit(1);
     Edit(2);
@@ -57,7 +57,7 @@ TEST_F(InputTest, CtrlKeysNeedAPictureAndTheCtrlKey) {
     // The paint clipboard's keys belong to the controls outside DRAW.
     for (const int nMode : kAllModes) {
         GoTo(nMode);
-        for (const int nKey : {'C', 'V', 'X'}) EXPECT_EQ(CtrlKey(nKey), nMode == kModeDraw);
+        for (const int nKey : std::vector<int>{'C', 'V', 'X'}) EXPECT_EQ(CtrlKey(nKey), nMode == kModeDraw);
     }
 }
 

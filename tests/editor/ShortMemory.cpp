@@ -19,6 +19,7 @@ CShortMemory::~CShortMemory() {
 
 // Those of the whole test program. They stand in a file without tests, so that no allocation of a test is
 // compiled together with one half of a pair.
+// NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): this is where memory comes from.
 void* operator new(std::size_t nSize) {
     if (g_nUntilFailure >= 0 && g_nUntilFailure-- == 0) throw std::bad_alloc();
     void* const p = std::malloc(nSize == 0 ? 1 : nSize);
@@ -31,3 +32,4 @@ void operator delete(void* p) noexcept {
 void operator delete(void* p, std::size_t /*nSize*/) noexcept {
     std::free(p);
 }
+// NOLINTEND(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)

@@ -230,4 +230,17 @@ TEST_F(Formats, OfSeveralPicturesTheFirstIsTaken) {
     }
 }
 
+// Where the codec's own limit on a side ends, a save fails as any other does.
+TEST_F(Formats, ASideThatTheCodecDoesNotTakeFailsCleanly) {
+    const CxImage longPicture(17000, 2);
+    for (const char* const szName : {"long.png", "long.bmp", "long.tif"}) {
+        const std::string strPath = Path(szName);
+        const ImageType type = FindImageTypeOfName(szName);
+        ASSERT_TRUE(CxImage(16, 2).Save(strPath, type));
+        if (longPicture.Save(strPath, type)) continue;  // a machine without that limit
+        EXPECT_EQ(CxImage(strPath, type).GetSize(), (CSize{16, 2})) << "the old file is lost: " << szName;
+    }
+    EXPECT_TRUE(longPicture.Save(Path("long.jpg"), ImageType::kJpeg));
+}
+
 }  // namespace

@@ -141,6 +141,8 @@ TEST_F(Jpeg, HugeClaimsAreRefusedBeforeMemoryIsTaken) {
     EXPECT_FALSE(Load(WithClaimedSize(file, 65500, 65500)).IsValid());
     EXPECT_FALSE(Load(WithClaimedSize(file, 30000, 30000)).IsValid());
     EXPECT_FALSE(Load(WithClaimedSize(file, 0, 16)).IsValid());
+    WriteBytes(Path("huge.jpg"), WithClaimedSize(file, 65500, 65500));
+    EXPECT_FALSE(LoadJpegScaled(Path("huge.jpg"), 10, 10).image.IsValid());
 
     // One scan over and over: little to store, much to decode.
     CJpegKind kind;

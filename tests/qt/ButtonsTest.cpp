@@ -62,6 +62,7 @@ TEST(Buttons, ThePictureFollowsTheState) {
     skin.Add("KEYU", {30, 20}, {1, 0, 0});
     skin.Add("KEYD", {30, 20}, {2, 0, 0});
     skin.Add("KEYF", {30, 20}, {3, 0, 0});
+    skin.Add("KEYX", {30, 20}, {5, 0, 0});
     skin.Add("DEADU", {30, 20}, {4, 0, 0});
     CShownDialog shown(kDialog, nullptr, skin);
     shown.dialog.Controls().SetFocus(31);
@@ -76,6 +77,8 @@ TEST(Buttons, ThePictureFollowsTheState) {
     Move(*shown.view, shown.Centre(10));
     EXPECT_EQ(PixelAt(shown, 10), qRgb(2, 0, 0));
     Release(*shown.view, shown.Centre(10));
+    shown.dialog.Controls().Enable(10, false);
+    EXPECT_EQ(PixelAt(shown, 10), qRgb(5, 0, 0));
 }
 
 TEST(Marks, AreMovedBeforeTheDialogHears) {

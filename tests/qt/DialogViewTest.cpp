@@ -106,6 +106,19 @@ TEST(DialogView, MouseBesideControlsIsTheDialogs) {
     EXPECT_EQ(arrClicks[1].button, EMouseButton::Left) << "a line of text lets the mouse through";
 }
 
+TEST(DialogView, HoverIsToldOncePerMoveAndNotWhileAButtonIsHeld) {
+    CShownDialog shown(kDialog);
+    for (const int nId : {13, 10}) Move(*shown.view, shown.Centre(nId));
+    Press(*shown.view, shown.Centre(10));
+    Move(*shown.view, shown.Centre(11));
+    Release(*shown.view, shown.Centre(11));
+    Press(*shown.view, {150, 95});
+    Move(*shown.view, shown.Centre(11));
+    Release(*shown.view, shown.Centre(11));
+    const std::vector<std::pair<int, bool>> arrWanted = {{13, false}, {10, false}, {0, false}, {11, true}};
+    EXPECT_EQ(shown.dialog.m_arrHovers, arrWanted);
+}
+
 TEST(DialogView, PaintsOnceBehindTheEvent) {
     CShownDialog shown(kDialog);
     const int nBefore = shown.dialog.m_nPaints;

@@ -111,6 +111,9 @@ TEST(ScrollView, APressOnABarIsNotTheViews) {
     EXPECT_TRUE(test.view.m_arrMouse.empty());
     EXPECT_TRUE(test.shown.dialog.m_arrMouse.empty());
     EXPECT_GT(test.view.ScrollPosition().y, 0);
+    Press(test.Window(), test.At(5, 6));
+    Release(test.Window(), test.At(192, 75));
+    EXPECT_EQ(WithoutMoves(test.view.m_arrMouse).size(), 1U) << "nor is a release there";
 }
 
 TEST(ScrollView, IsPaintedOnlyWhileItIsShown) {

@@ -49,13 +49,18 @@ TEST(TextRasterizer, CellStyleAndEdges) {
     EXPECT_GT(Inked(rasterizer.Rasterize({"黑体", 64, 400, false, true}, "文字")), nRegular);
     EXPECT_EQ(rasterizer.Rasterize({"黑体", 64}, "").nWidth, 0);
     EXPECT_EQ(rasterizer.Rasterize({"黑体", 0}, "x").nHeight, 0);
-    // Nothing of a glyph is cut off at the cell's upper or lower edge.
-    const CTextMask tall = rasterizer.Rasterize({"黑体", 60}, "|gÅ国");
-    const auto bRowEmpty = [&](int y) {
-        const auto itRow = tall.coverage.begin() + static_cast<std::ptrdiff_t>(y) * tall.nWidth;
-        return std::all_of(itRow, itRow + tall.nWidth, [](auto n) { return n < 128; });
-    };
-    EXPECT_TRUE(bRowEmpty(0) || bRowEmpty(59));
+    // A box of a character stands whole in its cell.
+    const CTextMask box = rasterizer.Rasterize({"黑体", 60}, "国");
+    std::vector<int> arrInkedRows;
+    for (int y = 0; y < 60; ++y) {
+        const auto itRow = box.coverage.begin() + static_cast<std::ptrdiff_t>(y) * box.nWidth;
+        if (std::any_of(itRow, itRow + box.nWidth, [](auto n) { return n >= 128; }))
+            arrInkedRows.push_back(y);
+    }
+    ASSERT_FALSE(arrInkedRows.empty());
+    EXPECT_GT(arrInkedRows.back() - arrInkedRows.front(), 40);
+    EXPECT_GT(arrInkedRows.front(), 0);
+    EXPECT_LT(arrInkedRows.back(), 59);
 }
 
 TEST(Clipboard, APictureComesBackAsItWent) {

@@ -22,12 +22,10 @@ void ExpectPixels(const CSurface& surface, T expected) {
 }  // namespace
 
 TEST(Surface, FillsAndFramesAreCutAtTheEdges) {
-    struct {
-        CRect rc;
-    } const kBoxes[] = {{{2, 3, 7, 6}},    {{-4, -4, 3, 3}},  {{6, 4, 40, 40}}, {{-9, -9, 40, 40}},
-                        {{5, 5, 5, 9}},    {{7, 2, 3, 6}},    {{3, 3, 4, 4}},   {{2, 4, 9, 5}},
-                        {{12, 0, 14, 10}}, {{0, -5, 12, -1}}, {{0, 0, 12, 10}}};
-    for (const auto& [rc] : kBoxes) {
+    const CRect kBoxes[] = {{2, 3, 7, 6},    {-4, -4, 3, 3},  {6, 4, 40, 40}, {-9, -9, 40, 40},
+                            {5, 5, 5, 9},    {7, 2, 3, 6},    {3, 3, 4, 4},   {2, 4, 9, 5},
+                            {12, 0, 14, 10}, {0, -5, 12, -1}, {0, 0, 12, 10}};
+    for (const CRect& rc : kBoxes) {
         CSurface filled(12, 10);
         filled.FillRect(rc, kRed);
         ExpectPixels(filled, [&](int x, int y) { return rc.Contains({x, y}) ? kRed : kBlack; });

@@ -101,7 +101,7 @@ void CFolderTree::ExpandFolder(CTreeItem item) {
 }
 
 CTreeItem CFolderTree::FindChild(CTreeItem parent, const std::string& strPath) const {
-    if (parent == kNoTreeItem) return kNoTreeItem;
+    if (!m_model.Exists(parent)) return kNoTreeItem;
     for (const CTreeItem child : m_model.Children(parent))
         if (GetPath(child) == strPath) return child;
     return kNoTreeItem;

@@ -84,8 +84,8 @@ void CTreeModel::Expand(CTreeItem item, bool bByUser) {
         m_pSink->OnItemExpanding(item, true);
     if (!Exists(item)) return;
     CNode& node = m_mapNodes.at(item);
-    node.bExpandedOnce = true;
     if (node.arrChildren.empty() || node.bExpanded) return;
+    node.bExpandedOnce = true;
     node.bExpanded = true;
     if (m_pObserver != nullptr) m_pObserver->OnTreeExpanded(item, true);
 }

@@ -37,8 +37,8 @@ class CTreeSink {
 };
 
 // A tree control as data: texts, icons, has-children marks, what is open and what is selected. Like the
-// platform's, it tells its logic of an opening by the program only the first time, of one by the user each
-// time.
+// platform's, it tells its logic of an opening by the program only until the item has once been open, of one
+// by the user each time.
 class CTreeModel {
   public:
     void SetSink(CTreeSink* pSink) { m_pSink = pSink; }

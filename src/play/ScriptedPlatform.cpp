@@ -39,6 +39,23 @@ void CScriptedPlatform::AddRunners() {
         while (!host.Dialog().HasEnded() && host.Platform().Timers().AdvanceToNext()) {
         }
     });
+    SetRunner(kDlgSize, [this](CPlayHost& host) { RunSize(host); });
+}
+
+// Types what the answer has, with the ratio kept or not, and clicks Ok.
+void CScriptedPlatform::RunSize(CPlayHost& host) {
+    const std::optional<CAnswer> answer = TakeAnswer(EQuestion::Size);
+    if (!answer) return;
+    std::string strWhy;
+    const auto fnDo = [&strWhy](const std::string& strStep) {
+        if (strWhy.empty()) strWhy = strStep;
+    };
+    if (host.Dialog().Controls().IsChecked(kSizeKeepRatio) != answer->bKeepRatio)
+        fnDo(host.Click(kSizeKeepRatio));
+    if (answer->strWidth) fnDo(host.Type(kSizeWidth, *answer->strWidth));
+    if (answer->strHeight) fnDo(host.Type(kSizeHeight, *answer->strHeight));
+    fnDo(host.Click(kSizeOk));
+    if (!strWhy.empty()) m_arrProblems.push_back({EProblem::Impossible, strWhy});
 }
 
 void CScriptedPlatform::PaintAll() {

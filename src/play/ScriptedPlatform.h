@@ -132,6 +132,7 @@ class CScriptedPlatform : private CMessageBoxes,
     // The window keeps painting while a question stands.
     void PaintAll();
     void AddRunners();
+    void RunSize(CPlayHost& host);
     CAsked& Ask(EQuestion question);
     bool MayDelete(bool bToBin, bool bAsk);
     bool DeleteOne(const std::string& strPath, bool bToBin) const;

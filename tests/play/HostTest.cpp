@@ -103,7 +103,7 @@ TEST_F(HostTest, ClicksAsTheUserDoes) {
     EXPECT_EQ(m_dialog.Controls().Text(kEdit), "hél");
     EXPECT_EQ(m_host->MoveSlider(kSlider, 40), "");
     EXPECT_NE(m_host->MoveSlider(kSlider, 101), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "notice 15:0;notice 15:4;notice 15:4;notice 16:1;notice 18:3;");
+    EXPECT_EQ(m_dialog.TakeLog(), "notice 15:0;notice 15:4;notice 15:4;notice 16:1;notice 16:2;notice 18:3;");
 
     m_dialog.Controls().Enable(kCheck, false);
     EXPECT_NE(m_host->Click(kCheck), "");

@@ -29,6 +29,10 @@ CEditWidget::CEditWidget(const CControlContext& context) : QLineEdit(context.pPa
         m_context.dialog.Controls().SetText(m_context.control.nId, FromQt(str));
         m_context.dialog.OnNotify(m_context.control.nId, ENotice::TextChanged);
     });
+    connect(this, &QLineEdit::editingFinished, this, [this] {
+        // The end of a dialog takes the focus away too.
+        if (!m_context.dialog.HasEnded()) m_context.dialog.OnNotify(m_context.control.nId, ENotice::TextDone);
+    });
 }
 
 void CEditWidget::Mirror(EControlChange change) {

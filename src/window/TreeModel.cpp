@@ -61,6 +61,7 @@ void CTreeModel::Delete(CTreeItem item) {
     if (m_pObserver != nullptr) m_pObserver->OnTreeDeleting(item);
     std::erase(ChildrenOf(Parent(item)), item);
     Forget(item);
+    if (m_pObserver != nullptr) m_pObserver->OnTreeDeleted(item);
 }
 
 void CTreeModel::DeleteAll() {

@@ -21,6 +21,8 @@ class CTreeObserver {
     virtual void OnTreeInserted(CTreeItem item) = 0;
     // The item and all below it are about to go.
     virtual void OnTreeDeleting(CTreeItem item) = 0;
+    // The item and all below it have gone.
+    virtual void OnTreeDeleted(CTreeItem /*item*/) {}
     // The has-children mark has changed.
     virtual void OnTreeMarked(CTreeItem item) = 0;
     virtual void OnTreeExpanded(CTreeItem item, bool bExpanded) = 0;

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <utility>
 
@@ -20,6 +21,9 @@ constexpr std::array kPageGrounds = {497, 498};
 constexpr std::array kOwnPageControls = {kSizeWidthLabel, kSizeWidth,          kSizeHeightLabel, kSizeHeight,
                                          kSizeKeepRatio,  kSizeKeepRatioLabel, kSizeToPhone};
 constexpr std::array kPhonePageControls = {kSizePhoneList, kSizeToOwn};
+
+// How far the typed side may give way to the ratio.
+constexpr int kMostDrift = 16;
 
 int LimitToInt(std::int64_t n) {
     return static_cast<int>(
@@ -96,16 +100,19 @@ void CSizeChangeDlg::Follow(int nTyped) {
 }
 
 // Both sides take each other's word until they stand still; a ratio that does not divide evenly can so take a
-// unit from the typed side too. This waits until the typing is over, or no number of several digits could be
+// few units from the typed side too. A ratio of large numbers without a common divisor would take all of it:
+// there the first word stands. This waits until the typing is over, or no number of several digits could be
 // typed.
 void CSizeChangeDlg::Settle(int nTyped) {
     if (std::exchange(m_nUnsettled, 0) == 0 || !Controls().IsChecked(kSizeKeepRatio)) return;
     const int nOther = nTyped == kSizeWidth ? kSizeHeight : kSizeWidth;
-    int nValue = Side(nTyped);
+    const int nFirst = Side(nTyped);
+    int nValue = nFirst;
     int nPartner = Partner(nTyped, nValue);
     for (int nBack = Partner(nOther, nPartner); nBack != nValue; nBack = Partner(nOther, nPartner)) {
-        nValue = nBack;
+        nValue = std::abs(nFirst - nBack) > kMostDrift ? nFirst : nBack;
         nPartner = Partner(nTyped, nValue);
+        if (nValue == nFirst) break;
     }
     Controls().SetText(nTyped, std::to_string(nValue));
     Controls().SetText(nOther, std::to_string(nPartner));

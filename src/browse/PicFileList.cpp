@@ -50,6 +50,7 @@ void CPicFileList::ShowFolder(const std::string& strPath) {
 
 void CPicFileList::FillThumbnails() {
     if (m_strPath.empty()) return;
+    const CWaitScope wait(m_env.wait);
     StopFill();
     m_env.controls.SetPosition(kProgress, 0);
     m_env.folders.SetCurrentFolder(m_strPath);

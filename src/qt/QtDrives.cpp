@@ -54,10 +54,10 @@ bool IsUsersVolume(const CVolume& volume) {
            });
 }
 
+// Without a name of its own a volume is called as the folder that it hangs in.
 std::string NameOf(const CVolume& volume) {
     if (!volume.strName.empty()) return volume.strName;
-    const std::string& str = volume.strPath;
-    return str.substr(str.rfind('/', str.size() - 2) + 1, str.size() - 2 - str.rfind('/', str.size() - 2));
+    return std::filesystem::path(volume.strPath).parent_path().filename().string();
 }
 
 }  // namespace
@@ -74,7 +74,7 @@ std::vector<CDrive> NameDrives(const std::string& strHome, std::vector<CVolume> 
     const char cLast = strSamples.empty() ? 'Z' : 'Y';
     for (const CVolume& volume : arrVolumes) {
         if (cLetter > cLast) break;
-        // A volume that is mounted over another is the one that is seen.
+        // One may be mounted over another, or be the home itself.
         if (volume.strPath == arrDrives.back().strRoot || volume.strPath == arrDrives.front().strRoot)
             continue;
         arrDrives.push_back({cLetter, volume.strPath, Lettered(NameOf(volume), cLetter),

@@ -1,14 +1,12 @@
 #include "qt/QtShell.h"
 
-#include <QDesktopServices>
-#include <QFile>
-#include <QUrl>
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
 #include <system_error>
 
 #include "qt/Text.h"
+#include "qt/Trash.h"
 #include "window/MessageBoxes.h"
 
 #ifndef Q_OS_WIN
@@ -41,18 +39,17 @@ std::string TitleOf(const std::vector<std::string>& arrPaths) {
     return IsFolder(arrPaths.front()) ? "确认文件夹删除" : "确认文件删除";
 }
 
+bool Exists(const std::string& strPath) {
+    std::error_code error;
+    return fs::exists(fs::symlink_status(strPath, error));
+}
+
 bool MayChange(const fs::path& folder) {
 #ifdef Q_OS_WIN
     return fs::is_directory(folder);
 #else
     return access(folder.c_str(), W_OK) == 0;
 #endif
-}
-
-// A name that is no valid text cannot be told to Qt.
-bool MoveToTrash(const std::string& strPath) {
-    const QString str = PathToQt(strPath);
-    return PathFromQt(str) == strPath && QFile::moveToTrash(str);
 }
 
 // A link goes, what it leads to stays.
@@ -100,7 +97,7 @@ bool CQtShell::Delete(const std::vector<std::string>& arrPaths, bool bToBin, boo
     std::vector<std::string> arrRefused;
     std::vector<std::string> arrForGood;
     for (const std::string& strPath : arrPaths) {
-        if (bToBin && MoveToTrash(strPath)) continue;
+        if (!Exists(strPath) || (bToBin && MoveToTrash(strPath))) continue;
         // What may not be taken out of its folder cannot be deleted for good either.
         const bool bFixed = !MayChange(fs::path(strPath).parent_path());
         (bFixed ? arrRefused : arrForGood).push_back(strPath);
@@ -114,6 +111,6 @@ bool CQtShell::Delete(const std::vector<std::string>& arrPaths, bool bToBin, boo
 }
 
 void CQtShell::Open(const std::string& strPath) {
-    if (QDesktopServices::openUrl(UrlOf(strPath))) return;
+    if (m_fnLaunch(UrlOf(strPath))) return;
     m_boxes.Show({"没有可以打开“" + NameOf(strPath) + "”的程序。", "打开", EBoxIcon::Stop, EBoxButtons::Ok});
 }

@@ -3,6 +3,8 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QScrollBar>
+#include <algorithm>
 
 #include "qt/FontMapping.h"
 #include "qt/SkinColors.h"
@@ -56,6 +58,20 @@ CTreeWidget::~CTreeWidget() {
 void CTreeWidget::resizeEvent(QResizeEvent* pEvent) {
     QTreeView::resizeEvent(pEvent);
     header()->setMinimumSectionSize(viewport()->width());
+}
+
+// Qt brings the row into view, but with one column only its left end. A deep item stands far to the right.
+void CTreeWidget::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    QTreeView::scrollTo(index, hint);
+    resizeColumnToContents(0);
+    updateGeometries();
+    const QRect rcItem = visualRect(index);
+    if (!rcItem.isValid()) return;
+    const int nRight = rcItem.left() + sizeHintForIndex(index).width();
+    const int nLeft = rcItem.left() - indentation();
+    const int nOver = std::min(nRight - viewport()->width(), nLeft);
+    if (nLeft < 0 || nOver > 0)
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + (nLeft < 0 ? nLeft : nOver));
 }
 
 void CTreeWidget::MirrorBelow(CTreeItem item) {

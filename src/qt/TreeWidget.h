@@ -13,6 +13,7 @@ class CTreeWidget : public QTreeView, public CControlWidget, private CTreeObserv
     ~CTreeWidget() override;
 
     QWidget& Widget() override { return *this; }
+    void scrollTo(const QModelIndex& index, ScrollHint hint) override;
 
   protected:
     void resizeEvent(QResizeEvent* pEvent) override;

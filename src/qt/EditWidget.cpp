@@ -7,7 +7,7 @@
 
 namespace {
 
-// On the main window's skin the well around the line is drawn already.
+// On a ground of the skin the well around the line is drawn already.
 constexpr char kSkinStyle[] =
     "QLineEdit { border: none; background: #f5f7f4; color: #222a28; padding: 0 2px;"
     " selection-background-color: #e88f36; selection-color: #ffffff; }";
@@ -21,7 +21,8 @@ constexpr char kStyle[] =
 }  // namespace
 
 CEditWidget::CEditWidget(const CControlContext& context) : QLineEdit(context.pParent), m_context(context) {
-    setStyleSheet(context.dialog.Template().nId == kDlgMain ? kSkinStyle : kStyle);
+    const int nDialog = context.dialog.Template().nId;
+    setStyleSheet(nDialog == kDlgMain || nDialog == kDlgSize ? kSkinStyle : kStyle);
     setFont(MapFont({}, context.control.rcPlace.Height() < 18 ? 12 : 13));
     if (context.control.nMaxText > 0) setMaxLength(context.control.nMaxText);
     setText(ToQt(context.control.strText));

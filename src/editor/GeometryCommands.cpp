@@ -11,8 +11,10 @@ namespace {
 constexpr double kZoomStep = 0.25;
 
 void FlipImage(CxImage& image, bool bVertical) {
-    if (bVertical) image.Rotate180();
-    image.Mirror();
+    if (bVertical)
+        image.Flip();
+    else
+        image.Mirror();
 }
 
 }  // namespace

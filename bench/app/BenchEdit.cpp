@@ -32,6 +32,10 @@ class CBenchProgram {
     }
     CMainDlg& Dialog() { return m_dialog; }
     void Command(int nId) { m_dialog.OnCommand(nId); }
+    void SetSize(CSize size) {
+        m_platform.AnswerSize(size);
+        Command(kCmdSize);
+    }
     void Pump() { m_host.Pump(); }
 
   private:
@@ -113,5 +117,37 @@ void SwitchMode(benchmark::State& state) {
     Count(state);
 }
 BENCHMARK(SwitchMode)->Unit(benchmark::kMicrosecond);
+
+// A whole command with its undo step, the display image and the painted canvas. The stack is full, so that no
+// step waits for the system's memory.
+void Command(benchmark::State& state) {
+    CBenchProgram& program = Program();
+    for (int n = 0; n <= CUndoStack::kDepth; ++n) program.Command(kCmdFlipVertical);
+    for (auto _ : state) {
+        program.Command(static_cast<int>(state.range(0)));
+        program.Pump();
+    }
+    Count(state);
+}
+BENCHMARK(Command)->Name("FlipVertical")->Arg(kCmdFlipVertical)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Command)->Name("FlipHorizontal")->Arg(kCmdFlipHorizontal)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Command)->Name("TurnLeft")->Arg(kCmdTurnLeft)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Command)->Name("TurnRight")->Arg(kCmdTurnRight)->Unit(benchmark::kMicrosecond);
+
+// To the largest size that it allows.
+void Large(benchmark::State& state) {
+    CBenchProgram& program = Program();
+    program.Command(kCmdReset);
+    program.SetSize({2560, 1920});
+    for (auto _ : state) {
+        program.Command(kCmdLarge);
+        program.Pump();
+        state.PauseTiming();
+        program.Command(kCmdUndo);
+        state.ResumeTiming();
+    }
+    Count(state);
+}
+BENCHMARK(Large)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

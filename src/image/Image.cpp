@@ -166,6 +166,10 @@ bool CxImage::Mirror() {
     return IsValid() && TurnInto(MirrorPlane, GetSize());
 }
 
+bool CxImage::Flip() {
+    return IsValid() && TurnInto(FlipPlane, GetSize());
+}
+
 bool CxImage::TurnInto(TurnCall turn, CSize sizeNew) {
     CPixels pixels;
     CSharedBytes alpha;

@@ -94,6 +94,8 @@ class CxImage {
     bool Rotate180();
     // Swaps left and right.
     bool Mirror();
+    // Swaps top and bottom: Rotate180 and Mirror in one.
+    bool Flip();
     // Spreads the luminances over the whole range.
     bool HistogramEqualize();
 

@@ -208,6 +208,15 @@ void Rotate180Plane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, in
     }
 }
 
+void FlipPlane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight, int nChannels) {
+    const std::size_t nStride = static_cast<std::size_t>(nWidth) * static_cast<std::size_t>(nChannels);
+    pDst += nStride * static_cast<std::size_t>(nHeight);
+    for (int y = 0; y < nHeight; ++y, pSrc += nStride) {
+        pDst -= nStride;
+        std::memcpy(pDst, pSrc, nStride);
+    }
+}
+
 void RotateClockwisePlane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight,
                           int nChannels) {
     const std::ptrdiff_t nStride = static_cast<std::ptrdiff_t>(nWidth) * nChannels;

@@ -10,6 +10,9 @@
 void MirrorPlane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight, int nChannels);
 void Rotate180Plane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight, int nChannels);
 
+// Swaps top and bottom. dst is another block.
+void FlipPlane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight, int nChannels);
+
 // dst is another block of nHeight columns and nWidth rows. nWidth, nHeight: the size of src.
 // Clockwise: the left column of src, read from below, becomes the top row.
 void RotateClockwisePlane(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight,

@@ -51,7 +51,14 @@ std::string HelpText() {
          "the first line that cannot be done, 2 for a wrong call. With --strict a question for which "
          "no answer waits cannot be done either, message boxes included, and an answer that nobody "
          "asks for is an error.");
+    out << '\n';
+    Fold(out, "",
+         "The program starts at the first line that needs it: what stands above it about the machine is "
+         "there from the start. It sees no drives but those of the script. The pictures of the file list "
+         "are all made when a line ends.");
+    TellVerbs(out, "What the machine has", MachineVerbs());
     TellVerbs(out, "What the user does", HandVerbs());
+    TellVerbs(out, "What the user does in THUM", BrowseVerbs());
     TellVerbs(out, "What the user answers", AnswerVerbs());
     TellVerbs(out, "What there is to see", LookVerbs());
     out << "\nStates\n";

@@ -24,6 +24,22 @@ const char* IconName(EBoxIcon icon) {
     return "stop";
 }
 
+// What is in sight of a tree, one item a line, each level further in than the one above.
+void ShowTree(std::ostream& out, const CTreeModel& tree, CTreeItem parent, const std::string& strIndent) {
+    for (const CTreeItem item : tree.Children(parent)) {
+        const char* szMark = tree.IsExpanded(item) ? " open" : tree.HasChildrenMark(item) ? " closed" : "";
+        out << strIndent << Quote(tree.Text(item)) << szMark
+            << (tree.Selected() == item ? " selected\n" : "\n");
+        if (tree.IsExpanded(item)) ShowTree(out, tree, item, strIndent + "  ");
+    }
+}
+
+void ShowIcons(std::ostream& out, const CIconListModel& icons) {
+    for (int i = 0; i < icons.Count(); ++i)
+        out << "  " << Quote(icons.Text(i)) << (icons.Picture(i).IsEmpty() ? " empty" : " picture")
+            << (icons.IsSelected(i) ? " selected\n" : "\n");
+}
+
 std::string Show(CStage& stage, const CWords& arrWords) {
     const std::optional<int> nId = ParseNumber(arrWords[0]);
     const CControl* pControl = nId ? stage.dialog.Controls().Find(*nId) : nullptr;
@@ -33,10 +49,13 @@ std::string Show(CStage& stage, const CWords& arrWords) {
               << (pControl->bChecked ? " checked " : " unchecked ") << Quote(pControl->strText);
     if (pControl->kind == EControlKind::Slider || pControl->kind == EControlKind::Progress)
         stage.out << " at " << pControl->nPos << " of " << pControl->nMin << " to " << pControl->nMax;
-    const bool bList = pControl->kind == EControlKind::PictureList ||
-                       pControl->kind == EControlKind::IconList || pControl->kind == EControlKind::Combo;
+    const bool bList = pControl->kind == EControlKind::PictureList || pControl->kind == EControlKind::Combo;
     if (bList) stage.out << " row " << pControl->nSel << " of " << pControl->arrItems.size();
     stage.out << '\n';
+    const CTreeModel* pTree = stage.dialog.TreeOf(pControl->nId);
+    if (pTree != nullptr) ShowTree(stage.out, *pTree, kNoTreeItem, "  ");
+    const CIconListModel* pIcons = stage.dialog.IconsOf(pControl->nId);
+    if (pIcons != nullptr) ShowIcons(stage.out, *pIcons);
     return {};
 }
 
@@ -44,7 +63,7 @@ std::string State(CStage& stage, const CWords& arrWords) {
     bool bFound = false;
     for (const CStateEntry& entry : States()) {
         if (!arrWords.empty() && arrWords[0] != entry.szName) continue;
-        stage.out << entry.szName << ' ' << entry.pValue(stage.dialog) << '\n';
+        stage.out << entry.szName << ' ' << entry.pValue(stage) << '\n';
         bFound = true;
     }
     return bFound ? std::string{} : NotA(arrWords[0], "state");
@@ -56,6 +75,20 @@ std::string Boxes(CStage& stage, const CWords& /*arrWords*/) {
     for (const CMessageBox& box : arrBoxes)
         stage.out << "box " << Quote(box.strTitle) << ' ' << IconName(box.icon) << ' ' << Quote(box.strText)
                   << '\n';
+    return {};
+}
+
+std::string Shell(CStage& stage, const CWords& /*arrWords*/) {
+    const std::vector<CShellAct> arrActs = stage.platform.TakeShellActs();
+    stage.out << "shell " << arrActs.size() << '\n';
+    for (const CShellAct& act : arrActs) {
+        stage.out << (act.bOpen ? "open" : act.bToBin ? "bin" : "delete");
+        if (!act.bOpen)
+            stage.out << (act.bAsked ? " asked" : " unasked") << (act.bDone ? " done" : " refused");
+        for (const std::string& strPath : act.arrPaths)
+            stage.out << ' ' << Quote(stage.platform.OnDrive(strPath));
+        stage.out << '\n';
+    }
     return {};
 }
 
@@ -86,13 +119,17 @@ std::string Dump(CStage& stage, const CWords& arrWords) {
 constexpr CVerb kVerbs[] = {
     {"show", "ID", 1, 1, Show,
      "Prints a control: shown or hidden, enabled or disabled, checked or unchecked, its text, and place or "
-     "row where it has one.",
+     "row where it has one. Of the tree also what is in sight, of the file list its items.",
      "show 1123"},
     {"state", "[NAME]", 0, 1, State, "Prints a state of the list below, all of them without a name.",
      "state undo"},
     {"boxes", "", 0, 0, Boxes,
      "Prints how many message boxes there were since the last such line, and of each title, icon and text.",
      "boxes"},
+    {"shell", "", 0, 0, Shell,
+     "Prints what the program had the system do with files since the last such line: open, bin or delete, "
+     "whether the system asked, whether all was done, and the paths by their drives.",
+     "shell"},
     {"dump", "work|display|opened|canvas|window PATH", 2, 2, Dump,
      "Writes a picture as PPM, 24 bits: one of the edit images, what the canvas shows, or the window.",
      "dump work after.ppm"},

@@ -1,5 +1,7 @@
 #include "play/PlayHost.h"
 
+#include <algorithm>
+
 #include "play/ScriptedPlatform.h"
 #include "window/Marks.h"
 
@@ -49,6 +51,10 @@ CPlayHost::CPlayHost(CScriptedPlatform& platform, CDialog& dialog, CBitmaps* pBi
     m_dialog.Client().SetUp(pBitmaps, 1);
     m_dialog.Attach(this);
     for (const CControl& control : m_dialog.Controls().All()) {
+        if (CIconListModel* pIcons = IconsOf(control.nId); pIcons != nullptr) {
+            pIcons->Attach(this);
+            m_arrIcons.push_back(pIcons);
+        }
         CScrollView* pView = ViewOf(control.nId);
         if (pView == nullptr) continue;
         pView->Attach(this);
@@ -65,6 +71,7 @@ CPlayHost::~CPlayHost() {
         m_platform.Timers().KillAllOf(*pView);
         pView->Attach(nullptr);
     }
+    for (CIconListModel* pIcons : m_arrIcons) pIcons->Attach(nullptr);
     m_dialog.Attach(nullptr);
 }
 
@@ -77,6 +84,11 @@ void CPlayHost::Init() {
 CScrollView* CPlayHost::ViewOf(int nId) {
     const CControl* pControl = m_dialog.Controls().Find(nId);
     return pControl != nullptr && pControl->kind == EControlKind::View ? m_dialog.ViewOf(nId) : nullptr;
+}
+
+CIconListModel* CPlayHost::IconsOf(int nId) {
+    const CControl* pControl = m_dialog.Controls().Find(nId);
+    return pControl != nullptr && pControl->kind == EControlKind::IconList ? m_dialog.IconsOf(nId) : nullptr;
 }
 
 bool CPlayHost::Pump() {
@@ -109,12 +121,19 @@ std::string CPlayHost::Reach(int nId, const CControl*& pControl) const {
     return {};
 }
 
+void CPlayHost::TakeFocus(int nId) {
+    const CControl* pBefore = m_dialog.Controls().Find(m_dialog.Controls().Focus());
+    if (pBefore != nullptr && pBefore->kind == EControlKind::Edit && pBefore->nId != nId)
+        m_dialog.OnNotify(pBefore->nId, ENotice::TextDone);
+    m_dialog.Controls().SetFocus(nId);
+}
+
 std::string CPlayHost::Click(int nId) {
     const CControl* pControl = nullptr;
     if (std::string strWhy = Reach(nId, pControl); !strWhy.empty()) return strWhy;
     if (!IsPushed(pControl->kind) && pControl->kind != EControlKind::BitmapLabel)
         return std::string("control ") + std::to_string(nId) + " is nothing to click";
-    if (IsPushed(pControl->kind)) m_dialog.Controls().SetFocus(nId);
+    if (IsPushed(pControl->kind)) TakeFocus(nId);
     ClickMark(m_dialog.Controls(), nId);
     m_dialog.OnCommand(nId);
     return Done();
@@ -128,7 +147,7 @@ std::string CPlayHost::SelectRow(int nId, int nRow) {
     if (nRow < 0 || nRow >= nRows)
         return std::string("list ") + std::to_string(nId) + " has no row " + std::to_string(nRow) +
                ", only " + std::to_string(nRows) + " from 0 on";
-    m_dialog.Controls().SetFocus(nId);
+    TakeFocus(nId);
     if (pControl->nSel != nRow) {
         m_dialog.Controls().Select(nId, nRow);
         m_dialog.OnNotify(nId, ENotice::SelectionChanged);
@@ -145,7 +164,7 @@ std::string CPlayHost::MoveSlider(int nId, int nPos) {
     if (nPos < pControl->nMin || nPos > pControl->nMax)
         return std::string("the slider goes from ") + std::to_string(pControl->nMin) + " to " +
                std::to_string(pControl->nMax);
-    m_dialog.Controls().SetFocus(nId);
+    TakeFocus(nId);
     if (pControl->nPos != nPos) {
         m_dialog.Controls().SetPosition(nId, nPos);
         m_dialog.OnNotify(nId, ENotice::Scrolled);
@@ -158,7 +177,7 @@ std::string CPlayHost::Type(int nId, const std::string& strText) {
     if (std::string strWhy = Reach(nId, pControl); !strWhy.empty()) return strWhy;
     if (pControl->kind != EControlKind::Edit)
         return std::string("control ") + std::to_string(nId) + " takes no text";
-    m_dialog.Controls().SetFocus(nId);
+    TakeFocus(nId);
     const std::string strShort = Shorten(strText, pControl->nMaxText);
     if (pControl->strText != strShort) {
         m_dialog.Controls().SetText(nId, strShort);
@@ -181,15 +200,21 @@ std::string CPlayHost::ScrollView(int nId, CPoint pt) {
 
 std::string CPlayHost::Key(const CKeyEvent& event) {
     const bool bSwallowed = m_dialog.OnKey(event);
-    const bool bEnd = event.nKey == kKeyEnter || event.nKey == kKeyEscape;
-    if (!bSwallowed && bEnd) {
-        const int nId = event.nKey == kKeyEnter ? CDialog::kDialogOk : CDialog::kDialogCancel;
-        if (m_dialog.Controls().IsShown(nId) && m_dialog.Controls().IsEnabled(nId))
-            m_dialog.OnCommand(nId);
-        else if (event.nKey == kKeyEscape)
-            m_dialog.OnClose();
-    }
+    if (!bSwallowed) KeyToControl(event);
     return Done();
+}
+
+void CPlayHost::KeyToControl(const CKeyEvent& event) {
+    CIconListModel* pIcons = IconsOf(m_dialog.Controls().Focus());
+    if (pIcons != nullptr && pIcons->Sink() != nullptr && event.nKey != kKeyEscape)
+        return event.nKey == kKeyEnter ? pIcons->Sink()->OnEnter()
+                                       : pIcons->Sink()->OnKeyDown(event.nKey, event.bShift);
+    if (event.nKey != kKeyEnter && event.nKey != kKeyEscape) return;
+    const int nId = event.nKey == kKeyEnter ? CDialog::kDialogOk : CDialog::kDialogCancel;
+    if (m_dialog.Controls().IsShown(nId) && m_dialog.Controls().IsEnabled(nId))
+        m_dialog.OnCommand(nId);
+    else if (event.nKey == kKeyEscape)
+        m_dialog.OnClose();
 }
 
 // A button that is down already can go down again: its release was lost on a dialog that came up.
@@ -231,7 +256,7 @@ std::string CPlayHost::MouseOnView(int nId, EMouseAction action, EMouseButton bu
         m_dialog.OnHover(nId, (event.nFlags & kMouseLeftDown) != 0);
         Pump();
     }
-    if (action == EMouseAction::Press) m_dialog.Controls().SetFocus(nId);
+    if (action == EMouseAction::Press) TakeFocus(nId);
     pView->OnMouse(event);
     return Done();
 }

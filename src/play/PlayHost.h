@@ -5,7 +5,9 @@
 
 #include "window/Bitmaps.h"
 #include "window/Dialog.h"
+#include "window/IconListModel.h"
 #include "window/ScrollView.h"
+#include "window/TreeModel.h"
 
 class CScriptedPlatform;
 
@@ -14,7 +16,7 @@ class CScriptedPlatform;
 //
 // Operations of the hand return an empty text, or why the thing cannot be done. They return when the event
 // and all that it wanted painted are over.
-class CPlayHost : private CDialogHost, private CViewHost {
+class CPlayHost : private CDialogHost, private CViewHost, private CIconListObserver {
   public:
     // Both outlive the host, and so do the pictures, which may be null for a window without a skin. Nothing
     // of the dialog is called yet but Attach. As long as the host lives, the platform keeps the dialog
@@ -43,7 +45,8 @@ class CPlayHost : private CDialogHost, private CViewHost {
     // Replaces the text of an edit; what is beyond its most characters does not go in.
     [[nodiscard]] std::string Type(int nId, const std::string& strText);
     [[nodiscard]] std::string ScrollView(int nId, CPoint pt);
-    // A key that the dialog does not take means Ok and Cancel as in every dialog.
+    // A key that the dialog does not take goes to the list of icons that has the focus, or means Ok and
+    // Cancel as in every dialog.
     [[nodiscard]] std::string Key(const CKeyEvent& event);
     // pt in client pixels of the view in that control.
     [[nodiscard]] std::string MouseOnView(int nId, EMouseAction action, EMouseButton button, CPoint pt,
@@ -51,6 +54,26 @@ class CPlayHost : private CDialogHost, private CViewHost {
     // pt in client pixels of the dialog. A move may go anywhere; the rest only beside all controls.
     [[nodiscard]] std::string MouseOnWindow(EMouseAction action, EMouseButton button, CPoint pt,
                                             unsigned nKeys = 0);
+
+    // A click before an item of a tree, which opens or closes it. Only what is in sight can be clicked: all
+    // above it has to be open.
+    [[nodiscard]] std::string OpenItem(int nId, CTreeItem item) { return ToggleItem(nId, item, true); }
+    [[nodiscard]] std::string CloseItem(int nId, CTreeItem item) { return ToggleItem(nId, item, false); }
+    [[nodiscard]] std::string SelectItem(int nId, CTreeItem item);
+    // The child of that text, as far as the tree has been read; kNoTreeItem as parent looks among the top
+    // items. kNoTreeItem if there is none.
+    CTreeItem FindItem(int nId, CTreeItem parent, const std::string& strText);
+
+    // A left click in a list of icons, -1 for beside all of them: alone it selects just the item, with
+    // kMouseCtrl it adds or takes away one, with kMouseShift it selects all from the last one clicked.
+    [[nodiscard]] std::string ClickIcon(int nId, int nItem, unsigned nKeys = 0);
+    [[nodiscard]] std::string DoubleClickIcon(int nId, int nItem);
+    [[nodiscard]] std::string RightPressIcon(int nId, int nItem);
+    // Draws a rubber band that selects just these items, in their order.
+    [[nodiscard]] std::string BandIcons(int nId, const std::vector<int>& arrItems);
+    [[nodiscard]] std::string KeyInIcons(int nId, const CKeyEvent& event);
+    // -1 if the list has no item of that name.
+    int FindIcon(int nId, const std::string& strText);
 
     // The shown control that the mouse is over; null beside all of them.
     const CControl* ControlAt(CPoint pt) const;
@@ -61,8 +84,18 @@ class CPlayHost : private CDialogHost, private CViewHost {
     void OnDrawn() override {}
     void OnEnded() override {}
     void OnScrollChanged() override {}
+    void OnIconsReset() override { m_nAnchor = 0; }
+    void OnIconChanged(int /*nItem*/) override {}
+    void OnIconsSelected() override {}
 
     std::string Reach(int nId, const CControl*& pControl) const;
+    std::string ReachItem(int nId, CTreeItem item, CTreeModel*& pTree);
+    std::string ReachIcons(int nId, int nItem, CIconListModel*& pIcons);
+    CIconListModel* IconsOf(int nId);
+    std::string ToggleItem(int nId, CTreeItem item, bool bOpen);
+    // The hand puts the focus there, which ends the typing elsewhere.
+    void TakeFocus(int nId);
+    void KeyToControl(const CKeyEvent& event);
     CMouseEvent MakeEvent(EMouseAction action, EMouseButton button, CPoint pt, unsigned nKeys);
     std::string CheckButton(EMouseAction action, EMouseButton button) const;
     std::string Done();
@@ -70,7 +103,9 @@ class CPlayHost : private CDialogHost, private CViewHost {
     CScriptedPlatform& m_platform;
     CDialog& m_dialog;
     std::vector<CScrollView*> m_arrViews;
+    std::vector<CIconListModel*> m_arrIcons;
     unsigned m_nHeld = 0;  // mouse buttons that are down, as flags
+    int m_nAnchor = 0;     // the icon from which a click with shift selects
     int m_nPaints = 0;
     bool m_bInit = false;
 };

@@ -7,7 +7,9 @@
 
 #include "play/ScriptedPlatform.h"
 
+struct CMachine;
 struct CStage;
+struct CVerb;
 
 // Plays scripts: starts the program as it always starts, does line by line what the script says, and closes
 // it. Time passes only as the script says, and for the start-up picture not at all.
@@ -24,8 +26,19 @@ class CPlayer {
     bool Play(std::istream& script, const std::string& strScript);
 
   private:
-    bool PlayLines(CPlayHost& host, std::istream& script, const std::string& strScript);
+    // The lines of a script, one at a time.
+    struct CScript {
+        std::istream& stream;
+        const std::string& strName;
+        std::string strLine{};
+        int nLine = 0;
+        bool bLine = true;  // strLine is one that is still to be done
+        void Next();
+    };
+    bool SetUp(CMachine& machine, CScript& script);
+    bool PlayLines(CMachine& machine, CPlayHost& host, CScript& script);
     std::string PlayLine(CStage& stage, const std::string& strLine) const;
+    bool Report(const CScript& script, const std::string& strWhy);
     std::string FindProblem() const;
     bool ReportWaiting(const std::string& strScript);
 

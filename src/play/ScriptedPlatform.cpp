@@ -29,7 +29,8 @@ CScriptedPlatform::~CScriptedPlatform() {
 }
 
 CPlatform CScriptedPlatform::Get() {
-    return {*this, *this, *this, *this, *this, *this, m_timers, *this, *this, *this, *this};
+    return {*this, *this, *this, *this, *this, *this, m_timers,
+            *this, *this, *this, *this, *this, *this, *this};
 }
 
 // One entry for each dialog of the program's own that a user of this platform can work through.
@@ -38,6 +39,23 @@ void CScriptedPlatform::AddRunners() {
         while (!host.Dialog().HasEnded() && host.Platform().Timers().AdvanceToNext()) {
         }
     });
+    SetRunner(kDlgSize, [this](CPlayHost& host) { RunSize(host); });
+}
+
+// Types what the answer has, with the ratio kept or not, and clicks Ok.
+void CScriptedPlatform::RunSize(CPlayHost& host) {
+    const std::optional<CAnswer> answer = TakeAnswer(EQuestion::Size);
+    if (!answer) return;
+    std::string strWhy;
+    const auto fnDo = [&strWhy](const std::string& strStep) {
+        if (strWhy.empty()) strWhy = strStep;
+    };
+    if (host.Dialog().Controls().IsChecked(kSizeKeepRatio) != answer->bKeepRatio)
+        fnDo(host.Click(kSizeKeepRatio));
+    if (answer->strWidth) fnDo(host.Type(kSizeWidth, *answer->strWidth));
+    if (answer->strHeight) fnDo(host.Type(kSizeHeight, *answer->strHeight));
+    fnDo(host.Click(kSizeOk));
+    if (!strWhy.empty()) m_arrProblems.push_back({EProblem::Impossible, strWhy});
 }
 
 void CScriptedPlatform::PaintAll() {
@@ -76,9 +94,16 @@ void CScriptedPlatform::AnswerFont(const std::string& strFace, bool bBold) {
     Answer(std::move(answer));
 }
 
-void CScriptedPlatform::AnswerSize(CSize size) {
+void CScriptedPlatform::AnswerSize(const std::string& strWidth, const std::string& strHeight) {
     CAnswer answer = AnswerTo(EQuestion::Size);
-    answer.size = size;
+    answer.strWidth = strWidth;
+    answer.strHeight = strHeight;
+    Answer(std::move(answer));
+}
+
+void CScriptedPlatform::AnswerDelete(bool bDelete) {
+    CAnswer answer = AnswerTo(EQuestion::Delete);
+    answer.bDelete = bDelete;
     Answer(std::move(answer));
 }
 
@@ -120,6 +145,9 @@ std::vector<CAsked> CScriptedPlatform::TakeAsked() {
 }
 std::vector<CProblem> CScriptedPlatform::TakeProblems() {
     return std::exchange(m_arrProblems, {});
+}
+std::vector<CShellAct> CScriptedPlatform::TakeShellActs() {
+    return std::exchange(m_arrShellActs, {});
 }
 
 // --- questions ---

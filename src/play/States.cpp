@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "play/Words.h"
 #include "resources/Ids.h"
 
 namespace {
@@ -15,47 +14,73 @@ std::string Pair(CSize size) {
     return std::to_string(size.cx) + " " + std::to_string(size.cy);
 }
 
-std::string Mode(CMainDlg& dialog) {
+std::string Mode(const CStage& stage) {
     constexpr std::array kNames = {"THUM", "DRAW", "EFFECT", "FONT", "STICK"};
-    const int nMode = dialog.State().m_nMode;
+    const int nMode = stage.dialog.State().m_nMode;
     return std::to_string(nMode) + " " + kNames.at(static_cast<std::size_t>(nMode));
 }
 
-std::string Work(CMainDlg& dialog) {
-    const auto& pImage = dialog.Images().m_pImgWork;
+std::string Work(const CStage& stage) {
+    const auto& pImage = stage.dialog.Images().m_pImgWork;
     return pImage ? Pair(pImage->GetSize()) : "none";
 }
 
-std::string Image(CMainDlg& dialog) {
-    const auto& pImage = dialog.Images().m_pImgDisplay;
-    return pImage ? Flag(dialog.State().m_bImageOpen) + " " + Pair(pImage->GetSize()) : "0";
+std::string Image(const CStage& stage) {
+    const auto& pImage = stage.dialog.Images().m_pImgDisplay;
+    return pImage ? Flag(stage.dialog.State().m_bImageOpen) + " " + Pair(pImage->GetSize()) : "0";
+}
+
+std::string FileList(const CStage& stage) {
+    CPicFileList& list = stage.dialog.Thum().List();
+    const int nFolders = list.FolderCount();
+    return std::to_string(nFolders) + " " + std::to_string(list.Model().Count() - nFolders) + " " +
+           Quote(stage.platform.OnDrive(list.Path()));
+}
+
+std::string Selected(const CStage& stage) {
+    const CIconListModel& model = stage.dialog.Thum().List().Model();
+    std::string strText = std::to_string(model.SelectedCount());
+    for (const int nItem : model.SelectedItems()) strText.append(1, ' ').append(Quote(model.Text(nItem)));
+    return strText;
 }
 
 constexpr CStateEntry kStates[] = {
     {"mode", Mode, "The active mode and its name."},
-    {"undo", [](CMainDlg& d) { return std::to_string(d.Images().m_stackUndo.Count()); }, "Steps back."},
-    {"redo", [](CMainDlg& d) { return std::to_string(d.Images().m_stackRedo.Count()); }, "Steps forward."},
-    {"disp", [](CMainDlg& d) { return Pair(d.Images().DisplaySize()); }, "The display size."},
+    {"undo", [](const CStage& s) { return std::to_string(s.dialog.Images().m_stackUndo.Count()); },
+     "Steps back."},
+    {"redo", [](const CStage& s) { return std::to_string(s.dialog.Images().m_stackRedo.Count()); },
+     "Steps forward."},
+    {"disp", [](const CStage& s) { return Pair(s.dialog.Images().DisplaySize()); }, "The display size."},
     {"work", Work, "Width and height of the working image, or none."},
     {"image", Image, "Whether a picture is open; if so, width and height of it as it is shown."},
-    {"tool", [](CMainDlg& d) { return std::to_string(d.Tools().CurrentTool()); }, "The paint tool, 1 to 16."},
-    {"zoom", [](CMainDlg& d) { return std::to_string(d.Tools().Zoom()); }, "The zoom of DRAW: 1, 2, 4 or 6."},
-    {"frame", [](CMainDlg& d) { return Flag(d.Images().m_bFrameOn); },
+    {"tool", [](const CStage& s) { return std::to_string(s.dialog.Tools().CurrentTool()); },
+     "The paint tool, 1 to 16."},
+    {"zoom", [](const CStage& s) { return std::to_string(s.dialog.Tools().Zoom()); },
+     "The zoom of DRAW: 1, 2, 4 or 6."},
+    {"frame", [](const CStage& s) { return Flag(s.dialog.Images().m_bFrameOn); },
      "Whether a frame lies on the picture."},
-    {"pending", [](CMainDlg& d) { return Flag(d.State().m_bEffectPending); },
+    {"pending", [](const CStage& s) { return Flag(s.dialog.State().m_bEffectPending); },
      "Whether an effect's preview waits for CONFIRM."},
-    {"float", [](CMainDlg& d) { return Flag(d.Canvas().IsFloating()); },
+    {"float", [](const CStage& s) { return Flag(s.dialog.Canvas().IsFloating()); },
      "Whether a selection floats over the picture."},
     // Cut is on for as long as something is selected, and never otherwise.
-    {"selection", [](CMainDlg& d) { return Flag(d.Controls().IsEnabled(kCmdCut)); },
+    {"selection", [](const CStage& s) { return Flag(s.dialog.Controls().IsEnabled(kCmdCut)); },
      "Whether something is selected to cut or copy."},
-    {"connected", [](CMainDlg& d) { return Flag(d.Link().IsConnected()); },
+    {"connected", [](const CStage& s) { return Flag(s.dialog.Link().IsConnected()); },
      "Whether the phone is connected."},
-    {"sizerule", [](CMainDlg& d) { return std::string(d.Images().m_bPhoneSize ? "phone" : "image"); },
+    {"sizerule",
+     [](const CStage& s) { return std::string(s.dialog.Images().m_bPhoneSize ? "phone" : "image"); },
      "Which size rules, the picture's or the phone's."},
-    {"path", [](CMainDlg& d) { return Quote(d.State().m_strFilePath); }, "Path of the file that was opened."},
-    {"name", [](CMainDlg& d) { return Quote(d.State().m_strFileName); }, "Name of the picture."},
-    {"focus", [](CMainDlg& d) { return std::to_string(d.Controls().Focus()); },
+    {"tree", [](const CStage& s) { return Quote(s.platform.OnDrive(s.dialog.Thum().Tree().CurrentPath())); },
+     "The folder that the tree stands on, by its drive."},
+    {"list", FileList, "Folders and files in the list, and the folder that it shows."},
+    {"selected", Selected, "How many items of the list are selected, and their names."},
+    {"banded", [](const CStage& s) { return std::to_string(s.dialog.Thum().List().SelectedWhilePressed()); },
+     "How many were when the mouse last moved over the list with the left button down."},
+    {"path", [](const CStage& s) { return Quote(s.dialog.State().m_strFilePath); },
+     "Path of the file that was opened."},
+    {"name", [](const CStage& s) { return Quote(s.dialog.State().m_strFileName); }, "Name of the picture."},
+    {"focus", [](const CStage& s) { return std::to_string(s.dialog.Controls().Focus()); },
      "The control with the keyboard focus, 0 for none."},
 };
 

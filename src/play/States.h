@@ -3,12 +3,12 @@
 #include <span>
 #include <string>
 
-#include "app/MainDlg.h"
+#include "play/Verbs.h"
 
 // One thing about the program that a script can ask for by name. Texts come quoted, flags as 0 and 1.
 struct CStateEntry {
     const char* szName;
-    std::string (*pValue)(CMainDlg& dialog);
+    std::string (*pValue)(const CStage& stage);
     const char* szHelp;
 };
 

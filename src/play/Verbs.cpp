@@ -3,7 +3,8 @@
 #include <algorithm>
 
 const CVerb* FindVerb(const std::string& strName) {
-    for (const std::span<const CVerb> arrVerbs : {HandVerbs(), AnswerVerbs(), LookVerbs()}) {
+    for (const std::span<const CVerb> arrVerbs :
+         {MachineVerbs(), HandVerbs(), BrowseVerbs(), AnswerVerbs(), LookVerbs()}) {
         const auto it = std::find_if(arrVerbs.begin(), arrVerbs.end(),
                                      [&](const CVerb& verb) { return strName == verb.szName; });
         if (it != arrVerbs.end()) return &*it;

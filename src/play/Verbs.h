@@ -10,11 +10,9 @@
 #include "play/ScriptedPlatform.h"
 #include "play/Words.h"
 
-// What a line of a script works on.
-struct CStage {
+// What a line of a script can work on before the program has started.
+struct CMachine {
     CScriptedPlatform& platform;
-    CPlayHost& host;
-    CMainDlg& dialog;
     std::ostream& out;
     // Where the process stood at its start: paths of scripts count from there, wherever dialogs have led.
     std::filesystem::path pathStart;
@@ -26,8 +24,16 @@ struct CStage {
     }
 };
 
-// One verb of the scripts. The handler gets the words behind the verb, as many as nMin to nMax say, and
-// returns why the line cannot be done, or an empty text.
+// And behind the start.
+struct CStage : CMachine {
+    CStage(const CMachine& machine, CPlayHost& hostMain, CMainDlg& dialogMain)
+        : CMachine(machine), host(hostMain), dialog(dialogMain) {}
+    CPlayHost& host;
+    CMainDlg& dialog;
+};
+
+// One verb of the scripts. Its handler gets the words behind the verb, as many as nMin to nMax say, and
+// returns why the line cannot be done, or an empty text. A verb has one of the two handlers.
 struct CVerb {
     const char* szName;
     const char* szWords;  // what stands behind the name, for the help
@@ -36,10 +42,15 @@ struct CVerb {
     std::string (*pHandler)(CStage& stage, const CWords& arrWords);
     const char* szHelp;
     const char* szExample;
+    // Can also be done before the program has started.
+    std::string (*pSetUp)(CMachine& machine, const CWords& arrWords) = nullptr;
 };
 
-// The verbs by what they are: the user's hands, the answers to questions, the looks at what has become.
+// The verbs by what they are: what the machine has, the user's hands, the same in tree and list, the answers
+// to questions, the looks at what has become.
+std::span<const CVerb> MachineVerbs();
 std::span<const CVerb> HandVerbs();
+std::span<const CVerb> BrowseVerbs();
 std::span<const CVerb> AnswerVerbs();
 std::span<const CVerb> LookVerbs();
 

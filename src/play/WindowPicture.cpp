@@ -4,6 +4,8 @@
 
 #include "image/Image.h"
 #include "resources/Ids.h"
+#include "window/IconListModel.h"
+#include "window/TreeModel.h"
 
 namespace {
 
@@ -16,7 +18,16 @@ constexpr CColor kPaper{245, 247, 244};
 constexpr CColor kFace{214, 220, 214};
 constexpr CColor kRim{64, 74, 78};
 constexpr CColor kMark{232, 143, 54};
+constexpr CColor kInk{40, 46, 48};
 constexpr int kThumb = 12;
+// The list of icons: cells in rows from the left, each with its name below.
+constexpr int kCell = 110;
+constexpr CSize kCellPitch{130, 150};
+constexpr int kNameHeight = 12;
+// The tree: one item a row, each level further in.
+constexpr int kTreeRow = 16;
+constexpr int kTreeIndent = 19;
+constexpr int kCharacter = 6;
 
 class CComposer {
   public:
@@ -35,6 +46,10 @@ class CComposer {
     void DrawMark(const CControl& control);
     void DrawShare(const CControl& control);
     void DrawView(const CControl& control);
+    void DrawIcons(const CControl& control);
+    void DrawTree(const CControl& control);
+    void DrawBranch(const CRect& rcTree, const CTreeModel& tree, CTreeItem parent, CPoint& pt);
+    void DrawName(const CRect& rcClip, const std::string& strName, CPoint pt, bool bSelected);
     bool DrawBitmap(const std::string& strName, const CControl& control);
     void DrawBox(const CRect& rc, CColor color) {
         m_surface.FillRect(rc, color);
@@ -87,6 +102,54 @@ void CComposer::DrawShare(const CControl& control) {
     DrawBox({rc.left, nTop, rc.right, nTop + kThumb}, kMark);
 }
 
+// A text is a bar as long as the text, on a mark where it is selected.
+void CComposer::DrawName(const CRect& rcClip, const std::string& strName, CPoint pt, bool bSelected) {
+    const auto nLength = std::min<std::size_t>(strName.size(), kCell / kCharacter);
+    const int nWidth = static_cast<int>(nLength) * kCharacter;
+    const CRect rc = CRect::FromPlace(pt.x, pt.y, nWidth, kNameHeight);
+    if (bSelected) m_surface.FillRect(rc.Intersect(rcClip), kMark);
+    const CRect rcInk{rc.left + 2, rc.top + 4, rc.right - 2, rc.bottom - 4};
+    m_surface.FillRect(rcInk.Intersect(rcClip), bSelected ? kPaper : kInk);
+}
+
+// From the top of the list; what does not fit is not drawn.
+void CComposer::DrawIcons(const CControl& control) {
+    const CRect& rc = control.rcPlace;
+    m_surface.FillRect(rc, kListGround);
+    const CIconListModel* pIcons = m_host.Dialog().IconsOf(control.nId);
+    if (pIcons == nullptr) return;
+    const int nColumns = std::max(1, rc.Width() / kCellPitch.cx);
+    for (int i = 0; i < pIcons->Count(); ++i) {
+        const CPoint pt{rc.left + (kCellPitch.cx - kCell) / 2 + i % nColumns * kCellPitch.cx,
+                        rc.top + 2 + i / nColumns * kCellPitch.cy};
+        if (pt.y + kCellPitch.cy > rc.bottom) break;
+        if (!pIcons->Picture(i).IsEmpty()) m_surface.DrawPixels(pIcons->Picture(i), pt.x, pt.y);
+        DrawName(rc, pIcons->Text(i), {pt.x, pt.y + kCell + 4}, pIcons->IsSelected(i));
+    }
+}
+
+void CComposer::DrawBranch(const CRect& rcTree, const CTreeModel& tree, CTreeItem parent, CPoint& pt) {
+    for (const CTreeItem item : tree.Children(parent)) {
+        if (pt.y + kTreeRow > rcTree.bottom) return;
+        if (tree.HasChildrenMark(item))
+            DrawBox(CRect::FromPlace(pt.x, pt.y + 4, 9, 9).Intersect(rcTree),
+                    tree.IsExpanded(item) ? kPaper : kMark);
+        DrawName(rcTree, tree.Text(item), {pt.x + kTreeIndent, pt.y + 2}, tree.Selected() == item);
+        pt.y += kTreeRow;
+        if (!tree.IsExpanded(item)) continue;
+        pt.x += kTreeIndent;
+        DrawBranch(rcTree, tree, item, pt);
+        pt.x -= kTreeIndent;
+    }
+}
+
+void CComposer::DrawTree(const CControl& control) {
+    m_surface.FillRect(control.rcPlace, kPaper);
+    const CTreeModel* pTree = m_host.Dialog().TreeOf(control.nId);
+    CPoint pt{control.rcPlace.left + 2, control.rcPlace.top + 2};
+    if (pTree != nullptr) DrawBranch(control.rcPlace, *pTree, kNoTreeItem, pt);
+}
+
 void CComposer::DrawView(const CControl& control) {
     m_surface.FillRect(control.rcPlace, kBarGround);
     const CScrollView* pView = m_host.ViewOf(control.nId);
@@ -118,10 +181,11 @@ void CComposer::Draw(const CControl& control) {
         case EControlKind::Combo:
             return DrawBox(control.rcPlace, kPaper);
         case EControlKind::PictureList:
-        case EControlKind::IconList:
             return m_surface.FillRect(control.rcPlace, kListGround);
+        case EControlKind::IconList:
+            return DrawIcons(control);
         case EControlKind::Tree:
-            return m_surface.FillRect(control.rcPlace, kPaper);
+            return DrawTree(control);
         case EControlKind::Slider:
         case EControlKind::Progress:
             return DrawShare(control);

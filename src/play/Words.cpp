@@ -74,6 +74,13 @@ std::optional<int> ParseNumber(std::string_view strWord) {
     return n;
 }
 
+std::optional<char> ParseLetter(std::string_view strWord) {
+    if (strWord.size() != 1) return std::nullopt;
+    const char c =
+        strWord[0] >= 'a' && strWord[0] <= 'z' ? static_cast<char>(strWord[0] - 'a' + 'A') : strWord[0];
+    return c >= 'A' && c <= 'Z' ? std::optional(c) : std::nullopt;
+}
+
 std::optional<CColor> ParseColor(std::string_view strWord) {
     if (strWord.size() != 6) return std::nullopt;
     unsigned n = 0;

@@ -22,6 +22,8 @@ bool SplitWords(std::string_view strLine, CWords& arrWords);
 std::string Quote(std::string_view strText);
 
 std::optional<int> ParseNumber(std::string_view strWord);
+// A letter of a drive, in upper case.
+std::optional<char> ParseLetter(std::string_view strWord);
 // RRGGBB
 std::optional<CColor> ParseColor(std::string_view strWord);
 // ctrl+shift+KEY, either or none in front; KEY is a letter, a digit, enter, esc or delete. Case does not

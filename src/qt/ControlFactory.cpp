@@ -4,6 +4,7 @@
 #include "qt/BitmapLabel.h"
 #include "qt/ComboWidget.h"
 #include "qt/EditWidget.h"
+#include "qt/IconListWidget.h"
 #include "qt/ListWidget.h"
 #include "qt/MarkBox.h"
 #include "qt/PlainButton.h"
@@ -35,8 +36,9 @@ std::unique_ptr<CControlWidget> CreateControlWidget(const CControlContext& conte
         case EControlKind::Combo:
             return std::make_unique<CComboWidget>(context);
         case EControlKind::PictureList:
-        case EControlKind::IconList:
             return std::make_unique<CListWidget>(context);
+        case EControlKind::IconList:
+            return std::make_unique<CIconListWidget>(context);
         case EControlKind::Tree:
             return std::make_unique<CTreeWidget>(context);
         case EControlKind::Slider:

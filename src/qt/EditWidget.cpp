@@ -7,7 +7,7 @@
 
 namespace {
 
-// On the main window's skin the well around the line is drawn already.
+// On a ground of the skin the well around the line is drawn already.
 constexpr char kSkinStyle[] =
     "QLineEdit { border: none; background: #f5f7f4; color: #222a28; padding: 0 2px;"
     " selection-background-color: #e88f36; selection-color: #ffffff; }";
@@ -21,13 +21,18 @@ constexpr char kStyle[] =
 }  // namespace
 
 CEditWidget::CEditWidget(const CControlContext& context) : QLineEdit(context.pParent), m_context(context) {
-    setStyleSheet(context.dialog.Template().nId == kDlgMain ? kSkinStyle : kStyle);
+    const int nDialog = context.dialog.Template().nId;
+    setStyleSheet(nDialog == kDlgMain || nDialog == kDlgSize ? kSkinStyle : kStyle);
     setFont(MapFont({}, context.control.rcPlace.Height() < 18 ? 12 : 13));
     if (context.control.nMaxText > 0) setMaxLength(context.control.nMaxText);
     setText(ToQt(context.control.strText));
     connect(this, &QLineEdit::textEdited, this, [this](const QString& str) {
         m_context.dialog.Controls().SetText(m_context.control.nId, FromQt(str));
         m_context.dialog.OnNotify(m_context.control.nId, ENotice::TextChanged);
+    });
+    connect(this, &QLineEdit::editingFinished, this, [this] {
+        // The end of a dialog takes the focus away too.
+        if (!m_context.dialog.HasEnded()) m_context.dialog.OnNotify(m_context.control.nId, ENotice::TextDone);
     });
 }
 

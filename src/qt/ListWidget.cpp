@@ -22,11 +22,6 @@ CListWidget::CListWidget(const CControlContext& context) : QListView(context.pPa
     setModel(&m_model);
     setEditTriggers(NoEditTriggers);
     setUniformItemSizes(true);
-    if (context.control.kind == EControlKind::IconList) {
-        setViewMode(IconMode);
-        setMovement(Static);
-        setResizeMode(Adjust);
-    }
     FillModel();
     connect(this, &QListView::clicked, this,
             [this] { m_context.dialog.OnNotify(m_context.control.nId, ENotice::Clicked); });

@@ -5,8 +5,7 @@
 
 #include "qt/ControlWidget.h"
 
-// A list of pictures: one below the other, or, for a control of kind IconList, side by side with their names
-// below.
+// A list of pictures, one below the other.
 class CListWidget : public QListView, public CControlWidget {
   public:
     explicit CListWidget(const CControlContext& context);

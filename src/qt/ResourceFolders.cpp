@@ -14,5 +14,5 @@ std::string SkinFolder() {
 }
 
 std::string SampleFolder() {
-    return ShareFolder() + "/samples";
+    return ShareFolder() + "/drive/ZEFA肖像";
 }

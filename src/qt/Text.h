@@ -22,3 +22,14 @@ inline QString PathToQt(const std::string& strPath) {
 inline std::string PathFromQt(const QString& strPath) {
     return QFile::encodeName(strPath).toStdString();
 }
+
+// The name of a file to be shown: bytes that are no valid text become replacement signs, what would break the
+// line becomes a blank.
+inline QString NameToQt(std::string_view str) {
+    QString strName = ToQt(str);
+    for (QChar& c : strName)
+        if (c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
+            c.category() == QChar::Separator_Paragraph)
+            c = u' ';
+    return strName;
+}

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeView>
@@ -33,8 +34,13 @@ QWidget* CPerson::Asking() const {
     return dynamic_cast<CDialogView*>(pModal) != nullptr ? nullptr : pModal;
 }
 
+CDialogView* CPerson::TopDialog() const {
+    auto* pTop = dynamic_cast<CDialogView*>(QApplication::activeModalWidget());
+    return pTop != nullptr ? pTop : MainWindow();
+}
+
 QWidget* CPerson::Widget(int nId) const {
-    const CDialogView* pWindow = MainWindow();
+    const CDialogView* pWindow = TopDialog();
     return pWindow == nullptr ? nullptr : pWindow->WidgetOf(nId);
 }
 
@@ -116,8 +122,11 @@ void CPerson::TypeFileName(const QString& strName) {
         m_strFault = QStringLiteral("no file dialog to type a name into");
         return;
     }
+    // As an input method gives what it has made of the keys.
     pName->selectAll();
-    QTest::keyClicks(pName, strName);
+    QInputMethodEvent event;
+    event.setCommitString(strName);
+    QApplication::sendEvent(pName, &event);
 }
 
 void CPerson::TakeFile() {

@@ -4,9 +4,12 @@
 #include <QModelIndex>
 #include <QPoint>
 #include <QString>
+#include <QStringList>
 
 class CDialogView;
+class QAbstractItemView;
 class QFileDialog;
+class QListView;
 class QTreeView;
 class QWidget;
 
@@ -17,6 +20,8 @@ class CPerson {
     // The window of the dialog with that number that is up; null if there is none.
     CDialogView* FindWindow(int nDialog) const;
     CDialogView* MainWindow() const;
+    // The dialog that is on top: the main window as long as no other is up.
+    CDialogView* TopDialog() const;
     QFileDialog* FileDialog() const;
     // A message box, or any other window of the toolkit's own that waits for an answer; null if there is
     // none.
@@ -30,6 +35,27 @@ class CPerson {
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     // Presses the button with that caption in the window that asks.
     void Answer(const QString& strCaption);
+
+    // What the window that asks says.
+    QString AskedText() const;
+
+    // In the folder tree, by names that are seen in it.
+    void ClickTree(const QString& strName);
+    void OpenTree(const QString& strName);
+    bool SeesTreeItem(const QString& strName) const;
+    QString TreeSelection() const;
+
+    // In the list of photographs.
+    void ClickItem(const QString& strName, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void DoubleClickItem(const QString& strName);
+    void KeyInList(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    QStringList ListedNames() const;
+    QStringList SelectedNames() const;
+    QImage LookAtItem(const QString& strName) const;
+
+    // In a line of text of the dialog on top: what stands there is replaced.
+    void TypeOver(int nId, const QString& strText);
+    QString TypedIn(int nId) const;
 
     // In the file dialog: whether the list shows the file, a click on it, a name typed in the name line, and
     // the button that takes it.
@@ -51,6 +77,12 @@ class CPerson {
   private:
     QModelIndex FileRow(const QString& strName, QTreeView*& pList) const;
     QWidget* Widget(int nId) const;
+    QModelIndex TreeItem(const QString& strName) const;
+    QModelIndex ListItem(const QString& strName) const;
+    // The middle of a row of one of them, brought into view; a fault if there is none.
+    QPoint Aim(QAbstractItemView* pView, const QModelIndex& index, const QString& strName);
+    QListView* List() const;
+    QTreeView* Tree() const;
 
     QString m_strFault;
 };

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QWidget>
 #include <algorithm>
+#include <cstdlib>
 #include <unordered_set>
 #include <vector>
 
@@ -58,4 +59,18 @@ int CountColors(const QImage& image, int nLimit) {
 
 bool Differs(const QImage& imageA, const QImage& imageB) {
     return imageA != imageB;
+}
+
+double Distance(const QImage& imageA, const QImage& imageB) {
+    if (imageA.size() != imageB.size() || imageA.isNull()) return 255;
+    qint64 nSum = 0;
+    for (int y = 0; y < imageA.height(); ++y) {
+        for (int x = 0; x < imageA.width(); ++x) {
+            const QRgb a = imageA.pixel(x, y);
+            const QRgb b = imageB.pixel(x, y);
+            nSum +=
+                std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+        }
+    }
+    return static_cast<double>(nSum) / (3.0 * imageA.width() * imageA.height());
 }

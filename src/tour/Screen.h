@@ -11,3 +11,7 @@ int CountColors(const QImage& image, int nLimit);
 
 // True if any pixel of both pictures differs, or their sizes do.
 bool Differs(const QImage& imageA, const QImage& imageB);
+
+// How far the colours of two pictures of one size lie apart, on average over all pixels and channels, 0 to
+// 255. 255 if the sizes differ.
+double Distance(const QImage& imageA, const QImage& imageB);

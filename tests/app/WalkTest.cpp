@@ -1,69 +1,13 @@
 // A long walk of random commands, held against a plain model of the edit.
 
 #include <array>
+#include <filesystem>
 #include <random>
 
+#include "app/WalkModel.h"
 #include "app/Workshop.h"
 
 namespace {
-
-// What an edit holds, in the plainest form: values, copied whole.
-struct CModel {
-    struct CStep {
-        CPixels work;
-        CSize sizeDisplay;
-        bool bPhone = false;
-    };
-    bool bOpen = false;
-    CStep now;
-    CPixels opened;
-    std::vector<CStep> arrUndo, arrRedo;
-
-    CSize Ruled() const { return now.bPhone ? CSize{176, 144} : now.sizeDisplay; }
-    void Push(std::vector<CStep>& arrSteps) const {
-        arrSteps.push_back({now.work, Ruled(), now.bPhone});
-        if (arrSteps.size() > 10) arrSteps.erase(arrSteps.begin());
-    }
-    void Begin() {
-        Push(arrUndo);
-        arrRedo.clear();
-    }
-    void Step(std::vector<CStep>& arrFrom, std::vector<CStep>& arrTo) {
-        if (!bOpen || arrFrom.empty()) return;
-        Push(arrTo);
-        now = arrFrom.back();
-        arrFrom.pop_back();
-    }
-    void Undo() { Step(arrUndo, arrRedo); }
-    void Redo() { Step(arrRedo, arrUndo); }
-    void Reset() {
-        if (!bOpen) return;
-        Begin();
-        now.work = opened;
-        now.sizeDisplay = {opened.Width(), opened.Height()};
-    }
-    void SetRule(bool bPhone) {
-        if (bOpen) Begin();
-        now.bPhone = bPhone;
-    }
-    void Start(const CPixels& pixels) {
-        bOpen = true;
-        opened = now.work = pixels;
-        arrUndo.clear();
-        arrRedo.clear();
-    }
-    void Open(const CPixels& pixels) {
-        Start(pixels);
-        now.sizeDisplay = {pixels.Width(), pixels.Height()};
-        now.bPhone = false;
-    }
-    void New() {
-        if (!bOpen) now.sizeDisplay = {640, 480};
-        CPixels page;
-        page.CreateFilled(Ruled().cx, Ruled().cy, {255, 255, 255});
-        Start(page);
-    }
-};
 
 constexpr std::array<CSize, 4> kSizes = {{{60, 40}, {23, 71}, {700, 30}, {1, 1}}};
 
@@ -73,6 +17,10 @@ class WalkTest : public Workshop {
         for (std::size_t n = 0; n < kSizes.size(); ++n)
             SavePicture(NameOfPicture(n), NumberedImage(kSizes[n].cx, kSizes[n].cy));
         m_folder.Write("bad.jpg", "no picture");
+        m_platform.AddDrive('C', m_folder.Path());
+        std::filesystem::create_directory(m_folder.Path("bin"));
+        m_platform.SetBin(m_folder.Path("bin"));
+        for (int n = 0; n < 20; ++n) Grow();
     }
 
     static std::string NameOfPicture(std::size_t n) { return std::to_string(n) + ".png"; }
@@ -97,7 +45,7 @@ class WalkTest : public Workshop {
         } else {
             m_dialog.OpenFileByName(m_folder.Path(), strName);
         }
-        if (nKind == 0) m_platform.TakeBoxes();
+        if (nKind == 0) ++m_nBoxes;
         if (nKind > 1) m_model.Open(NumberedPixels(kSizes[n].cx, kSizes[n].cy));
     }
 
@@ -110,6 +58,8 @@ class WalkTest : public Workshop {
     }
 
     void Act() {
+        if (State().m_bThumbMode && Pick(3) > 0) return Browse();
+        if (Pick(4) == 0) return Shape();
         switch (Pick(14)) {
             case 0:
                 if (TryClick(kCmdNew)) m_model.New();
@@ -149,14 +99,194 @@ class WalkTest : public Workshop {
         }
     }
 
+    bool MenuComesUp() const {
+        const CEditState& state = State();
+        if (!state.m_bImageOpen || state.m_bThumbMode || state.m_bFontMode || state.m_bDrawMode) return false;
+        return !state.m_bStickMode || Images().m_bImageSize;
+    }
+    // A command of shape and size, by its button or from the menu. False if nobody could give it.
+    bool Give(int nButton, int nMenuItem) {
+        if (Pick(2) == 0) return TryClick(nButton);
+        if (!MenuComesUp()) return false;
+        m_platform.AnswerMenu(nMenuItem);
+        EXPECT_EQ(m_host.MouseOnView(kCanvas, EMouseAction::Press, EMouseButton::Right, {3, 3}), "");
+        return true;
+    }
+    void Shape() {
+        const int nSide = Pick(8) == 0 ? 3150 + Pick(100) : 10 + Pick(300);
+        const CSize size{Pick(2) ? nSide : 10 + Pick(300), 10 + Pick(300)};
+        bool bDone = true;
+        switch (Pick(8)) {
+            case 0:
+                if (Give(kCmdFlipVertical, kMenuFlipVertical)) m_model.Flip(true);
+                break;
+            case 1:
+                if (Give(kCmdFlipHorizontal, kMenuFlipHorizontal)) m_model.Flip(false);
+                break;
+            case 2:
+                if (Give(kCmdTurnLeft, kMenuTurnLeft)) bDone = m_model.Turn(false);
+                break;
+            case 3:
+                if (Give(kCmdTurnRight, kMenuTurnRight)) bDone = m_model.Turn(true);
+                break;
+            case 4:
+                m_platform.AnswerSize(size);
+                if (Give(kCmdSize, kMenuSize)) bDone = m_model.Size(size);
+                m_platform.ForgetAnswers();
+                break;
+            case 5:
+                if (Give(kCmdLarge, kMenuLarge)) bDone = m_model.Zoom(true);
+                break;
+            case 6:
+                if (Give(kCmdSmall, kMenuSmall)) bDone = m_model.Zoom(false);
+                break;
+            default:
+                if (Give(kCmdActual, kMenuActual)) bDone = m_model.Actual();
+        }
+        if (!bDone) ++m_nBoxes;
+    }
+
+    // --- the browser ---
+
+    CFolderTree& Tree() { return m_dialog.Thum().Tree(); }
+    CPicFileList& List() { return m_dialog.Thum().List(); }
+    CIconListModel& Icons() { return List().Model(); }
+
+    // Another program writes a file or makes a folder, anywhere on the drive.
+    void Grow() {
+        std::vector<std::string> arrFolders = {m_folder.Path()};
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(m_folder.Path()))
+            if (entry.is_directory()) arrFolders.push_back(entry.path().string());
+        if (arrFolders.size() > 60) return;
+        const std::string strFolder =
+            arrFolders[static_cast<std::size_t>(Pick(static_cast<int>(arrFolders.size())))];
+        const std::string strNumber = std::to_string(Pick(30));
+        const std::string strFile = strFolder + "/p" + strNumber + ".jpg";
+        std::error_code error;
+        if (Pick(3) == 0)
+            std::filesystem::create_directory(strFolder + "/f" + strNumber + (Pick(9) ? "" : ".jpg"), error);
+        else if (Pick(8) == 0)
+            std::filesystem::copy_file(m_folder.Path("bad.jpg"), strFile, error);
+        else
+            NumberedImage(1 + Pick(40), 1 + Pick(40)).Save(strFile, ImageType::kJpeg);
+    }
+    CTreeItem RandomNode() {
+        const CTreeModel& tree = Tree().Model();
+        CTreeItem item = kNoTreeItem;
+        for (int nDepth = Pick(5); nDepth >= 0 && !tree.Children(item).empty(); --nDepth) {
+            const auto& arrChildren = tree.Children(item);
+            item = arrChildren[static_cast<std::size_t>(Pick(static_cast<int>(arrChildren.size())))];
+        }
+        return item;
+    }
+    // Nodes that are out of sight are refused, which is no fault.
+    void WorkTree() {
+        const CTreeItem item = RandomNode();
+        if (item == kNoTreeItem) return;
+        const int nWhat = Pick(3);
+        std::ignore = nWhat == 0   ? m_host.OpenItem(kFolderTree, item)
+                      : nWhat == 1 ? m_host.SelectItem(kFolderTree, item)
+                                   : m_host.CloseItem(kFolderTree, item);
+    }
+    void DoubleClick(int nItem) {
+        const std::string strName = nItem < 0 ? "" : Icons().Text(nItem);
+        const bool bPicture = FindImageTypeOfName(strName) != ImageType::kUnknown;
+        const CxImage image(List().Path() + "/" + strName, ImageType::kJpeg);
+        EXPECT_EQ(m_host.DoubleClickIcon(kFileList, nItem), "");
+        if (bPicture && image.IsValid()) m_model.Open(image.Pixels());
+        if (bPicture && !image.IsValid()) ++m_nBoxes;
+    }
+    void Delete() {
+        const bool bShift = Pick(2) == 0;
+        const int nSelected = Icons().SelectedCount();
+        if (nSelected == 0) return;
+        if (nSelected == 1 && !bShift) ++m_nBoxes;
+        m_platform.Answer(Pick(3) ? EBoxAnswer::Yes : EBoxAnswer::No);
+        m_platform.AnswerDelete(Pick(3) > 0);
+        m_platform.RefuseDeletes(Pick(6) == 0);
+        EXPECT_EQ(m_host.KeyInIcons(kFileList, {kKeyDelete, false, bShift}), "");
+        m_platform.ForgetAnswers();
+    }
+    // What the list has to show of its folder: read here in another way.
+    void CheckList() {
+        std::set<std::string> setFolders, setFiles;
+        std::error_code error;
+        for (const auto& entry : std::filesystem::directory_iterator(List().Path(), error)) {
+            const std::string strName = entry.path().filename().string();
+            if (entry.is_directory())
+                setFolders.insert(strName);
+            else if (entry.path().extension() == ".jpg")
+                setFiles.insert(strName);
+        }
+        std::vector<std::string> arrNames(setFolders.begin(), setFolders.end());
+        arrNames.insert(arrNames.end(), setFiles.begin(), setFiles.end());
+        List().FillThumbnails();
+        if (List().Path().empty()) return;
+        List().FinishFill();
+        ASSERT_EQ(Icons().Count(), static_cast<int>(arrNames.size()));
+        for (int n = 0; n < Icons().Count(); ++n) {
+            const std::string strName = arrNames[static_cast<std::size_t>(n)];
+            ASSERT_EQ(Icons().Text(n), strName);
+            const bool bFolder = setFolders.contains(strName);
+            const CxImage image(List().Path() + "/" + strName, ImageType::kJpeg);
+            ASSERT_EQ(Icons().Picture(n).IsEmpty(), !bFolder && !image.IsValid());
+        }
+    }
+    void Browse() {
+        const int nItem = Pick(10) == 0 || Icons().Count() == 0 ? -1 : Pick(Icons().Count());
+        switch (Pick(12)) {
+            case 0:
+            case 1:
+                for (int n = 0; n < 4; ++n) Grow();
+                return;
+            case 2:
+            case 3:
+            case 4:
+                return WorkTree();
+            case 5:
+                EXPECT_EQ(m_host.ClickIcon(kFileList, nItem, Pick(2) ? kMouseCtrl : kMouseShift), "");
+                return;
+            case 6:
+                return DoubleClick(nItem);
+            case 7:
+                EXPECT_EQ(m_host.RightPressIcon(kFileList, nItem), "");
+                return;
+            case 8:
+                EXPECT_EQ(m_host.RightPressIcon(kFileList, nItem), "");
+                return Delete();
+            case 9:
+                EXPECT_EQ(m_host.KeyInIcons(kFileList, {kKeyEnter, false, false}), "");
+                return;
+            case 10:
+                return CheckList();
+            default:
+                m_platform.Tick(Pick(3));
+        }
+    }
+    void CheckBrowser() {
+        ASSERT_EQ(m_platform.WaitDepth(), List().IsFilling() ? 1 : 0);
+        ASSERT_TRUE(State().m_bThumbMode || !List().IsFilling());
+        ASSERT_TRUE(List().IsFilling() || !Controls().IsShown(kProgress));
+        const CTreeModel& tree = Tree().Model();
+        const CTreeItem selected = tree.Selected();
+        if (selected == kNoTreeItem) return;
+        ASSERT_TRUE(tree.Exists(selected));
+        // The root is read anew while it is selected.
+        if (tree.Parent(selected) == kNoTreeItem) return;
+        ASSERT_EQ(Tree().CurrentItem(), selected);
+        ASSERT_EQ(Tree().GetPath(selected), Tree().CurrentPath());
+    }
+
     // Any other button, any mouse move, any second that passes.
     void ClickAnything() {
         const auto& arrAll = Controls().All();
         const int nId = arrAll[static_cast<std::size_t>(Pick(static_cast<int>(arrAll.size())))].nId;
         m_dialog.OnHover(nId, false);
         if (Pick(4) == 0) m_platform.Tick(700);
-        for (const int nSpecial : {kCmdOpen, kCmdNew, kCmdSave, kCmdUndo, kCmdRedo, kCmdReset,
-                                   kRadioImageSize, kRadioPhoneSize, kLabelImageSize, kLabelPhoneSize})
+        for (const int nSpecial :
+             {kCmdOpen, kCmdNew, kCmdSave, kCmdUndo, kCmdRedo, kCmdReset, kCmdSize, kCmdFlipVertical,
+              kCmdFlipHorizontal, kCmdTurnLeft, kCmdTurnRight, kCmdLarge, kCmdSmall, kCmdActual,
+              kRadioImageSize, kRadioPhoneSize, kLabelImageSize, kLabelPhoneSize})
             if (nId == nSpecial) return;
         const EControlKind kind = Controls().Find(nId)->kind;
         if (kind == EControlKind::BitmapButton || kind == EControlKind::Check) TryClick(nId);
@@ -182,7 +312,6 @@ class WalkTest : public Workshop {
         ASSERT_EQ(Controls().IsChecked(kRadioPhoneSize), images.m_bPhoneSize);
         for (const auto* pImage : {&images.m_pImgOpened, &images.m_pImgWork, &images.m_pImgDisplay})
             ASSERT_EQ(*pImage != nullptr && (*pImage)->IsValid(), bOpen);
-        ASSERT_EQ(m_platform.WaitDepth(), 0);
         ASSERT_EQ(state.m_nLastMode, state.m_nMode);
         ASSERT_EQ(state.m_bThumbMode, state.m_nMode == kModeThum);
         ASSERT_EQ(state.m_bDrawMode, state.m_nMode == kModeDraw);
@@ -205,8 +334,8 @@ class WalkTest : public Workshop {
             ASSERT_EQ(images.m_pImgDisplay->GetSize(), images.RuledSize());
         }
         if (State().m_bFontMode) {
-            ASSERT_LE(images.m_pImgDisplay->GetWidth(), 649);
-            ASSERT_LE(images.m_pImgDisplay->GetHeight(), 533);
+            ASSERT_LE(images.m_pImgDisplay->GetWidth(), 658);
+            ASSERT_LE(images.m_pImgDisplay->GetHeight(), 542);
         }
         if (State().m_bDrawMode) {
             ASSERT_TRUE(m_dialog.Canvas().CommittedPixels() == images.m_pImgWork->Pixels());
@@ -215,7 +344,8 @@ class WalkTest : public Workshop {
     }
 
     std::mt19937 m_random;
-    CModel m_model;
+    CWalkModel m_model;
+    int m_nBoxes = 0;  // that the step has to bring up
 };
 
 }  // namespace
@@ -229,9 +359,12 @@ TEST_F(WalkTest, TwentyThousandCommands) {
         m_host.Pump();
         m_platform.TakeProblems();
         m_platform.TakeAsked();
+        ASSERT_EQ(static_cast<int>(m_platform.TakeBoxes().size()), std::exchange(m_nBoxes, 0));
         CheckModel();
         CheckState();
         CheckPicture();
+        CheckBrowser();
         if (HasFailure()) return;
     }
+    List().FinishFill();
 }

@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "editor/Editor.h"
 #include "editor/FileCommands.h"
+#include "editor/GeometryCommands.h"
 #include "resources/Ids.h"
 #include "resources/MainDialog.h"
 #include "support/Pictures.h"
@@ -20,13 +22,15 @@ class EditorBench : public testing::Test,
                     public CWaitCursor,
                     public CFileDialogs,
                     public CFolders,
+                    public CModalDialogs,
                     public CPreviewFactory {
   protected:
     EditorBench()
         : m_controls(kMainDialog.arrControls),
           m_editor({m_state, m_images, m_controls, *this, *this, *this, *this, *this}),
           m_files({m_state, m_images, m_controls, *this, *this, *this, *this, *this, *this, *this, *this,
-                   m_editor}) {
+                   m_editor}),
+          m_geometry({m_state, m_images, *this, *this, *this, *this, *this, *this, m_editor}) {
         m_arrWords.reserve(100);  // a word costs no memory
     }
 
@@ -81,6 +85,7 @@ class EditorBench : public testing::Test,
     void EnableSizeCommands(bool bEnable) override { Say(bEnable ? "size on" : "size off"); }
     void InitTextArt() override { Say("text defaults"); }
     bool IsConnected() const override { return m_bConnected; }
+    std::vector<CSize> PhoneSizes() const override { return {}; }
     void FollowFolder(const std::string& strFolder) override { Say("follow " + strFolder); }
 
     EBoxAnswer Show(const CMessageBox& box) override {
@@ -93,6 +98,11 @@ class EditorBench : public testing::Test,
         return m_choice;
     }
     std::optional<CFileChoice> RunSave(const CFileDialogRequest&) override { return m_choice; }
+    int Run(CDialog& dialog) override {
+        dialog.OnInitDialog();
+        m_fnRun(dialog);
+        return dialog.HasEnded() ? dialog.EndCode() : CDialog::kDialogCancel;
+    }
     char Separator() const override { return '\\'; }
     std::string CurrentFolder() const override { return "here"; }
     bool SetCurrentFolder(const std::string&) override { return true; }
@@ -110,8 +120,10 @@ class EditorBench : public testing::Test,
     int m_nWaits = 0;
     std::optional<CFileChoice> m_choice;
     std::vector<CMessageBox> m_arrBoxes;
+    std::function<void(CDialog&)> m_fnRun = [](CDialog&) {};
     CEditor m_editor;
     CFileCommands m_files;
+    CGeometryCommands m_geometry;
 
   private:
     void Say(const std::string& strWord) { m_arrWords.push_back(strWord); }

@@ -41,6 +41,9 @@ void CheckTurns(const CxImage& source) {
     ASSERT_TRUE(image.Mirror());
     ExpectLike(image, Build(w, h, [&](int x, int y) { return source.GetPixelColor(w - 1 - x, y); }));
     image = source;
+    ASSERT_TRUE(image.Flip());
+    ExpectLike(image, Build(w, h, [&](int x, int y) { return source.GetPixelColor(x, h - 1 - y); }));
+    image = source;
     ASSERT_TRUE(image.Rotate180());
     ExpectLike(image, Build(w, h, [&](int x, int y) { return source.GetPixelColor(w - 1 - x, h - 1 - y); }));
     // Clockwise: the left column becomes the top row, its lower end at the left.
@@ -106,8 +109,8 @@ TEST(Geometry, WhatMakesNoSenseChangesNothing) {
     EXPECT_EQ(image.GetPixelColor(0, 5), CColor{});
 
     CxImage empty;
-    EXPECT_FALSE(empty.Rotate(90.0) || empty.Rotate180() || empty.Mirror() || empty.Resample(3, 3) ||
-                 empty.HistogramEqualize());
+    EXPECT_FALSE(empty.Rotate(90.0) || empty.Rotate180() || empty.Flip() || empty.Mirror() ||
+                 empty.Resample(3, 3) || empty.HistogramEqualize());
     EXPECT_EQ(empty.GetPixelColor(0, 0), CColor{});
 }
 

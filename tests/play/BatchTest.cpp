@@ -46,6 +46,31 @@ TEST_F(ProgramTest, PlaysTheWalk) {
     EXPECT_NE(PixelAt(window, 5, 5), PixelAt(window, 345, 400));
 }
 
+// The sample photographs: browsed, thrown away, turned, sized, saved, with the skin's folders in the list.
+TEST_F(ProgramTest, PlaysTheBrowse) {
+    std::filesystem::create_directories("photos/ZEFA肖像/旧");
+    for (const auto& entry :
+         std::filesystem::directory_iterator(FOTARIUM_SOURCE_DIR "/src/resources/samples"))
+        if (entry.path().extension() == ".jpg")
+            std::filesystem::copy(entry.path(), "photos/ZEFA肖像" / entry.path().filename());
+    std::filesystem::copy("photos/ZEFA肖像/夜色.jpg", "photos/ZEFA肖像/旧/NIGHT.JPG");
+    const std::string strBrowse = FOTARIUM_SOURCE_DIR "/tests/play/browse";
+    EXPECT_EQ(Run("--strict '" + strBrowse + ".play'"), 0) << ReadBytes("err.txt");
+    EXPECT_EQ(ReadBytes("out.txt"), ReadBytes(strBrowse + ".expected"));
+    EXPECT_EQ(ReadBytes("err.txt"), "");
+    EXPECT_TRUE(std::filesystem::exists("bin/花砖.jpg"));
+    EXPECT_TRUE(std::filesystem::exists("bin/旧/NIGHT.JPG"));
+    // Turned to the right: what was the bottom left corner is the top left one.
+    const CPixels work = PixelsOf("work.ppm");
+    const CPixels opened = PixelsOf("opened.ppm");
+    ASSERT_FALSE(opened.IsEmpty());
+    ASSERT_EQ(work.Width(), opened.Height());
+    for (const CPoint pt : {CPoint{0, 0}, CPoint{100, 7}, CPoint{800, 500}})
+        EXPECT_EQ(PixelAt(work, pt.x, pt.y), PixelAt(opened, pt.y, opened.Height() - 1 - pt.x));
+    EXPECT_EQ(PixelsOf("display.ppm"), NaiveResample(work, 300, 400));
+    EXPECT_EQ(CxImage("photos/ZEFA肖像/竖的.jpg", ImageType::kJpeg).GetSize(), (CSize{300, 400}));
+}
+
 TEST_F(ProgramTest, ExitStatus) {
     m_folder.Write("bad.txt", "state mode\nmode 9\n");
     EXPECT_EQ(Run("bad.txt"), 1);

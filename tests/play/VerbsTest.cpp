@@ -7,7 +7,8 @@ TEST_F(ScriptTest, StartsInTheFirstModeWithoutAPicture) {
     EXPECT_EQ(
         Print("state\nboxes"),
         "mode 0 THUM\nundo 0\nredo 0\ndisp 0 0\nwork none\nimage 0\ntool 1\nzoom 1\nframe 0\npending 0\n"
-        "float 0\nselection 0\nconnected 0\nsizerule image\npath \"\"\nname \"\"\nfocus 0\nboxes 0\n");
+        "float 0\nselection 0\nconnected 0\nsizerule image\ntree \"\"\nlist 0 0 \"\"\nselected 0\nbanded "
+        "0\npath \"\"\nname \"\"\nfocus 0\nboxes 0\n");
 }
 
 TEST_F(ScriptTest, OpensByAQuotedChinesePathAndDumpsThePixels) {
@@ -116,9 +117,11 @@ TEST_F(ScriptTest, CommentsBlanksAndLineEnds) {
 TEST_F(ScriptTest, HelpNamesWhatThereIs) {
     const std::string strHelp = HelpText();
     for (const char* szWord :
-         {"open PATH",    "command ID",   "mode N",       "select ID ROW", "slider POS",  "mouse press",
-          "window press", "key CHORD",    "text ID",      "check ID",      "answer box",  "answer open",
-          "answer save",  "answer color", "answer font",  "answer size",   "answer menu", "answer cancel",
-          "tick N",       "show ID",      "state [NAME]", "boxes",         "dump work",   "sizerule"})
+         {"open PATH",    "command ID",   "mode N",        "select ID ROW", "slider POS",  "mouse press",
+          "window press", "key CHORD",    "text ID",       "check ID",      "answer box",  "answer open",
+          "answer save",  "answer color", "answer font",   "answer size",   "answer menu", "answer cancel",
+          "tick N",       "show ID",      "state [NAME]",  "boxes",         "dump work",   "sizerule",
+          "drive LETTER", "bin PATH",     "tree open",     "list click",    "list double", "list right",
+          "list select",  "list key",     "answer delete", "size keep",     "shell",       "banded"})
         EXPECT_NE(strHelp.find(szWord), std::string::npos) << szWord;
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QSlider>
 
@@ -24,6 +25,7 @@ constexpr CControlTemplate kControls[] = {
     {31, Check, CRect::FromPlace(100, 40, 14, 14)},
     {40, Edit, CRect::FromPlace(10, 60, 100, 18), "abc", true, true, 5},
     {41, Slider, CRect::FromPlace(120, 60, 20, 60)},
+    {42, Combo, CRect::FromPlace(10, 90, 100, 22)},
 };
 constexpr CDialogTemplate kDialog{900, "Buttons", {160, 130}, EDialogFrame::Plain, kControls};
 
@@ -109,6 +111,41 @@ TEST(Edit, TypingIsLimitedAndTold) {
     shown.dialog.Controls().SetText(40, "字");
     EXPECT_EQ(pEdit->text(), "字");
     EXPECT_EQ(shown.dialog.m_arrNotices.size(), 2U) << "what the logic sets is no news to it";
+}
+
+TEST(Edit, LeavingItIsToldOnceAndOnlyAfterTyping) {
+    CShownDialog shown(kDialog);
+    QTest::keyClicks(shown.Widget(40), "x");
+    shown.dialog.m_arrNotices.clear();
+    // A key of another control takes the focus on its press: the edit's word comes before the click's.
+    shown.dialog.m_fnCommand = [&](int) {
+        EXPECT_EQ(shown.dialog.m_arrNotices, (std::vector<std::pair<int, ENotice>>{{40, ENotice::TextDone}}));
+    };
+    shown.Widget(40)->setFocus();
+    Press(*shown.view, shown.Centre(10));
+    Release(*shown.view, shown.Centre(10));
+    EXPECT_EQ(shown.dialog.m_arrCommands, std::vector{10});
+    // The end of the dialog takes the focus too, but there is nobody left to be told.
+    shown.Widget(40)->setFocus();
+    shown.dialog.m_arrNotices.clear();
+    shown.dialog.EndDialog(1);
+    shown.view->hide();
+    EXPECT_TRUE(shown.dialog.m_arrNotices.empty());
+}
+
+TEST(Combo, ShowsItsTextsAndTellsTheUsersChoice) {
+    CShownDialog shown(kDialog);
+    auto* pCombo = qobject_cast<QComboBox*>(shown.Widget(42));
+    ASSERT_NE(pCombo, nullptr);
+    shown.dialog.Controls().SetItems(42, {{" 176 X 144 ", -1}, {" 640 X 480 ", -1}});
+    EXPECT_EQ(pCombo->currentIndex(), -1);
+    shown.dialog.Controls().Select(42, 0);
+    EXPECT_EQ(pCombo->currentText(), " 176 X 144 ");
+    EXPECT_TRUE(shown.dialog.m_arrNotices.empty());
+    QTest::keyClick(pCombo, Qt::Key_Down);
+    EXPECT_EQ(shown.dialog.Controls().Selection(42), 1);
+    EXPECT_EQ(shown.dialog.m_arrNotices,
+              (std::vector<std::pair<int, ENotice>>{{42, ENotice::SelectionChanged}}));
 }
 
 TEST(Slider, OnlyTheUsersMovesAreTold) {

@@ -12,7 +12,9 @@
 #include "qt/DialogView.h"
 #include "qt/Pictures.h"
 #include "window/Dialog.h"
+#include "window/IconListModel.h"
 #include "window/ScrollView.h"
+#include "window/TreeModel.h"
 
 // Pictures of one colour by name; at density 2 the left upper pixel of every client pixel is white.
 class CTestBitmaps : public CBitmaps {
@@ -74,6 +76,8 @@ class CTestDialog : public CDialog {
         if (m_fnTimer) m_fnTimer(nTimer);
     }
     CScrollView* ViewOf(int /*nId*/) override { return m_pView; }
+    CTreeModel* TreeOf(int /*nId*/) override { return m_pTree; }
+    CIconListModel* IconsOf(int /*nId*/) override { return m_pIcons; }
 
     std::vector<int> m_arrCommands;
     std::vector<std::pair<int, ENotice>> m_arrNotices;
@@ -88,6 +92,8 @@ class CTestDialog : public CDialog {
     std::function<void(int)> m_fnCommand;
     std::function<void(int)> m_fnTimer;
     CScrollView* m_pView = nullptr;
+    CTreeModel* m_pTree = nullptr;
+    CIconListModel* m_pIcons = nullptr;
 
   protected:
     void OnPaint(CClientArea& client) override {
@@ -101,6 +107,15 @@ struct CShownDialog {
     CShownDialog(const CDialogTemplate& dialogTemplate, CScrollView* pView = nullptr, CTestBitmaps skin = {})
         : bitmaps(std::move(skin)), dialog(dialogTemplate), pictures(bitmaps) {
         dialog.m_pView = pView;
+        Show();
+    }
+    CShownDialog(const CDialogTemplate& dialogTemplate, CTreeModel* pTree, CIconListModel* pIcons)
+        : dialog(dialogTemplate), pictures(bitmaps) {
+        dialog.m_pTree = pTree;
+        dialog.m_pIcons = pIcons;
+        Show();
+    }
+    void Show() {
         view = std::make_unique<CDialogView>(dialog, pictures, nullptr);
         view->Prepare();
         view->show();

@@ -54,6 +54,36 @@ inline CPixels NaiveResample(const CPixels& pixels, int nWidth, int nHeight) {
     return result;
 }
 
+// A picture of that size whose pixel (x, y) is the one that fnFrom names, all counted from the top left.
+template <typename T>
+CPixels NaiveMove(const CPixels& pixels, int nWidth, int nHeight, T fnFrom) {
+    CPixels result;
+    if (!result.Create(nWidth, nHeight)) return result;
+    const CPixelView view = result.MutableView();
+    for (int y = 0; y < nHeight; ++y)
+        for (int x = 0; x < nWidth; ++x) {
+            const CPoint pt = fnFrom(x, y);
+            view.Set(x, y, PixelAt(pixels, pt.x, pt.y));
+        }
+    return result;
+}
+
+inline CPixels NaiveFlip(const CPixels& pixels, bool bVertical) {
+    const int nRight = pixels.Width() - 1;
+    const int nBottom = pixels.Height() - 1;
+    return NaiveMove(pixels, pixels.Width(), pixels.Height(), [=](int x, int y) {
+        return bVertical ? CPoint{x, nBottom - y} : CPoint{nRight - x, y};
+    });
+}
+
+inline CPixels NaiveTurn(const CPixels& pixels, bool bClockwise) {
+    const int nRight = pixels.Width() - 1;
+    const int nBottom = pixels.Height() - 1;
+    return NaiveMove(pixels, pixels.Height(), pixels.Width(), [=](int x, int y) {
+        return bClockwise ? CPoint{y, nBottom - x} : CPoint{nRight - y, x};
+    });
+}
+
 // What a failed comparison shows.
 inline void PrintTo(const CPixels& pixels, std::ostream* pStream) {
     *pStream << pixels.Width() << " by " << pixels.Height() << " pixels";

@@ -4,9 +4,13 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 
 #include "app/MainApp.h"
 #include "qt/Application.h"
@@ -24,21 +28,67 @@ void PrintMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, con
         std::fprintf(stderr, "%s\n", qUtf8Printable(strMessage));
 }
 
-// Copies the samples into a folder that the walk may write to, and finds one of each shape.
-bool LayOutFiles(const QString& strFolder, CTourFiles& files) {
-    const QDir samples(QFile::decodeName(SampleFolder().c_str()));
-    for (const QString& strName : samples.entryList({"*.jpg"}, QDir::Files, QDir::Name)) {
+bool WriteFile(const QString& strPath, const QByteArray& bytes) {
+    QFile file(strPath);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+bool CopyInto(const QDir& from, const QStringList& arrNames, const QString& strFolder) {
+    for (const QString& strName : arrNames)
+        if (!QFile::copy(from.filePath(strName), strFolder + "/" + strName)) return false;
+    return true;
+}
+
+// The samples in a folder that the walk may write to, as the drive of the samples has them; of each shape one
+// is picked.
+bool LayOutSamples(const QDir& samples, const QString& strFolder, CTourFiles& files) {
+    files.arrSamples = samples.entryList({"*.jpg"}, QDir::Files, QDir::Name);
+    std::sort(files.arrSamples.begin(), files.arrSamples.end());
+    if (!QDir().mkpath(strFolder) || !CopyInto(samples, files.arrSamples, strFolder)) return false;
+    for (const QString& strName : files.arrSamples) {
         const QString strCopy = strFolder + "/" + strName;
-        if (!QFile::copy(samples.filePath(strName), strCopy)) return false;
         const QSize size = QImageReader(strCopy).size();
         QString& strPlace = size.height() > size.width() ? files.strUpright : files.strPicture;
         if (strPlace.isEmpty()) strPlace = strCopy;
     }
-    files.strBroken = strFolder + "/broken.jpg";
     files.strSaved = strFolder + "/saved.jpg";
-    QFile broken(files.strBroken);
-    return broken.open(QIODevice::WriteOnly) && broken.write("this is no picture") > 0 &&
-           !files.strPicture.isEmpty() && !files.strUpright.isEmpty();
+    files.strBrokenCopy = strFolder + "/broken.jpg";
+    return !files.strPicture.isEmpty() && !files.strUpright.isEmpty();
+}
+
+// Beside the samples an album: a folder of folders, one of which holds photographs among other things.
+bool LayOutAlbum(const QDir& samples, const QString& strAlbum, CTourFiles& files) {
+    files.arrFolders = {"儿时", "山水", "节日"};
+    for (const QString& strName : files.arrFolders)
+        if (!QDir().mkpath(strAlbum + "/" + strName)) return false;
+    files.strFolder = "山水";
+    files.strMixedFolder = strAlbum + "/山水";
+    for (const QString& strName : files.arrSamples)
+        if (strName != QFileInfo(files.strUpright).fileName() && files.arrGood.size() < 4)
+            files.arrGood.append(strName);
+    files.strBrokenName = "破损.jpg";
+    files.strBroken = files.strMixedFolder + "/" + files.strBrokenName;
+    // A name from another system's time, in bytes that are no valid text here.
+    const QByteArray odd = QFile::encodeName(files.strMixedFolder) + "/\xb7\xe7.jpg";
+    const bool bOdd = std::ofstream(odd.toStdString(), std::ios::binary).put('x').good();
+    files.arrMixed = files.arrGood;
+    files.arrMixed.append(files.strBrokenName);
+    std::sort(files.arrMixed.begin(), files.arrMixed.end());
+    // Those bytes stand before all Chinese ones, and folders before all files.
+    files.arrMixed.prepend(QString(2, QChar::ReplacementCharacter) + ".jpg");
+    files.arrMixed.prepend("湖边");
+    if (!QDir().mkpath(files.strMixedFolder + "/湖边")) return false;
+    return bOdd && CopyInto(samples, files.arrGood, files.strMixedFolder) &&
+           WriteFile(files.strMixedFolder + "/notes.txt", "not listed") &&
+           WriteFile(files.strBroken, "this is no picture");
+}
+
+bool LayOutFiles(const QString& strFolder, CTourFiles& files) {
+    const QDir samples(QFile::decodeName(SampleFolder().c_str()));
+    files.strTrash = strFolder + "/data/Trash";
+    return QDir().mkpath(strFolder + "/home/图片") &&
+           LayOutSamples(samples, strFolder + "/drive/ZEFA肖像", files) &&
+           LayOutAlbum(samples, strFolder + "/drive/相册", files);
 }
 
 }  // namespace
@@ -63,6 +113,8 @@ int main(int argc, char** argv) {
     // The walk leaves the user's own settings and data alone.
     qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path() + "/data"));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path() + "/config"));
+    qputenv("HOME", QFile::encodeName(folder.path() + "/home"));
+    qputenv("FOTARIUM_SAMPLE_DRIVE", QFile::encodeName(folder.path() + "/drive"));
     QDir::setCurrent(folder.path());
 
     SetUpApplication(application);
@@ -79,6 +131,9 @@ int main(int argc, char** argv) {
     });
     CMainApp(platform.Platform()).InitInstance();
     if (!bOver) QApplication::exec();
+    // Qt's own way does not find names that are no valid text.
+    std::error_code error;
+    std::filesystem::remove_all(QFile::encodeName(folder.path()).toStdString(), error);
     std::printf("The window was up %lld ms behind the end of the start-up picture\n",
                 static_cast<long long>(watch.Milliseconds()));
     std::printf("%s: the pictures are in %s\n",

@@ -1,0 +1,140 @@
+// How the person deals with the folder tree, the list of photographs and lines of text.
+
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QTest>
+#include <QTreeView>
+#include <algorithm>
+
+#include "qt/DialogView.h"
+#include "resources/Ids.h"
+#include "tour/Person.h"
+
+namespace {
+
+// A row below the index, at any depth, that shows the name.
+QModelIndex FindBelow(const QAbstractItemModel& model, const QModelIndex& parent, const QString& strName) {
+    for (int nRow = 0; nRow < model.rowCount(parent); ++nRow) {
+        const QModelIndex row = model.index(nRow, 0, parent);
+        if (row.data().toString() == strName) return row;
+        const QModelIndex found = FindBelow(model, row, strName);
+        if (found.isValid()) return found;
+    }
+    return {};
+}
+
+}  // namespace
+
+QString CPerson::AskedText() const {
+    const auto* pBox = qobject_cast<QMessageBox*>(Asking());
+    return pBox == nullptr ? QString() : pBox->text();
+}
+
+QTreeView* CPerson::Tree() const {
+    return qobject_cast<QTreeView*>(Widget(kFolderTree));
+}
+
+QListView* CPerson::List() const {
+    return qobject_cast<QListView*>(Widget(kFileList));
+}
+
+QModelIndex CPerson::TreeItem(const QString& strName) const {
+    const QTreeView* pTree = Tree();
+    return pTree == nullptr ? QModelIndex() : FindBelow(*pTree->model(), {}, strName);
+}
+
+QModelIndex CPerson::ListItem(const QString& strName) const {
+    const QListView* pList = List();
+    return pList == nullptr ? QModelIndex() : FindBelow(*pList->model(), {}, strName);
+}
+
+QPoint CPerson::Aim(QAbstractItemView* pView, const QModelIndex& index, const QString& strName) {
+    if (pView == nullptr || !pView->isVisible() || !index.isValid()) {
+        m_strFault = QStringLiteral("there is no %1 to click").arg(strName);
+        return {};
+    }
+    pView->scrollTo(index);
+    return pView->visualRect(index).center();
+}
+
+void CPerson::ClickTree(const QString& strName) {
+    const QPoint pt = Aim(Tree(), TreeItem(strName), strName);
+    if (m_strFault.isEmpty()) QTest::mouseClick(Tree()->viewport(), Qt::LeftButton, Qt::NoModifier, pt);
+}
+
+// On the arrow before the item.
+void CPerson::OpenTree(const QString& strName) {
+    Aim(Tree(), TreeItem(strName), strName);
+    if (!m_strFault.isEmpty()) return;
+    const QRect rc = Tree()->visualRect(TreeItem(strName));
+    const QPoint ptArrow(rc.left() - Tree()->indentation() / 2, rc.center().y());
+    QTest::mouseClick(Tree()->viewport(), Qt::LeftButton, Qt::NoModifier, ptArrow);
+}
+
+bool CPerson::SeesTreeItem(const QString& strName) const {
+    const QTreeView* pTree = Tree();
+    return pTree != nullptr && pTree->isVisible() && pTree->visualRect(TreeItem(strName)).isValid();
+}
+
+QString CPerson::TreeSelection() const {
+    const QTreeView* pTree = Tree();
+    const QModelIndexList arrRows =
+        pTree == nullptr ? QModelIndexList() : pTree->selectionModel()->selectedRows();
+    return arrRows.isEmpty() ? QString() : arrRows.front().data().toString();
+}
+
+void CPerson::ClickItem(const QString& strName, Qt::KeyboardModifiers modifiers) {
+    const QPoint pt = Aim(List(), ListItem(strName), strName);
+    if (m_strFault.isEmpty()) QTest::mouseClick(List()->viewport(), Qt::LeftButton, modifiers, pt);
+}
+
+void CPerson::DoubleClickItem(const QString& strName) {
+    const QPoint pt = Aim(List(), ListItem(strName), strName);
+    if (m_strFault.isEmpty()) QTest::mouseDClick(List()->viewport(), Qt::LeftButton, Qt::NoModifier, pt);
+}
+
+void CPerson::KeyInList(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    if (List() != nullptr) QTest::keyClick(List(), key, modifiers);
+}
+
+QStringList CPerson::ListedNames() const {
+    QStringList arrNames;
+    const QListView* pList = List();
+    if (pList == nullptr || !pList->isVisible()) return arrNames;
+    for (int nRow = 0; nRow < pList->model()->rowCount(); ++nRow)
+        arrNames.append(pList->model()->index(nRow, 0).data().toString());
+    return arrNames;
+}
+
+QStringList CPerson::SelectedNames() const {
+    QStringList arrNames;
+    QModelIndexList arrRows =
+        List() == nullptr ? QModelIndexList() : List()->selectionModel()->selectedIndexes();
+    std::sort(arrRows.begin(), arrRows.end());
+    for (const QModelIndex& row : arrRows) arrNames.append(row.data().toString());
+    return arrNames;
+}
+
+QImage CPerson::LookAtItem(const QString& strName) const {
+    QListView* pList = List();
+    if (pList == nullptr) return {};
+    const QRect rc = pList->visualRect(ListItem(strName));
+    return pList->viewport()->grab(rc).toImage();
+}
+
+void CPerson::TypeOver(int nId, const QString& strText) {
+    auto* pEdit = qobject_cast<QLineEdit*>(Widget(nId));
+    if (pEdit == nullptr || !pEdit->isVisible()) {
+        m_strFault = QStringLiteral("control %1 takes no text").arg(nId);
+        return;
+    }
+    pEdit->setFocus(Qt::MouseFocusReason);
+    pEdit->selectAll();
+    QTest::keyClicks(pEdit, strText);
+}
+
+QString CPerson::TypedIn(int nId) const {
+    const auto* pEdit = qobject_cast<QLineEdit*>(Widget(nId));
+    return pEdit == nullptr ? QString() : pEdit->text();
+}

@@ -1,0 +1,148 @@
+// The main window while the pictures of a large folder come up one by one: it lives.
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QListView>
+#include <QPaintEvent>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <filesystem>
+#include <random>
+
+#include "TestDialog.h"
+#include "app/MainDlg.h"
+#include "qt/QtPlatform.h"
+#include "resources/Ids.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kFiles = 150;
+// One slice, an event, and a machine that has other things to do. A fill in one go takes longer by far.
+constexpr qint64 kLongestWait = 250;
+
+// Counts the paints of a widget, and how long the event loop once was away.
+class CWatch : public QObject {
+  public:
+    explicit CWatch(QWidget& widget) {
+        widget.installEventFilter(this);
+        m_clock.start();
+        QObject::connect(&m_timer, &QTimer::timeout, this,
+                         [this] { m_nLongest = std::max(m_nLongest, m_clock.restart()); });
+        m_timer.start(5);
+    }
+    bool eventFilter(QObject* /*pObject*/, QEvent* pEvent) override {
+        m_nPaints += pEvent->type() == QEvent::Paint;
+        return false;
+    }
+    int m_nPaints = 0;
+    qint64 m_nLongest = 0;
+
+  private:
+    QElapsedTimer m_clock;
+    QTimer m_timer;
+};
+
+class Fill : public testing::Test {
+  protected:
+    void SetUp() override {
+        const fs::path folder = fs::path(m_folder.path().toStdString()) / "ZEFA肖像";
+        fs::create_directory(folder);
+        CPixels pixels;
+        ASSERT_TRUE(pixels.CreateRaw(1600, 1200));
+        // Noise takes as long to decode as anything can.
+        std::minstd_rand random(1);
+        for (int y = 0; y < 1200; ++y)
+            for (std::uint8_t& byte : pixels.MutableRow(y)) byte = static_cast<std::uint8_t>(random());
+        CxImage image;
+        ASSERT_TRUE(image.CreateFromHBITMAP(pixels));
+        ASSERT_TRUE(image.Save((folder / "000.jpg").string(), ImageType::kJpeg));
+        for (int i = 1; i < kFiles; ++i)
+            fs::create_hard_link(folder / "000.jpg",
+                                 folder / QString("%1.jpg").arg(i, 3, 10, QChar('0')).toStdString());
+        qputenv("FOTARIUM_SAMPLE_DRIVE", QFile::encodeName(m_folder.path()));
+        m_dialog.OnInitDialog();
+        m_view.Prepare();
+        m_view.show();
+        QApplication::setActiveWindow(&m_view);
+    }
+    void TearDown() override {
+        qunsetenv("FOTARIUM_SAMPLE_DRIVE");
+        fs::current_path("/");
+    }
+    bool IsFilling() { return m_dialog.Thum().List().IsFilling(); }
+    // Lets the program run until the watched list has been painted so many times more, or the fill is over.
+    void RunUntilPainted(const CWatch& watch, int nTimes) {
+        const int nBefore = watch.m_nPaints;
+        while (IsFilling() && watch.m_nPaints < nBefore + nTimes)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    QListView& List() { return *qobject_cast<QListView*>(m_view.WidgetOf(kFileList)); }
+
+    QTemporaryDir m_folder;
+    CTestBitmaps m_bitmaps;
+    CQtPlatform m_platform{m_bitmaps};
+    CPictures m_pictures{m_bitmaps};
+    CMainDlg m_dialog{m_platform.Platform()};
+    CDialogView m_view{m_dialog, m_pictures, nullptr};
+};
+
+}  // namespace
+
+TEST_F(Fill, PaintsAndScrollsMeanwhile) {
+    ASSERT_TRUE(IsFilling());
+    EXPECT_EQ(m_dialog.Thum().List().Model().Count(), kFiles);
+    EXPECT_NE(QApplication::overrideCursor(), nullptr);
+    CWatch watch(*List().viewport());
+    RunUntilPainted(watch, 5);
+    ASSERT_TRUE(IsFilling());
+    // The wheel moves the list, and the new rows are painted before the fill is over.
+    QWheelEvent wheel({100, 100}, List().viewport()->mapToGlobal(QPoint(100, 100)), {}, {0, -1200},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(List().viewport(), &wheel);
+    EXPECT_GT(List().verticalScrollBar()->value(), 200);
+    RunUntilPainted(watch, 3);
+    EXPECT_TRUE(IsFilling());
+    EXPECT_TRUE(m_view.WidgetOf(kProgress)->isVisible());
+    while (IsFilling()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_LT(watch.m_nLongest, kLongestWait);
+
+    EXPECT_FALSE(m_view.WidgetOf(kProgress)->isVisible());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    for (int i = 0; i < kFiles; ++i) ASSERT_FALSE(m_dialog.Thum().List().Model().Picture(i).IsEmpty()) << i;
+}
+
+TEST_F(Fill, AModeChangeEndsItAndTheReturnBeginsItAnew) {
+    CWatch watch(*List().viewport());
+    RunUntilPainted(watch, 3);
+    ASSERT_TRUE(IsFilling());
+    QTest::mouseClick(m_view.WidgetOf(kTabEffect), Qt::LeftButton);
+    EXPECT_FALSE(IsFilling());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_FALSE(m_view.WidgetOf(kProgress)->isVisible());
+    QTest::mouseClick(m_view.WidgetOf(kTabThum), Qt::LeftButton);
+    EXPECT_TRUE(IsFilling());
+    EXPECT_TRUE(List().isVisible());
+    // A click on another node ends it as well.
+    m_dialog.Thum().Tree().Model().Select(
+        m_dialog.Thum()
+            .Tree()
+            .Model()
+            .Children(m_dialog.Thum().Tree().Model().Children(kNoTreeItem).front())
+            .back());
+    while (IsFilling()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_EQ(List().model()->rowCount(), 1) << "the folder itself, seen from the drive";
+}
+
+TEST_F(Fill, TheWindowClosesInTheMiddle) {
+    CWatch watch(*List().viewport());
+    RunUntilPainted(watch, 3);
+    ASSERT_TRUE(IsFilling());
+    m_view.close();
+    EXPECT_TRUE(m_dialog.HasEnded());
+    m_dialog.OnDestroy();
+    EXPECT_FALSE(IsFilling());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}

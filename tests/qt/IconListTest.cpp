@@ -1,0 +1,297 @@
+// The list of photographs in its view: where cells stand and what they show, what the hand selects, and what
+// the list's logic hears of the hand.
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QListView>
+#include <QPaintEvent>
+#include <QScrollBar>
+
+#include "TestDialog.h"
+
+namespace {
+
+constexpr CControlTemplate kControls[] = {
+    {17, EControlKind::IconList, CRect::FromPlace(10, 10, 658, 543)},
+    {18, EControlKind::Button, CRect::FromPlace(10, 560, 60, 20), "Beside"},
+};
+constexpr CDialogTemplate kDialog{902, "Icons", {680, 590}, EDialogFrame::Plain, kControls};
+constexpr CColor kRed{200, 20, 30};
+
+// Writes down in short words what it hears.
+class CTestSink : public CIconListSink {
+  public:
+    explicit CTestSink(CIconListModel& icons) : m_icons(icons) { icons.SetSink(this); }
+    void OnItemClick(int nItem) override { Add("click", nItem); }
+    void OnItemDoubleClick(int nItem) override {
+        Add("double", nItem);
+        if (m_fnDouble) m_fnDouble();
+    }
+    void OnEnter() override { m_arrHeard.emplace_back("enter"); }
+    void OnKeyDown(int nKey, bool bShift) override { Add(bShift ? "shift+key" : "key", nKey); }
+    void OnRightPress(int nItem) override {
+        Add("right", nItem);
+        if (nItem >= 0) m_icons.Select(nItem, !m_icons.IsSelected(nItem));
+    }
+    void OnLeftPress() override { m_arrHeard.emplace_back("press"); }
+    void OnLeftRelease() override { m_arrHeard.emplace_back("release"); }
+    void OnMouseMove() override { ++m_nMoves; }
+
+    std::vector<std::string> Take() { return std::exchange(m_arrHeard, {}); }
+    std::function<void()> m_fnDouble;
+    int m_nMoves = 0;
+
+  private:
+    void Add(const char* szWhat, int n) {
+        m_arrHeard.push_back(QString("%1 %2").arg(szWhat).arg(n).toStdString());
+    }
+    CIconListModel& m_icons;
+    std::vector<std::string> m_arrHeard;
+};
+
+std::vector<std::string> Names(int nCount) {
+    std::vector<std::string> arrNames;
+    for (int i = 0; i < nCount; ++i) arrNames.push_back(QString("p%1.jpg").arg(i).toStdString());
+    return arrNames;
+}
+
+CPixels Picture(CColor color) {
+    CPixels pixels;
+    pixels.CreateFilled(110, 110, color);
+    return pixels;
+}
+
+// What is new is laid out in one turn of the event loop and painted in a later one.
+void Settle() {
+    for (int i = 0; i < 4; ++i) QCoreApplication::processEvents();
+}
+
+struct CShownIcons {
+    explicit CShownIcons(int nCount = 12) : sink(icons) {
+        icons.SetItems(Names(nCount));
+        Settle();
+    }
+    QListView& View() { return *qobject_cast<QListView*>(shown.Widget(17)); }
+    QWidget& Port() { return *View().viewport(); }
+    QRect Cell(int nItem) { return View().visualRect(View().model()->index(nItem, 0)); }
+    QPoint Middle(int nItem) { return Cell(nItem).center() - QPoint(0, 20); }
+    void Click(int nItem, Qt::KeyboardModifiers modifiers = {}, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(&Port(), button, modifiers, Middle(nItem));
+    }
+    QColor ColorAt(QPoint pt) { return Port().grab().toImage().pixelColor(pt); }
+    std::vector<int> Shown() {
+        std::vector<int> arrRows;
+        for (const QModelIndex& index : View().selectionModel()->selectedIndexes())
+            arrRows.push_back(index.row());
+        std::sort(arrRows.begin(), arrRows.end());
+        return arrRows;
+    }
+
+    CIconListModel icons;
+    CTestSink sink;
+    CShownDialog shown{kDialog, nullptr, &icons};
+};
+
+using CHeard = std::vector<std::string>;
+using CItems = std::vector<int>;
+
+}  // namespace
+
+TEST(IconList, FiveColumnsStandWithAndWithoutTheScrollBar) {
+    CShownIcons shown;
+    for (const int nCount : {12, 500}) {
+        shown.icons.SetItems(Names(nCount));
+        Settle();
+        EXPECT_EQ(shown.View().verticalScrollBar()->isVisible(), nCount == 500);
+        EXPECT_EQ(shown.Cell(4).top(), shown.Cell(0).top());
+        EXPECT_GT(shown.Cell(5).top(), shown.Cell(0).bottom());
+        EXPECT_EQ(shown.Cell(5).left(), shown.Cell(0).left());
+        EXPECT_TRUE(shown.Port().rect().contains(shown.Cell(4)));
+    }
+    EXPECT_EQ(shown.View().horizontalScrollBar()->maximum(), 0);
+}
+
+TEST(IconList, APictureComesUpInItsCellAndPaintsNoOther) {
+    CShownIcons shown;
+    EXPECT_NE(shown.ColorAt(shown.Middle(1)), QColor(200, 20, 30));
+    QRegion painted;
+    struct CWatch : QObject {
+        explicit CWatch(QRegion& r) : region(r) {}
+        bool eventFilter(QObject* /*pObject*/, QEvent* pEvent) override {
+            if (pEvent->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(pEvent)->region();
+            return false;
+        }
+        QRegion& region;
+    } watch(painted);
+    shown.Port().installEventFilter(&watch);
+    shown.icons.SetPicture(1, Picture(kRed));
+    Settle();
+    shown.Port().removeEventFilter(&watch);
+    EXPECT_FALSE(painted.isEmpty());
+    EXPECT_TRUE(shown.Cell(1).adjusted(-8, -8, 8, 8).contains(painted.boundingRect()));
+    EXPECT_EQ(shown.ColorAt(shown.Middle(1)), QColor(200, 20, 30));
+    // New items: the old pictures have gone with the old names.
+    shown.icons.SetItems(Names(3));
+    Settle();
+    EXPECT_NE(shown.ColorAt(shown.Middle(1)), QColor(200, 20, 30));
+}
+
+TEST(IconList, ALongNameKeepsItsEndsAndItsCell) {
+    CShownIcons shown;
+    std::string strLong;
+    for (int i = 0; i < 40; ++i) strLong += "很长的名字";
+    shown.icons.SetItems({"a.jpg", strLong + ".jpg", "bytes\xff\xfe\n.jpg", "d.jpg"});
+    Settle();
+    EXPECT_EQ(shown.Cell(1).size(), shown.Cell(0).size());
+    // Nothing of the long name reaches over to its neighbours.
+    const QImage image = shown.Port().grab().toImage();
+    for (int y = 0; y < shown.Cell(0).bottom(); ++y)
+        for (int x = shown.Cell(0).right() + 2; x < shown.Cell(1).left() - 2; ++x)
+            ASSERT_EQ(image.pixelColor(x, y), QColor(109, 121, 126));
+}
+
+TEST(IconList, TheHandSelectsAsInAnyList) {
+    CShownIcons shown;
+    const auto fnSelected = [&] {
+        EXPECT_EQ(shown.Shown(), shown.icons.SelectedItems());
+        return shown.icons.SelectedItems();
+    };
+    shown.Click(2);
+    EXPECT_EQ(fnSelected(), CItems{2});
+    shown.Click(4, Qt::ControlModifier);
+    shown.Click(6, Qt::ControlModifier);
+    shown.Click(4, Qt::ControlModifier);
+    EXPECT_EQ(fnSelected(), (CItems{2, 6}));
+    shown.Click(3);
+    shown.Click(6, Qt::ShiftModifier);
+    EXPECT_EQ(fnSelected(), (CItems{3, 4, 5, 6}));
+    // A press on one of several leaves them all until the button is up again.
+    QTest::mousePress(&shown.Port(), Qt::LeftButton, {}, shown.Middle(4));
+    EXPECT_EQ(fnSelected().size(), 4U);
+    QTest::mouseRelease(&shown.Port(), Qt::LeftButton, {}, shown.Middle(4));
+    EXPECT_EQ(fnSelected(), CItems{4});
+    QTest::keyClick(&shown.View(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(fnSelected().size(), 12U);
+    QTest::mouseClick(&shown.Port(), Qt::LeftButton, {}, {300, 520});
+    EXPECT_EQ(fnSelected(), CItems{});
+    shown.Click(0);
+    QTest::keyClick(&shown.View(), Qt::Key_Right);
+    QTest::keyClick(&shown.View(), Qt::Key_Down);
+    EXPECT_EQ(fnSelected(), CItems{6});
+}
+
+TEST(IconList, ARubberBandTakesWhatItTouches) {
+    CShownIcons shown(7);
+    QWidget& port = shown.Port();
+    const QPoint ptStart(shown.Cell(6).right() + 60, shown.Cell(6).bottom() + 20);
+    QTest::mousePress(&port, Qt::LeftButton, {}, ptStart);
+    QTest::mouseMove(&port, shown.Middle(6));
+    QTest::mouseMove(&port, shown.Middle(1));
+    EXPECT_EQ(shown.icons.SelectedItems(), (CItems{1, 2, 6}));
+    EXPECT_GE(shown.sink.m_nMoves, 2);
+    QTest::mouseRelease(&port, Qt::LeftButton, {}, shown.Middle(1));
+    EXPECT_EQ(shown.sink.Take(), (CHeard{"press", "release"})) << "and no click";
+    // One that starts on an item would be a drag of that item.
+    QTest::mousePress(&port, Qt::LeftButton, {}, shown.Middle(0));
+    QTest::mouseMove(&port, shown.Middle(6));
+    QTest::mouseRelease(&port, Qt::LeftButton, {}, shown.Middle(6));
+    EXPECT_EQ(shown.icons.SelectedItems(), CItems{0});
+}
+
+TEST(IconList, ClicksAreToldWithTheirItem) {
+    CShownIcons shown;
+    shown.Click(3);
+    EXPECT_EQ(shown.sink.Take(), (CHeard{"press", "click 3"})) << "the list keeps the release of a click";
+    QTest::mouseClick(&shown.Port(), Qt::LeftButton, {}, {300, 520});
+    EXPECT_EQ(shown.sink.Take(), (CHeard{"press", "release", "click -1"}));
+    // In the gap between two cells there is no item.
+    QTest::mouseClick(&shown.Port(), Qt::LeftButton, {}, {shown.Cell(0).right() + 3, shown.Middle(0).y()});
+    EXPECT_EQ(shown.sink.Take(), (CHeard{"press", "release", "click -1"}));
+    QTest::mouseDClick(&shown.Port(), Qt::LeftButton, {}, shown.Middle(5));
+    EXPECT_EQ(shown.sink.Take().back(), "double 5");
+    QTest::mouseDClick(&shown.Port(), Qt::LeftButton, {}, {300, 520});
+    const CHeard arrHeard = shown.sink.Take();
+    EXPECT_NE(std::find(arrHeard.begin(), arrHeard.end(), "double -1"), arrHeard.end());
+    // Drawn out of the list, and drawn along inside it.
+    QTest::mousePress(&shown.Port(), Qt::LeftButton, {}, shown.Middle(0));
+    QTest::mouseMove(&shown.Port(), {-200, 20});
+    QTest::mouseRelease(&shown.Port(), Qt::LeftButton, {}, {-200, 20});
+    EXPECT_EQ(shown.sink.Take(), CHeard{"press"});
+    QTest::mousePress(&shown.Port(), Qt::LeftButton, {}, shown.Middle(0));
+    QTest::mouseMove(&shown.Port(), {300, 520});
+    QTest::mouseRelease(&shown.Port(), Qt::LeftButton, {}, {300, 520});
+    EXPECT_EQ(shown.sink.Take(), (CHeard{"press", "release"}));
+}
+
+TEST(IconList, ADoubleClickMayChangeEverything) {
+    CShownIcons shown;
+    shown.sink.m_fnDouble = [&] { shown.icons.SetItems(Names(1)); };
+    QTest::mouseDClick(&shown.Port(), Qt::LeftButton, {}, shown.Middle(9));
+    Settle();
+    EXPECT_EQ(shown.View().model()->rowCount(), 1);
+    EXPECT_EQ(shown.icons.SelectedItems(), CItems{});
+    shown.sink.m_fnDouble = [&] { shown.icons.SetItems({}); };
+    QTest::mouseDClick(&shown.Port(), Qt::LeftButton, {}, shown.Middle(0));
+    Settle();
+    QTest::keyClick(&shown.View(), Qt::Key_Down);
+    EXPECT_EQ(shown.Shown(), CItems{});
+}
+
+TEST(IconList, TheRightButtonOnlyAsks) {
+    CShownIcons shown;
+    shown.Click(1);
+    shown.sink.Take();
+    shown.Click(7, {}, Qt::RightButton);
+    shown.Click(2, {}, Qt::RightButton);
+    shown.Click(1, {}, Qt::RightButton);
+    EXPECT_EQ(shown.sink.Take(), (CHeard{"right 7", "right 2", "right 1"}));
+    EXPECT_EQ(shown.icons.SelectedItems(), (CItems{2, 7}));
+    EXPECT_EQ(shown.Shown(), (CItems{2, 7}));
+    EXPECT_TRUE(shown.shown.dialog.m_arrMouse.empty());
+}
+
+TEST(IconList, KeysReachTheLogic) {
+    CShownIcons shown;
+    shown.Click(1);
+    shown.sink.Take();
+    QTest::keyClick(&shown.View(), Qt::Key_Delete);
+    QTest::keyClick(&shown.View(), Qt::Key_Delete, Qt::ShiftModifier);
+    QTest::keyClick(&shown.View(), Qt::Key_Return);
+    EXPECT_EQ(shown.sink.Take(), (CHeard{"key 46", "shift+key 46", "enter"}));
+}
+
+// The look of what is selected: a warm rim around the picture, and warm ground below the name.
+TEST(IconList, ASelectedCellStandsOut) {
+    CShownIcons shown;
+    shown.icons.SetPicture(0, Picture(kRed));
+    shown.icons.Select(0, true);
+    Settle();
+    const QRect rc = shown.Cell(0);
+    const QImage image = shown.Port().grab().toImage();
+    int nWarm = 0;
+    for (int y = rc.top(); y <= rc.bottom(); ++y)
+        for (int x = rc.left(); x <= rc.right(); ++x) nWarm += image.pixelColor(x, y) == QColor(232, 143, 54);
+    EXPECT_GT(nWarm, 110 * 4 * 2);
+    EXPECT_EQ(image.pixelColor(shown.Middle(0)), QColor(200, 20, 30)) << "the picture itself is left alone";
+}
+
+TEST(IconList, TwentyThousandItemsComeUpAtOnce) {
+    CShownIcons shown;
+    QElapsedTimer timer;
+    timer.start();
+    shown.icons.SetItems(Names(20000));
+    shown.Port().grab();
+    const auto nShow = timer.restart();
+    shown.View().verticalScrollBar()->setValue(shown.View().verticalScrollBar()->maximum());
+    shown.Port().grab();
+    const auto nScroll = timer.restart();
+    for (int i = 0; i < 1000; ++i) shown.icons.SetPicture(19000 + i, Picture(kRed));
+    Settle();
+    const auto nChange = timer.restart();
+    QTest::keyClick(&shown.View(), Qt::Key_A, Qt::ControlModifier);
+    const auto nSelect = timer.restart();
+    EXPECT_EQ(shown.icons.SelectedCount(), 20000);
+    // Far above what it takes, below what anything that grows with the square would.
+    for (const auto nTime : {nShow, nScroll, nChange, nSelect}) EXPECT_LT(nTime, 3000);
+}

@@ -14,8 +14,12 @@ CMainDlg::CMainDlg(const CPlatform& platform)
       m_editor({m_state, m_images, Controls(), m_canvas, m_tools, *this, platform.boxes, platform.wait}),
       m_files({m_state, m_images, Controls(), m_canvas, m_tools, *this, platform.boxes, platform.wait,
                platform.files, platform.folders, *this, m_editor}),
+      m_geometry({m_state, m_images, m_canvas, m_tools, *this, platform.boxes, platform.modals, platform.wait,
+                  m_editor}),
       m_lines(m_state, m_images, Controls()),
       m_skin(m_state, Controls(), platform.timers, *this, *this),
+      m_thum(platform.drives, {Controls(), platform.folders, platform.shell, platform.boxes, platform.timers,
+                               platform.wait, platform.bitmaps, *this}),
       m_effects(Controls()),
       m_modes({m_state, m_images, Controls(), m_canvas, m_tools, m_editor, m_lines, m_thum, m_effects,
                m_textArt, m_link, platform.wait}) {}
@@ -25,10 +29,13 @@ void CMainDlg::OnInitDialog() {
     Controls().Check(kRadioProjection, true);
     Controls().Check(kRadioImageSize, true);
     Controls().SetRange(kProgress, 0, 50);
+    m_thum.Build();
+    m_thum.ShowCurrentFolder();
     GoToMode(kModeThum);
 }
 
 void CMainDlg::OnDestroy() {
+    m_thum.List().StopFill();
     m_images.Release();
     m_images.m_stackUndo.Clear();
     m_images.m_stackRedo.Clear();
@@ -40,6 +47,14 @@ void CMainDlg::OnDestroy() {
 
 void CMainDlg::OnPaint(CClientArea& client) {
     m_skin.Paint(client);
+}
+
+CTreeModel* CMainDlg::TreeOf(int nId) {
+    return nId == kFolderTree ? &m_thum.Tree().Model() : nullptr;
+}
+
+CIconListModel* CMainDlg::IconsOf(int nId) {
+    return nId == kFileList ? &m_thum.List().Model() : nullptr;
 }
 
 CScrollView* CMainDlg::ViewOf(int nId) {

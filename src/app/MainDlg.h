@@ -26,6 +26,7 @@ class CMainDlg : public CDialog,
                  private CEditorHost,
                  private CCanvasHost,
                  private CSkinHost,
+                 private CBrowseHost,
                  private CPreviewFactory {
   public:
     // What the platform gives outlives the window.
@@ -37,6 +38,7 @@ class CMainDlg : public CDialog,
     const CToolController& Tools() const { return m_tools; }
     const CPhoneLink& Link() const { return m_link; }
     CMySCrollView& Canvas() { return m_canvas; }
+    CThumPanel& Thum() { return m_thum; }
 
     // A double click on a picture file in the file list.
     void OpenFileByName(const std::string& strFolder, const std::string& strName);
@@ -50,6 +52,8 @@ class CMainDlg : public CDialog,
     bool OnKey(const CKeyEvent& event) override;
     void OnTimer(int nTimer) override;
     CScrollView* ViewOf(int nId) override;
+    CTreeModel* TreeOf(int nId) override;
+    CIconListModel* IconsOf(int nId) override;
 
   protected:
     void OnPaint(CClientArea& client) override;
@@ -70,15 +74,26 @@ class CMainDlg : public CDialog,
     void EnableSizeCommands(bool bEnable) override { m_modes.EnableSizeCommands(bEnable); }
     void InitTextArt() override { m_textArt.InitTextArt(); }
     bool IsConnected() const override { return m_link.IsConnected(); }
+    std::vector<CSize> PhoneSizes() const override { return m_link.PhoneSizes(); }
     void FollowFolder(const std::string& strFolder) override { m_thum.FollowFolder(strFolder); }
 
     // CCanvasHost
     void OnCanvasPainted() override;
     void OnPictureMenu() override;
 
+    // CBrowseHost
+    void ShowFileInfo(const std::string& strName, EFileInfo kind) override {
+        m_lines.ShowFileInfo(strName, kind);
+    }
+    void OpenPicture(const std::string& strFolder, const std::string& strName) override {
+        m_files.OpenFileByName(strFolder, strName);
+    }
+    void LeaveEditInfo() override { m_state.m_bEditInfo = false; }
+    bool IsThumMode() const override { return m_state.m_bThumbMode; }
+
     // CSkinHost
     CColor TextColor() const override { return m_textArt.TextColor(); }
-    bool IsListPressed() const override { return m_thum.IsPressed(); }
+    bool IsListPressed() const override { return m_thum.List().IsPressed(); }
     void PaintToolPanel(CClientArea& /*client*/) override {}
 
     // CPreviewFactory

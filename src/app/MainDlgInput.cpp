@@ -57,6 +57,8 @@ void CMainDlg::OnTimer(int nTimer) {
 }
 
 bool CMainDlg::OnKey(const CKeyEvent& event) {
+    // Enter in the file list is the list's own.
+    if (event.nKey == kKeyEnter && Controls().Focus() == kFileList) return false;
     if (event.nKey == kKeyEscape || event.nKey == kKeyEnter) return true;
     return event.bCtrl && m_state.m_bImageOpen && OnCtrlKey(event.nKey);
 }

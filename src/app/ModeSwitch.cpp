@@ -56,7 +56,9 @@ void CModeSwitch::UpdateTabs() {
 
 // --- hide steps ---
 
+// A fill ends here: the list is read anew on the way back.
 void CModeSwitch::HideThum() {
+    m_env.thum.List().StopFill();
     m_env.controls.Show(kFolderTree, false);
     m_env.controls.Show(kProgress, false);
     m_env.state.m_bThumbMode = false;
@@ -98,7 +100,7 @@ void CModeSwitch::HideStick() {
 
 void CModeSwitch::ForgetListDrag() {
     m_env.link.ForgetSend();
-    m_env.thum.ForgetPress();
+    m_env.thum.List().ForgetPress();
 }
 
 void CModeSwitch::ShowNoPicture() {

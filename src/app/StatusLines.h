@@ -3,12 +3,10 @@
 #include <memory>
 #include <string>
 
+#include "browse/BrowseHost.h"
 #include "editor/EditState.h"
 #include "editor/WorkingImages.h"
 #include "window/ControlSet.h"
-
-// What ShowFileInfo is told about.
-enum class EFileInfo { Clear = -1, Folder = 0, Picture = 1 };
 
 // The three info lines above the picture and the help line below it. Each info line is a pair of controls on
 // one spot, one for the edited picture, one for the browsed file; m_bEditInfo decides which of the two is

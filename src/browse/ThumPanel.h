@@ -2,18 +2,29 @@
 
 #include <string>
 
-// THUM: the folder tree and the file list beside it.
+#include "browse/FolderTree.h"
+#include "browse/PicFileList.h"
+
+// THUM: the folder tree and the file list beside it, hooked to each other.
 class CThumPanel {
   public:
-    // The left button is down in the file list.
-    bool IsPressed() const { return m_bPressed; }
-    void ForgetPress() { m_bPressed = false; }
+    // All of these outlive the panel.
+    CThumPanel(CDrives& drives, const CPicFileList::CEnvironment& env);
 
+    CFolderTree& Tree() { return m_tree; }
+    CPicFileList& List() { return m_list; }
+    const CPicFileList& List() const { return m_list; }
+
+    // At start: builds the tree.
+    void Build() { m_tree.BuildRoot(); }
+    // At start, when list and canvas stand: shows the folder that the tree starts on.
+    void ShowCurrentFolder() { m_tree.ShowCurrentFolder(); }
     // Opens and selects the tree's current item and reads the list anew.
-    void ReturnToFolder() {}
+    void ReturnToFolder();
     // Lets tree and list follow the folder into which a file was saved.
-    void FollowFolder(const std::string& /*strFolder*/) {}
+    void FollowFolder(const std::string& strFolder);
 
   private:
-    bool m_bPressed = false;
+    CPicFileList m_list;
+    CFolderTree m_tree;
 };

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "image/Geometry.h"
 
 // What the commands of an edit ask of the window that they work for.
 class CEditorHost {
@@ -17,6 +20,8 @@ class CEditorHost {
     // Puts the settings of text art back to their defaults.
     virtual void InitTextArt() = 0;
     virtual bool IsConnected() const = 0;
+    // The picture sizes of the phone, as it told them; none before a phone has been connected.
+    virtual std::vector<CSize> PhoneSizes() const = 0;
     // Lets the folder tree and the file list follow the folder into which a file was saved.
     virtual void FollowFolder(const std::string& strFolder) = 0;
 };

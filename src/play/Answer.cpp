@@ -16,6 +16,8 @@ const char* NameOf(EQuestion question) {
             return "menu";
         case EQuestion::Size:
             return "size";
+        case EQuestion::Delete:
+            return "delete";
         case EQuestion::Modal:
             break;
     }

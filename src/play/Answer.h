@@ -5,14 +5,14 @@
 #include <vector>
 
 #include "image/Color.h"
-#include "image/Geometry.h"
 #include "window/Choosers.h"
 #include "window/FileDialogs.h"
 #include "window/MessageBoxes.h"
 #include "window/PopupMenus.h"
 
-// What can be asked of the user. Modal: a dialog of the program's own that no other kind stands for.
-enum class EQuestion { Box, Open, Save, Color, Font, Menu, Size, Modal };
+// What can be asked of the user. Delete: the system's own question before it deletes files. Modal: a dialog
+// of the program's own that no other kind stands for.
+enum class EQuestion { Box, Open, Save, Color, Font, Menu, Size, Delete, Modal };
 
 // The name of a kind of question in scripts and messages.
 const char* NameOf(EQuestion question);
@@ -26,7 +26,11 @@ struct CAnswer {
     std::string strPath;  // whole path
     CColor color;
     CFontChoice font;
-    CSize size;
+    // Texts for the size dialog; one that is missing is not typed.
+    std::optional<std::string> strWidth;
+    std::optional<std::string> strHeight;
+    bool bKeepRatio = false;
+    bool bDelete = false;
     int nMenuId = 0;
     int nLine = 0;  // of the script that gave it, 0 for none
 };

@@ -29,7 +29,8 @@ CScriptedPlatform::~CScriptedPlatform() {
 }
 
 CPlatform CScriptedPlatform::Get() {
-    return {*this, *this, *this, *this, *this, *this, m_timers, *this, *this, *this, *this};
+    return {*this, *this, *this, *this, *this, *this, m_timers,
+            *this, *this, *this, *this, *this, *this, *this};
 }
 
 // One entry for each dialog of the program's own that a user of this platform can work through.
@@ -76,9 +77,16 @@ void CScriptedPlatform::AnswerFont(const std::string& strFace, bool bBold) {
     Answer(std::move(answer));
 }
 
-void CScriptedPlatform::AnswerSize(CSize size) {
+void CScriptedPlatform::AnswerSize(const std::string& strWidth, const std::string& strHeight) {
     CAnswer answer = AnswerTo(EQuestion::Size);
-    answer.size = size;
+    answer.strWidth = strWidth;
+    answer.strHeight = strHeight;
+    Answer(std::move(answer));
+}
+
+void CScriptedPlatform::AnswerDelete(bool bDelete) {
+    CAnswer answer = AnswerTo(EQuestion::Delete);
+    answer.bDelete = bDelete;
     Answer(std::move(answer));
 }
 
@@ -120,6 +128,9 @@ std::vector<CAsked> CScriptedPlatform::TakeAsked() {
 }
 std::vector<CProblem> CScriptedPlatform::TakeProblems() {
     return std::exchange(m_arrProblems, {});
+}
+std::vector<CShellAct> CScriptedPlatform::TakeShellActs() {
+    return std::exchange(m_arrShellActs, {});
 }
 
 // --- questions ---

@@ -10,10 +10,22 @@
 #include "play/Answer.h"
 #include "play/PlayHost.h"
 #include "play/VirtualTimers.h"
+#include "window/Bitmaps.h"
 #include "window/Clipboard.h"
+#include "window/Drives.h"
 #include "window/Folders.h"
 #include "window/Platform.h"
+#include "window/Shell.h"
 #include "window/WaitCursor.h"
+
+// What the program had the system do with files.
+struct CShellAct {
+    bool bOpen = false;  // opened; else deleted
+    std::vector<std::string> arrPaths;
+    bool bToBin = false;
+    bool bAsked = false;
+    bool bDone = false;  // nothing stayed
+};
 
 // A platform without a window: answers come from a queue, time passes when it is told to, and everything that
 // was asked is kept to be looked at.
@@ -30,7 +42,10 @@ class CScriptedPlatform : private CMessageBoxes,
                           private CWaitCursor,
                           private CClipboard,
                           private CFolders,
-                          private CTextRasterizer {
+                          private CTextRasterizer,
+                          private CDrives,
+                          private CShell,
+                          private CBitmaps {
   public:
     CScriptedPlatform();
     // The process's current folder becomes again what it was.
@@ -49,7 +64,11 @@ class CScriptedPlatform : private CMessageBoxes,
     void AnswerSave(const std::string& strPath);
     void AnswerColor(CColor color);
     void AnswerFont(const std::string& strFace, bool bBold);
-    void AnswerSize(CSize size);
+    // For the size dialog: typed with the ratio not kept.
+    void AnswerSize(const std::string& strWidth, const std::string& strHeight);
+    void AnswerSize(CSize size) { AnswerSize(std::to_string(size.cx), std::to_string(size.cy)); }
+    // For the system's question before files are deleted.
+    void AnswerDelete(bool bDelete);
     void AnswerMenu(int nId);
     // Leaves the next question of any kind but a box without a choice.
     void AnswerCancel();
@@ -63,6 +82,7 @@ class CScriptedPlatform : private CMessageBoxes,
     std::vector<CMessageBox> TakeBoxes();
     std::vector<CAsked> TakeAsked();
     std::vector<CProblem> TakeProblems();
+    std::vector<CShellAct> TakeShellActs();
 
     // --- time ---
     // Lets the time pass; the hosts paint behind every tick.
@@ -81,6 +101,23 @@ class CScriptedPlatform : private CMessageBoxes,
     // For runners and topics: the answer that waits for such a question. Nothing if it is to be cancelled.
     std::optional<CAnswer> TakeAnswer(EQuestion question);
 
+    // --- drives and files ---
+    // The drives in the order of their letters; none at first.
+    void SetDrives(std::vector<CDrive> arrDrives) { m_arrDrives = std::move(arrDrives); }
+    // A drive whose top is that folder, named after its letter alone. Takes the place of one with that
+    // letter.
+    void AddDrive(char cLetter, const std::string& strFolder);
+    void RemoveDrive(char cLetter);
+    const std::vector<CDrive>& Drives() const { return m_arrDrives; }
+    // A path as "D:/photos/sea.jpg", by the drive whose top lies next above; as it is if it is on no drive.
+    std::string OnDrive(const std::string& strPath) const;
+    // The folder that takes what goes to the recycle bin, on the same file system as what is thrown away.
+    // With none at first, what goes to the bin is refused, which counts as a problem. What does not go there
+    // is deleted for good.
+    void SetBin(const std::string& strFolder) { m_strBin = strFolder; }
+    // Refuses to delete anything, as with a folder that may not be written.
+    void RefuseDeletes(bool bRefuse) { m_bRefuseDeletes = bRefuse; }
+
     // --- the rest ---
     // The pictures of all dialogs that the program runs; may be null.
     void SetBitmaps(CBitmaps* pBitmaps) { m_pBitmaps = pBitmaps; }
@@ -96,6 +133,8 @@ class CScriptedPlatform : private CMessageBoxes,
     void PaintAll();
     void AddRunners();
     CAsked& Ask(EQuestion question);
+    bool MayDelete(bool bToBin, bool bAsk);
+    bool DeleteOne(const std::string& strPath, bool bToBin) const;
     CFileChoice EnterFolderOf(const std::string& strPath);
 
     EBoxAnswer Show(const CMessageBox& box) override;
@@ -114,17 +153,26 @@ class CScriptedPlatform : private CMessageBoxes,
     bool SetCurrentFolder(const std::string& strFolder) override;
     std::string InstallValue() const override { return m_strInstallValue; }
     CTextMask Rasterize(const CTextFont& font, const std::string& strText) override;
+    std::vector<CDrive> List() override { return m_arrDrives; }
+    std::string ComputerName() override { return "我的电脑"; }
+    bool Delete(const std::vector<std::string>& arrPaths, bool bToBin, bool bAsk) override;
+    void Open(const std::string& strPath) override;
+    const CxImage* Find(const std::string& strName, int nDensity) override;
 
     std::vector<CAnswer> m_arrAnswers;
     std::vector<CMessageBox> m_arrBoxes;
     std::vector<CAsked> m_arrAsked;
     std::vector<CProblem> m_arrProblems;
+    std::vector<CShellAct> m_arrShellActs;
     std::map<int, CRunner> m_mapRunners;
     std::vector<CPlayHost*> m_arrHosts;
     CVirtualTimers m_timers;
     CBitmaps* m_pBitmaps = nullptr;
     std::optional<std::vector<std::uint8_t>> m_clipboard;
     std::string m_strInstallValue;
+    std::vector<CDrive> m_arrDrives;
+    std::string m_strBin;
+    bool m_bRefuseDeletes = false;
     std::string m_strFolderBefore;
     int m_nWaitDepth = 0;
     int m_nWaitCount = 0;

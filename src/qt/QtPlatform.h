@@ -3,12 +3,14 @@
 #include "qt/Pictures.h"
 #include "qt/QtClipboard.h"
 #include "qt/QtColorDialogs.h"
+#include "qt/QtDrives.h"
 #include "qt/QtFileDialogs.h"
 #include "qt/QtFolders.h"
 #include "qt/QtFontDialogs.h"
 #include "qt/QtMessageBoxes.h"
 #include "qt/QtModalDialogs.h"
 #include "qt/QtPopupMenus.h"
+#include "qt/QtShell.h"
 #include "qt/QtTextRasterizer.h"
 #include "qt/QtTimers.h"
 #include "qt/QtWaitCursor.h"
@@ -18,7 +20,12 @@
 class CQtPlatform {
   public:
     explicit CQtPlatform(CBitmaps& bitmaps)
-        : m_pictures(bitmaps), m_modals(m_pictures, m_timers), m_files(m_pictures, m_timers) {}
+        : m_pictures(bitmaps),
+          m_modals(m_pictures, m_timers),
+          m_files(m_pictures, m_timers),
+          m_shell(m_boxes),
+          m_platform{m_boxes, m_modals,    m_files,   m_colors, m_fonts,  m_menus, m_timers,
+                     m_wait,  m_clipboard, m_folders, m_text,   m_drives, m_shell, bitmaps} {}
     CQtPlatform(const CQtPlatform&) = delete;
     CQtPlatform& operator=(const CQtPlatform&) = delete;
 
@@ -38,6 +45,7 @@ class CQtPlatform {
     CQtClipboard m_clipboard;
     CQtFolders m_folders;
     CQtTextRasterizer m_text;
-    CPlatform m_platform{m_boxes,  m_modals, m_files,     m_colors,  m_fonts, m_menus,
-                         m_timers, m_wait,   m_clipboard, m_folders, m_text};
+    CQtDrives m_drives;
+    CQtShell m_shell;
+    CPlatform m_platform;
 };

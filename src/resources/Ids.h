@@ -4,6 +4,7 @@
 
 inline constexpr int kDlgPreview = 101;
 inline constexpr int kDlgMain = 102;
+inline constexpr int kDlgSize = 154;
 inline constexpr int kDlgSplash = 273;
 inline constexpr int kMenuPicture = 155;
 
@@ -113,3 +114,16 @@ inline constexpr int kPreviewCheck = 1000;
 inline constexpr int kPreviewFrame = 1001;
 inline constexpr int kPreviewMarker = 1119;
 inline constexpr int kPreviewView = 59649;
+
+// The size dialog
+inline constexpr int kSizeToOwn = 1185;    // leads back to the page of the user's own size
+inline constexpr int kSizeToPhone = 1186;  // leads to the page of the phone's sizes
+inline constexpr int kSizeWidthLabel = 1105;
+inline constexpr int kSizeWidth = 1108;
+inline constexpr int kSizeHeightLabel = 1107;
+inline constexpr int kSizeHeight = 1109;
+inline constexpr int kSizePhoneList = 1135;
+inline constexpr int kSizeKeepRatio = 1110;
+inline constexpr int kSizeKeepRatioLabel = 1252;
+inline constexpr int kSizeOk = 1103;
+inline constexpr int kSizeCancel = 1106;

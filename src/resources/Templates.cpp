@@ -15,6 +15,20 @@ constexpr CControlTemplate kPreviewControls[] = {
     {kPreviewCheck, EControlKind::Check, CRect::FromPlace(21, 182, 67, 16), "&Preview"},
 };
 
+constexpr CControlTemplate kSizeControls[] = {
+    {kSizeToOwn, EControlKind::BitmapButton, CRect::FromPlace(7, 20, 156, 25), "PHONEIMAGE", false},
+    {kSizeToPhone, EControlKind::BitmapButton, CRect::FromPlace(163, 20, 156, 25), "USERIMAGE"},
+    {kSizeWidthLabel, EControlKind::Static, CRect::FromPlace(35, 73, 76, 20), "宽度"},
+    {kSizeWidth, EControlKind::Edit, CRect::FromPlace(142, 72, 98, 16)},
+    {kSizeHeightLabel, EControlKind::Static, CRect::FromPlace(35, 115, 76, 20), "高度"},
+    {kSizeHeight, EControlKind::Edit, CRect::FromPlace(142, 112, 98, 16)},
+    {kSizePhoneList, EControlKind::Combo, CRect::FromPlace(66, 96, 154, 24), "", false},
+    {kSizeKeepRatio, EControlKind::Check, CRect::FromPlace(9, 167, 14, 14)},
+    {kSizeKeepRatioLabel, EControlKind::BitmapLabel, CRect::FromPlace(25, 167, 76, 15), "668"},
+    {kSizeOk, EControlKind::BitmapButton, CRect::FromPlace(278, 69, 86, 24), "SIZEOK"},
+    {kSizeCancel, EControlKind::BitmapButton, CRect::FromPlace(278, 110, 86, 24), "SIZECANCEL"},
+};
+
 constexpr CMenuItemTemplate kMenuItems[] = {
     {kMenuSize, "变更大小"}, {kMenuFlipVertical, "上下"}, {kMenuFlipHorizontal, "左右"},
     {kMenuTurnLeft, "-90°"}, {kMenuTurnRight, "+90°"},    {kMenuLarge, "扩大"},
@@ -26,4 +40,5 @@ constexpr CMenuItemTemplate kMenuItems[] = {
 
 const CDialogTemplate kSplashDialog = {kDlgSplash, "", {447, 350}, EDialogFrame::None, kSplashControls};
 const CDialogTemplate kPreviewPanel = {kDlgPreview, "", {142, 232}, EDialogFrame::Child, kPreviewControls};
+const CDialogTemplate kSizeDialog = {kDlgSize, "大小变更", {400, 192}, EDialogFrame::Plain, kSizeControls};
 const std::span<const CMenuItemTemplate> kPictureMenu = kMenuItems;

@@ -8,5 +8,7 @@
 extern const CDialogTemplate kSplashDialog;
 // The panel with check box and picture beside the list of the open dialog.
 extern const CDialogTemplate kPreviewPanel;
+// The dialog of the display size, on the page of the user's own size.
+extern const CDialogTemplate kSizeDialog;
 // The menu of a right click on the picture.
 extern const std::span<const CMenuItemTemplate> kPictureMenu;

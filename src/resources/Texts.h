@@ -11,6 +11,21 @@ inline constexpr char kTextOpenFailed[] = "照片格式或文件错误.";
 inline constexpr char kTitleOpenFailed[] = "文件打开错误";
 inline constexpr char kTextSaveFailed[] = "Error: Saving a File";
 
+// The question before one file goes to the recycle bin: its name stands between these.
+inline constexpr char kTextDeleteBefore[] = "\n要把 '";
+inline constexpr char kTextDeleteBehind[] = "' 移动到垃圾箱吗?\n\n";
+inline constexpr char kTitleDelete[] = "文件删除确认";
+
+// Shape and size
+inline constexpr char kTitleNotice[] = "注意";
+inline constexpr char kTextPhoneSizeRules[] = "以现画面大小显示图片\n\n大小变更，请选择当前照片大小的相框";
+inline constexpr char kTextNoTurnLeft[] = "以现画面大小显示图片\n\n照片翻转(-90°)，请选择当前照片大小的相框";
+inline constexpr char kTextNoTurnRight[] = "以现画面大小显示图片\n\n照片翻转(+90°)，请选择当前照片大小的相框";
+inline constexpr char kTitleSizeChange[] = "图像大小变更";
+inline constexpr char kTextTooLarge[] = "最大以上的大小";
+inline constexpr char kTextTooSmall[] = "最小以下的大小";
+inline constexpr char kTextNoPhoneSizes[] = "无手机信息，请先连接手机";
+
 inline constexpr char kTextBuildDate[] = "Build Date : Dec  7 2005";
 inline constexpr char kTitleBuildDate[] = "Orvo Fotarium Version";
 

@@ -6,7 +6,9 @@
 #include "window/Template.h"
 #include "window/Timers.h"
 
+class CIconListModel;
 class CScrollView;
+class CTreeModel;
 
 // The window that shows a dialog. It learns here that something waits to be painted or copied to the screen,
 // and does so when the handler in progress has ended.
@@ -54,6 +56,9 @@ class CDialog : public CTimerTarget {
     // The close box or the system menu.
     virtual void OnClose() { EndDialog(kDialogCancel); }
     void OnTimer(int /*nTimer*/) override {}
+    // What a control of kind Tree, or of kind IconList, shows; null if the dialog has nothing for it.
+    virtual CTreeModel* TreeOf(int /*nId*/) { return nullptr; }
+    virtual CIconListModel* IconsOf(int /*nId*/) { return nullptr; }
     // The view that stands in a control of kind View; null if the dialog has none there.
     virtual CScrollView* ViewOf(int /*nId*/) { return nullptr; }
 

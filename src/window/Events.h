@@ -32,4 +32,5 @@ struct CKeyEvent {
 };
 
 // What a control tells its dialog beside a plain click.
-enum class ENotice { SelectionChanged, TextChanged, Scrolled, Clicked, DoubleClicked };
+// TextChanged comes with every change that the user makes, TextDone when he leaves the edit.
+enum class ENotice { SelectionChanged, TextChanged, TextDone, Scrolled, Clicked, DoubleClicked };

@@ -1,13 +1,16 @@
 #pragma once
 
+class CBitmaps;
 class CClipboard;
 class CColorDialogs;
+class CDrives;
 class CFileDialogs;
 class CFolders;
 class CFontDialogs;
 class CMessageBoxes;
 class CModalDialogs;
 class CPopupMenus;
+class CShell;
 class CTextRasterizer;
 class CTimers;
 class CWaitCursor;
@@ -26,4 +29,7 @@ struct CPlatform {
     CClipboard& clipboard;
     CFolders& folders;
     CTextRasterizer& text;
+    CDrives& drives;
+    CShell& shell;
+    CBitmaps& bitmaps;
 };

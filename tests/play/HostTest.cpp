@@ -103,7 +103,7 @@ TEST_F(HostTest, ClicksAsTheUserDoes) {
     EXPECT_EQ(m_dialog.Controls().Text(kEdit), "hél");
     EXPECT_EQ(m_host->MoveSlider(kSlider, 40), "");
     EXPECT_NE(m_host->MoveSlider(kSlider, 101), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "notice 15:0;notice 15:3;notice 15:3;notice 16:1;notice 18:2;");
+    EXPECT_EQ(m_dialog.TakeLog(), "notice 15:0;notice 15:4;notice 15:4;notice 16:1;notice 18:3;");
 
     m_dialog.Controls().Enable(kCheck, false);
     EXPECT_NE(m_host->Click(kCheck), "");
@@ -240,7 +240,7 @@ TEST_F(HostTest, OtherDialogs) {
     EXPECT_EQ(m_platform.TakeProblems().at(0).kind, EProblem::Missing);
     m_platform.SetRunner(900, [](CPlayHost& host) {
         const std::optional<CAnswer> answer = host.Platform().TakeAnswer(EQuestion::Size);
-        if (answer) host.Dialog().EndDialog(answer->size.cx);
+        if (answer) host.Dialog().EndDialog(std::stoi(*answer->strWidth));
     });
     m_platform.AnswerSize({7, 8});
     CLogDialog second;

@@ -1,7 +1,6 @@
 #include "controls/SkinSlider.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace {
 
@@ -73,30 +72,46 @@ int CSkinSlider::PositionAt(CPoint pt) const {
     const CSize size = m_client.Size();
     const int nSlot = (m_bVertical ? size.cy : size.cx) - kFreePixels;
     const int nHalf = (m_bVertical ? kThumbSize.cy : kThumbSize.cx) / 2;
-    const int nOffset = (m_bVertical ? pt.y : pt.x) - m_nGrip + nHalf - kEndPixels;
+    const int nOffset = Along(pt) - m_nGrip + nHalf - kEndPixels;
     const CControl& control = Control();
     if (nSlot <= 0) return control.nPos;
     const double t = std::clamp(static_cast<double>(nOffset) / nSlot, 0.0, 1.0);
     return control.nMin + static_cast<int>(t * (control.nMax - control.nMin) + 0.5);
 }
 
+// -1 before the thumb, 1 behind it, 0 beside it.
+int CSkinSlider::WayTo(CPoint pt) const {
+    const int nFrom = ThumbStart();
+    const int nLength = m_bVertical ? kThumbSize.cy : kThumbSize.cx;
+    if (Along(pt) < nFrom) return -1;
+    return Along(pt) < nFrom + nLength ? 0 : 1;
+}
+
 bool CSkinSlider::OnMouse(const CMouseEvent& event) {
-    if (event.action == EMouseAction::Move) return m_bThumbHeld && MoveTo(PositionAt(event.pt));
-    if (event.button != EMouseButton::Left) return false;
-    if (event.action == EMouseAction::Release) {
-        m_bButtonDown = false;
+    const bool bLeft = event.button == EMouseButton::Left;
+    // A release can be lost on a window that came up meanwhile.
+    const bool bUp = event.action == EMouseAction::Move && (event.nFlags & kMouseLeftDown) == 0;
+    if (bUp || (bLeft && event.action == EMouseAction::Release)) {
         m_bThumbHeld = false;
+        m_nWay = 0;
         return false;
     }
-    const CRect rcThumb = ThumbRect();
-    m_bButtonDown = true;
-    if (rcThumb.Contains(event.pt)) {
-        m_bThumbHeld = true;
-        m_nGrip = m_bVertical ? event.pt.y - rcThumb.top : event.pt.x - rcThumb.left;
-        return false;
+    m_ptHand = event.pt;
+    if (event.action == EMouseAction::Move) {
+        // Several positions share a pixel: a hand that only trembles keeps the one that it has.
+        const bool bStays = Along(event.pt) - m_nGrip == ThumbStart();
+        return m_bThumbHeld && !bStays && MoveTo(PositionAt(event.pt));
     }
-    const bool bBefore = m_bVertical ? event.pt.y < rcThumb.top : event.pt.x < rcThumb.left;
-    return MoveTo(Control().nPos + (bBefore ? -PageStep() : PageStep()));
+    if (!bLeft) return false;
+    m_nGrip = Along(event.pt) - ThumbStart();
+    m_nWay = WayTo(event.pt);
+    m_bThumbHeld = m_nWay == 0;
+    return OnHeld();
+}
+
+bool CSkinSlider::OnHeld() {
+    if (m_nWay == 0 || WayTo(m_ptHand) != m_nWay) return false;
+    return MoveTo(Control().nPos + m_nWay * PageStep());
 }
 
 bool CSkinSlider::OnKey(int nKey) {

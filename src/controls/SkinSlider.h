@@ -32,13 +32,20 @@ class CSkinSlider {
     bool OnKey(int nKey);
     // nSteps: notches of the wheel, above 0 away from the user.
     bool OnWheel(int nSteps);
+    // A press on the channel that is held goes on, a page at each call, until the thumb is under the hand.
+    bool OnHeld();
 
     bool IsThumbHeld() const { return m_bThumbHeld; }
+    // The button is held on the channel.
+    bool IsPaging() const { return m_nWay != 0; }
     // A press on the channel moves the thumb this far towards it: a fifth of the range.
     int PageStep() const;
 
   private:
     const CControl& Control() const { return *m_controls.Find(m_nId); }
+    int Along(CPoint pt) const { return m_bVertical ? pt.y : pt.x; }
+    int ThumbStart() const { return Along({ThumbRect().left, ThumbRect().top}); }
+    int WayTo(CPoint pt) const;
     bool MoveTo(int nPos);
     int PositionAt(CPoint pt) const;
 
@@ -47,8 +54,9 @@ class CSkinSlider {
     bool m_bVertical;
     CClientArea m_client;
     CBitmaps* m_pBitmaps = nullptr;
-    CRect m_rcPainted;  // the thumb as last painted
-    bool m_bButtonDown = false;
+    CRect m_rcPainted;          // the thumb as last painted
     bool m_bThumbHeld = false;  // the button went down on the thumb
     int m_nGrip = 0;            // where on the thumb, from its first pixel
+    int m_nWay = 0;             // the button went down before (-1) or behind (1) the thumb
+    CPoint m_ptHand;            // where the mouse is while it pages
 };

@@ -6,6 +6,7 @@
 #include "qt/EditWidget.h"
 #include "qt/ListWidget.h"
 #include "qt/MarkBox.h"
+#include "qt/PictureListWidget.h"
 #include "qt/PlainButton.h"
 #include "qt/ProgressWidget.h"
 #include "qt/ScrollViewWidget.h"
@@ -35,6 +36,7 @@ std::unique_ptr<CControlWidget> CreateControlWidget(const CControlContext& conte
         case EControlKind::Combo:
             return std::make_unique<CComboWidget>(context);
         case EControlKind::PictureList:
+            return std::make_unique<CPictureListWidget>(context);
         case EControlKind::IconList:
             return std::make_unique<CListWidget>(context);
         case EControlKind::Tree:

@@ -4,10 +4,9 @@
 #include <cstdint>
 
 // The colour conversions of ColorSpace.h over runs of pixels, the same to the last bit, and the way between
-// pixels (three bytes each: R, G, B) and one byte array for each channel. n counts pixels and may be
-// anything, 0 as well; exactly n pixels are read and written. Any address will do; a multiple of 64 is
-// fastest. An array must not overlap another argument, but for the arrays of one call that change places as a
-// whole (see each function).
+// pixels (three bytes each: R, G, B) and one byte array for each channel. n counts pixels and may be anything,
+// 0 as well; exactly n pixels are read and written. Any address will do; a multiple of 64 is fastest. What is
+// written must not overlap another argument; what is only read may be the same.
 //
 // Meant for chunks: convert, work on the arrays, convert back, while all of it lies in the nearest cache.
 
@@ -23,7 +22,6 @@ struct CChunk {
 };
 
 void SplitRgb(const std::uint8_t* pRgb, std::uint8_t* pR, std::uint8_t* pG, std::uint8_t* pB, std::size_t n);
-// pR, pG and pB may be the same array.
 void JoinRgb(const std::uint8_t* pR, const std::uint8_t* pG, const std::uint8_t* pB, std::uint8_t* pRgb,
              std::size_t n);
 

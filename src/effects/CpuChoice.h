@@ -7,6 +7,8 @@
 #if defined(__x86_64__) && defined(__GNUC__)
 #define FOTARIUM_HAS_AVX2 1
 #define FOTARIUM_AVX2 __attribute__((target("avx2,fma")))
+// For the small parts that such a function is made of: they become part of it.
+#define FOTARIUM_AVX2_PART inline __attribute__((always_inline, target("avx2,fma")))
 #else
 #define FOTARIUM_HAS_AVX2 0
 #define FOTARIUM_AVX2

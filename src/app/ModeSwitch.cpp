@@ -79,7 +79,6 @@ void CModeSwitch::HideEffect() {
     m_env.controls.SetText(kEffectLevel, kBlankLevel);
     m_env.state.m_bNoEffectLevel = true;
     m_env.state.m_bEffectMode = false;
-    m_env.state.m_bEffectPending = false;
 }
 
 void CModeSwitch::HideFont() {

@@ -58,6 +58,12 @@ void CEffectFlow::RestSlider() {
 }
 
 void CEffectFlow::DropPreview() {
+    // What no mode's own rules turn on again.
+    if (m_env.state.m_bEffectPending) {
+        m_env.controls.Enable(kCmdNew, true);
+        if (m_env.editorHost.IsConnected()) m_env.controls.Enable(kCmdTake, true);
+    }
+    m_env.state.m_bEffectPending = false;
     m_pImgEffectSmall.reset();
     m_pImgEffectBase.reset();
 }
@@ -122,6 +128,8 @@ void CEffectFlow::OnSelChangeEffectList() {
     // Of a very long and thin picture one line is left at this size.
     pBase->Resample(std::max(1, size.cx), std::max(1, size.cy));
     m_pImgEffectBase = std::move(pBase);
+    // Without memory for the effect the preview shows the picture as it is.
+    m_pImgEffectSmall = std::make_unique<CxImage>(*m_pImgEffectBase);
     ShowLevel(RowOf(nEffect).bHasLevel);
     ApplyToPreview(false);
     m_env.state.m_bEffectPending = true;

@@ -45,7 +45,7 @@ class CEffectFlow {
     void ShowEffectControls(bool bShow);
     // The slider as it stands while no effect is selected.
     void RestSlider();
-    // Lets go of the preview's images; for leaving the mode.
+    // Drops a preview that is up, and its images; for leaving the mode.
     void DropPreview();
     // Draws the preview into its box if one is up.
     void PaintPreview(CClientArea& client) const;

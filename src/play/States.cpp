@@ -31,6 +31,11 @@ std::string Image(CMainDlg& dialog) {
     return pImage ? Flag(dialog.State().m_bImageOpen) + " " + Pair(pImage->GetSize()) : "0";
 }
 
+std::string Preview(CMainDlg& dialog) {
+    const CxImage* pPreview = dialog.Effects().Preview();
+    return pPreview == nullptr ? "none" : Pair(pPreview->GetSize());
+}
+
 constexpr CStateEntry kStates[] = {
     {"mode", Mode, "The active mode and its name."},
     {"undo", [](CMainDlg& d) { return std::to_string(d.Images().m_stackUndo.Count()); }, "Steps back."},
@@ -42,6 +47,10 @@ constexpr CStateEntry kStates[] = {
     {"zoom", [](CMainDlg& d) { return std::to_string(d.Tools().Zoom()); }, "The zoom of DRAW: 1, 2, 4 or 6."},
     {"frame", [](CMainDlg& d) { return Flag(d.Images().m_bFrameOn); },
      "Whether a frame lies on the picture."},
+    {"effect", [](CMainDlg& d) { return std::to_string(d.Effects().Effect()); },
+     "The effect that was chosen last, 0 to 30."},
+    {"level", [](CMainDlg& d) { return std::to_string(d.Effects().Level()); }, "Its level."},
+    {"preview", Preview, "Width and height of the effect's preview, or none."},
     {"pending", [](CMainDlg& d) { return Flag(d.State().m_bEffectPending); },
      "Whether an effect's preview waits for CONFIRM."},
     {"float", [](CMainDlg& d) { return Flag(d.Canvas().IsFloating()); },

@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstring>
 
 #include "effects/ColourRowForms.h"
 #include "effects/HueRamp.h"
@@ -9,7 +11,7 @@ namespace {
 
 // Pixels that are turned at a time. The loops over a block have no branch and a fixed count, so that the
 // compiler can take several pixels at once.
-constexpr std::size_t kBlock = 256;
+constexpr std::size_t kBlock = 1024;
 
 using CBytes = std::array<std::uint8_t, kBlock>;
 
@@ -19,30 +21,50 @@ struct CBlock {
     CBytes c;
 };
 
-void SplitBlock(const std::uint8_t* __restrict pRgb, std::uint8_t* __restrict pA, std::uint8_t* __restrict pB,
-                std::uint8_t* __restrict pC, std::size_t n) {
-    for (std::size_t i = 0; i < n; ++i) {
+// The byte nFrom of a word, moved to the place nTo.
+constexpr std::uint64_t MoveByte(std::uint64_t nWord, int nFrom, int nTo) {
+    return ((nWord >> (8 * nFrom)) & 0xFF) << (8 * nTo);
+}
+
+// Every third of 24 bytes from nFirst on. Words are taken with their lowest byte first; on a machine that
+// counts the other way the caller goes pixel by pixel.
+constexpr std::uint64_t EveryThird(const std::array<std::uint64_t, 3>& words, int nFirst) {
+    std::uint64_t nResult = 0;
+    for (int i = 0; i < 8; ++i) {
+        const int nByte = 3 * i + nFirst;
+        nResult |= MoveByte(words[static_cast<std::size_t>(nByte / 8)], nByte % 8, i);
+    }
+    return nResult;
+}
+
+void SplitRun(const std::uint8_t* __restrict pRgb, std::uint8_t* __restrict pA, std::uint8_t* __restrict pB,
+              std::uint8_t* __restrict pC, std::size_t n) {
+    std::size_t i = 0;
+    if constexpr (std::endian::native == std::endian::little) {
+        for (; i + 8 <= n; i += 8) {
+            std::array<std::uint64_t, 3> words;
+            std::memcpy(words.data(), pRgb + 3 * i, sizeof words);
+            const std::uint64_t a = EveryThird(words, 0);
+            const std::uint64_t b = EveryThird(words, 1);
+            const std::uint64_t c = EveryThird(words, 2);
+            std::memcpy(pA + i, &a, sizeof a);
+            std::memcpy(pB + i, &b, sizeof b);
+            std::memcpy(pC + i, &c, sizeof c);
+        }
+    }
+    for (; i < n; ++i) {
         pA[i] = pRgb[3 * i];
         pB[i] = pRgb[3 * i + 1];
         pC[i] = pRgb[3 * i + 2];
     }
 }
 
-void JoinBlock(const std::uint8_t* pA, const std::uint8_t* pB, const std::uint8_t* pC,
-               std::uint8_t* __restrict pRgb, std::size_t n) {
+void JoinRun(const std::uint8_t* pA, const std::uint8_t* pB, const std::uint8_t* pC,
+             std::uint8_t* __restrict pRgb, std::size_t n) {
     for (std::size_t i = 0; i < n; ++i) {
         pRgb[3 * i] = pA[i];
         pRgb[3 * i + 1] = pB[i];
         pRgb[3 * i + 2] = pC[i];
-    }
-}
-
-void ToYuv(CBlock& block) {
-    for (std::size_t i = 0; i < kBlock; ++i) {
-        const CColor yuv = ColorRGBtoYUV({block.a[i], block.b[i], block.c[i]});
-        block.a[i] = yuv.r;
-        block.b[i] = yuv.g;
-        block.c[i] = yuv.b;
     }
 }
 
@@ -51,13 +73,57 @@ void ToLuma(CBlock& block) {
         block.a[i] = ColorRGBtoYUV({block.a[i], block.b[i], block.c[i]}).r;
 }
 
+// U, V, R and B are computed in words, of which a vector holds many: whole-number forms that cut the fraction
+// at the same place as the formula for every difference there is.
+
+constexpr short HighProduct(short a, short b) {
+    return static_cast<short>((a * b) >> 16);
+}
+
+constexpr std::uint8_t LimitWord(short n) {
+    return static_cast<std::uint8_t>(std::clamp<short>(n, 0, 255));
+}
+
+// (B - Y) 0.565 + 128 is (113 (B - Y) + 25600) / 200; beyond these bounds the result is limited.
+constexpr std::uint8_t ChromaU(short nDifference) {
+    const short n = std::clamp<short>(nDifference, -226, 225);
+    return static_cast<std::uint8_t>(static_cast<std::uint16_t>(113 * n + 25600) / 200);
+}
+
+// 0.713 is 1 - 18811 / 65536.
+constexpr std::uint8_t ChromaV(short nDifference) {
+    return LimitWord(static_cast<short>(nDifference + HighProduct(nDifference, -18811) + 128));
+}
+
+void ToYuv(CBlock& block) {
+    const CBlock rgb = block;
+    ToLuma(block);
+    for (std::size_t i = 0; i < kBlock; ++i) block.b[i] = ChromaU(static_cast<short>(rgb.c[i] - block.a[i]));
+    for (std::size_t i = 0; i < kBlock; ++i) block.c[i] = ChromaV(static_cast<short>(rgb.a[i] - block.a[i]));
+}
+
+// 1.403 is 1 + 26411 / 65536.
+constexpr std::uint8_t RedOf(short y, short v) {
+    return LimitWord(static_cast<short>(y + v + HighProduct(v, 26411)));
+}
+
+// 1.770 is 1 + 25231 / 32768; the added bit sees to u = 100, where the product is a whole number.
+constexpr std::uint8_t BlueOf(short y, short u) {
+    const short nFine = HighProduct(static_cast<short>(u * 256), 25231);
+    return LimitWord(static_cast<short>(y + u + (static_cast<short>(nFine + 1) >> 7)));
+}
+
+constexpr std::uint8_t GreenOf(int y, int u, int v) {
+    return LimitWord(static_cast<short>(static_cast<int>(
+        static_cast<float>(y) - 0.344F * static_cast<float>(u) - 0.714F * static_cast<float>(v))));
+}
+
 void FromYuv(CBlock& block) {
-    for (std::size_t i = 0; i < kBlock; ++i) {
-        const CColor rgb = ColorYUVtoRGB({block.a[i], block.b[i], block.c[i]});
-        block.a[i] = rgb.r;
-        block.b[i] = rgb.g;
-        block.c[i] = rgb.b;
-    }
+    const CBlock yuv = block;
+    for (std::size_t i = 0; i < kBlock; ++i) block.a[i] = RedOf(yuv.a[i], static_cast<short>(yuv.c[i] - 128));
+    for (std::size_t i = 0; i < kBlock; ++i) block.b[i] = GreenOf(yuv.a[i], yuv.b[i] - 128, yuv.c[i] - 128);
+    for (std::size_t i = 0; i < kBlock; ++i)
+        block.c[i] = BlueOf(yuv.a[i], static_cast<short>(yuv.b[i] - 128));
 }
 
 // (nMul x + d / 2) / d, the fraction cut; 0 where d is 0. Single precision holds the numerator, and a
@@ -146,7 +212,7 @@ void Split(const std::uint8_t* pRgb, std::uint8_t* pA, std::uint8_t* pB, std::ui
     CBlock block{};
     for (std::size_t i = 0; i < n; i += kBlock) {
         const std::size_t nCount = std::min(kBlock, n - i);
-        SplitBlock(pRgb + 3 * i, block.a.data(), block.b.data(), block.c.data(), nCount);
+        SplitRun(pRgb + 3 * i, block.a.data(), block.b.data(), block.c.data(), nCount);
         pTurn(block);
         std::copy_n(block.a.data(), nCount, pA + i);
         std::copy_n(block.b.data(), nCount, pB + i);
@@ -164,7 +230,7 @@ void Join(const std::uint8_t* pA, const std::uint8_t* pB, const std::uint8_t* pC
         std::copy_n(pB + i, nCount, block.b.data());
         std::copy_n(pC + i, nCount, block.c.data());
         pTurn(block);
-        JoinBlock(block.a.data(), block.b.data(), block.c.data(), pRgb + 3 * i, nCount);
+        JoinRun(block.a.data(), block.b.data(), block.c.data(), pRgb + 3 * i, nCount);
     }
 }
 
@@ -172,7 +238,7 @@ void ToY(const std::uint8_t* pRgb, std::uint8_t* pY, std::size_t n) {
     CBlock block{};
     for (std::size_t i = 0; i < n; i += kBlock) {
         const std::size_t nCount = std::min(kBlock, n - i);
-        SplitBlock(pRgb + 3 * i, block.a.data(), block.b.data(), block.c.data(), nCount);
+        SplitRun(pRgb + 3 * i, block.a.data(), block.b.data(), block.c.data(), nCount);
         ToLuma(block);
         std::copy_n(block.a.data(), nCount, pY + i);
     }
@@ -198,7 +264,7 @@ void Add(std::uint8_t* p, int nAdd, std::size_t n) {
 }  // namespace
 
 const CColourRowForms& PlainColourRows() {
-    static constexpr CColourRowForms kForms = {SplitBlock, JoinBlock,    Split<ToYuv>,  ToY, Join<FromYuv>,
-                                               Tint,       Split<ToHsl>, Join<FromHsl>, Add};
+    static constexpr CColourRowForms kForms = {SplitRun, JoinRun,      Split<ToYuv>,  ToY, Join<FromYuv>,
+                                               Tint,     Split<ToHsl>, Join<FromHsl>, Add};
     return kForms;
 }

@@ -27,6 +27,10 @@ constexpr int kKeptOff = 9;
 constexpr std::size_t kPiece = 16;
 // Whether any dab of a field of so many places each way has anything to paint is remembered.
 constexpr std::size_t kField = 16;
+// Dabs up to this side mostly find something to paint, for there are not enough of them to cover the picture.
+constexpr std::size_t kSmall = 6;
+// How many dabs ahead memory is called for.
+constexpr std::size_t kAhead = 8;
 
 // Bits are taken from bytes by reading several at once, and the lowest bit must come from the first byte.
 static_assert(std::endian::native == std::endian::little);
@@ -189,10 +193,18 @@ void LookAtField(const CCanvas& canvas, std::size_t x, std::size_t y) {
         IsPainted(canvas, nTop * canvas.nWidth + nLeft, nRows, nColumns) ? 1 : 0;
 }
 
-void Dab(const CCanvas& canvas, std::size_t x, std::size_t y) {
-    if (canvas.pDone[y / kField * canvas.nFieldsX + x / kField] != 0) return;
-    const std::size_t nStart = y * canvas.nWidth + x;
-    if (IsPainted(canvas, nStart, canvas.nSide, canvas.nSide)) return LookAtField(canvas, x, y);
+struct CDab {
+    std::uint32_t x;
+    std::uint32_t y;
+};
+
+bool IsDone(const CCanvas& canvas, const CDab& dab) {
+    return canvas.pDone[dab.y / kField * canvas.nFieldsX + dab.x / kField] != 0;
+}
+
+void Dab(const CCanvas& canvas, const CDab& dab) {
+    const std::size_t nStart = dab.y * canvas.nWidth + dab.x;
+    if (IsPainted(canvas, nStart, canvas.nSide, canvas.nSide)) return LookAtField(canvas, dab.x, dab.y);
     const std::uint64_t nArea = static_cast<std::uint64_t>(canvas.nSide) * canvas.nSide;
 #if FOTARIUM_HAS_AVX2
     if (UseAvx2())
@@ -201,16 +213,37 @@ void Dab(const CCanvas& canvas, std::size_t x, std::size_t y) {
     PaintDab(canvas, nStart, static_cast<std::uint8_t>(SumDab(canvas, nStart) / nArea));
 }
 
+// Calls for the memory of a dab to come, which lies anywhere; of a large one, which will seldom paint, only
+// for what tells whether it does.
+void Fetch(const CCanvas& canvas, const CDab& dab) {
+    std::size_t nAt = dab.y * canvas.nWidth + dab.x;
+    const std::size_t nRows = std::min<std::size_t>(canvas.nSide, 16);
+    for (std::size_t i = 0; i < nRows; ++i, nAt += canvas.nWidth) {
+        __builtin_prefetch(canvas.pPainted + nAt / 8);
+        if (canvas.nSide > kSmall) continue;
+        __builtin_prefetch(canvas.pLuma + nAt);
+        __builtin_prefetch(canvas.pResult + nAt);
+    }
+}
+
 // Each dab has taken two random numbers, first for its column, then for its row.
 void Dabs(const CCanvas& canvas, const CRandomSequence& random, std::size_t nDabs) {
     CRandomRewind rewind(random);
     const CRemainder columns(static_cast<std::uint32_t>(canvas.nPlacesX));
     const CRemainder rows(static_cast<std::uint32_t>(canvas.nPlacesY));
+    std::array<CDab, CRandomRewind::kBatch / 2> dabs;
     while (nDabs > 0) {
         const CRandomRewind::CBatch& numbers = rewind.Before();
-        const std::size_t n = std::min(nDabs, numbers.size() / 2);
-        for (std::size_t i = numbers.size(); i > numbers.size() - 2 * n; i -= 2)
-            Dab(canvas, columns.Of(numbers[i - 2]), rows.Of(numbers[i - 1]));
+        const std::size_t n = std::min(nDabs, dabs.size());
+        std::size_t nOpen = 0;
+        for (std::size_t i = numbers.size(); i > numbers.size() - 2 * n; i -= 2) {
+            dabs[nOpen] = {columns.Of(numbers[i - 2]), rows.Of(numbers[i - 1])};
+            nOpen += IsDone(canvas, dabs[nOpen]) ? 0 : 1;
+        }
+        for (std::size_t i = 0; i < nOpen; ++i) {
+            if (i + kAhead < nOpen) Fetch(canvas, dabs[i + kAhead]);
+            Dab(canvas, dabs[i]);
+        }
         nDabs -= n;
     }
 }

@@ -23,11 +23,14 @@ class CRandomSequence {
         return static_cast<int>(nWord >> 1);
     }
 
-    // As n calls of Next, much faster.
+    // As n calls of Next, in a time that hardly grows with n.
     void Skip(std::uint64_t n);
     CWords Words() const;
 
   private:
+    // The square of a polynomial, modulo the sequence's own.
+    static CWords Square(const CWords& factors);
+
     static constexpr std::size_t kApart = 3;
     CWords m_arrWords{};
     std::size_t m_nFront = kApart;

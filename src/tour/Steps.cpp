@@ -7,6 +7,7 @@
 #include "qt/DialogView.h"
 #include "resources/Ids.h"
 #include "resources/Texts.h"
+#include "tour/EffectSteps.h"
 #include "tour/Screen.h"
 
 namespace {
@@ -298,6 +299,7 @@ std::vector<CTourStep> MakeSteps(const CTourFiles& files) {
     AddOpen(steps, files);
     AddModes(steps);
     AddHistory(steps);
+    AddEffects(steps);
     AddBroken(steps, files);
     AddSave(steps, files);
     AddEnd(steps);

@@ -20,7 +20,8 @@ CMainDlg::CMainDlg(const CPlatform& platform)
       m_skin(m_state, Controls(), platform.timers, *this, *this),
       m_thum(platform.drives, {Controls(), platform.folders, platform.shell, platform.boxes, platform.timers,
                                platform.wait, platform.bitmaps, *this}),
-      m_effects(Controls()),
+      m_effects(
+          {m_state, m_images, Controls(), m_canvas, *this, *this, platform.wait, platform.boxes, m_editor}),
       m_modes({m_state, m_images, Controls(), m_canvas, m_tools, m_editor, m_lines, m_thum, m_effects,
                m_textArt, m_link, platform.wait}) {}
 
@@ -29,6 +30,7 @@ void CMainDlg::OnInitDialog() {
     Controls().Check(kRadioProjection, true);
     Controls().Check(kRadioImageSize, true);
     Controls().SetRange(kProgress, 0, 50);
+    m_effects.Init();
     m_thum.Build();
     m_thum.ShowCurrentFolder();
     GoToMode(kModeThum);
@@ -86,6 +88,11 @@ void CMainDlg::OnCanvasPainted() {
     m_lines.ShowSizeInfo();
     m_lines.ShowNameInfo();
     m_lines.ShowDepthInfo();
+}
+
+void CMainDlg::RepaintPreview() {
+    m_skin.PaintPreviewBox(Client(), CEffectFlow::kPreviewBox);
+    Present();
 }
 
 void CMainDlg::OnPrint() {

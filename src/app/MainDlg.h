@@ -27,6 +27,7 @@ class CMainDlg : public CDialog,
                  private CCanvasHost,
                  private CSkinHost,
                  private CBrowseHost,
+                 private CEffectHost,
                  private CPreviewFactory {
   public:
     // What the platform gives outlives the window.
@@ -39,6 +40,7 @@ class CMainDlg : public CDialog,
     const CPhoneLink& Link() const { return m_link; }
     CMySCrollView& Canvas() { return m_canvas; }
     CThumPanel& Thum() { return m_thum; }
+    CEffectFlow& Effects() { return m_effects; }
 
     // A double click on a picture file in the file list.
     void OpenFileByName(const std::string& strFolder, const std::string& strName);
@@ -95,6 +97,11 @@ class CMainDlg : public CDialog,
     CColor TextColor() const override { return m_textArt.TextColor(); }
     bool IsListPressed() const override { return m_thum.List().IsPressed(); }
     void PaintToolPanel(CClientArea& /*client*/) override {}
+    void PaintEffectPreview(CClientArea& client) override { m_effects.PaintPreview(client); }
+
+    // CEffectHost
+    void RepaintPreview() override;
+    void RepaintPanel() override { Invalidate(); }
 
     // CPreviewFactory
     std::unique_ptr<CFileDialogPanel> MakePreview() override;

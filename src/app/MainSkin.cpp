@@ -44,7 +44,15 @@ void CMainSkin::Paint(CClientArea& client) const {
     client.DrawBitmap(look.nTabRow, kTabRowAt.x, kTabRowAt.y);
     if (look.nPanel != 0) client.DrawBitmap(look.nPanel, kPanelAt.x, kPanelAt.y);
     if (m_state.m_nMode == kModeDraw) m_host.PaintToolPanel(client);
+    if (m_state.m_nMode == kModeEffect) m_host.PaintEffectPreview(client);
     if (m_state.m_nMode == kModeFont) ShowTextColor(client);
+}
+
+void CMainSkin::PaintPreviewBox(CClientArea& client, const CRect& rcBox) const {
+    client.SetClip(rcBox);
+    client.DrawBitmap(kBackground, 0, 0);
+    client.SetClip({});
+    m_host.PaintEffectPreview(client);
 }
 
 void CMainSkin::ShowTextColor(CClientArea& client) const {

@@ -11,6 +11,8 @@ class CSkinHost {
   public:
     virtual ~CSkinHost() = default;
     virtual CColor TextColor() const = 0;
+    // The preview of an effect, if one is up, over the background.
+    virtual void PaintEffectPreview(CClientArea& client) = 0;
     // The left button is down in the file list.
     virtual bool IsListPressed() const = 0;
     // The paint panel's option glyphs and colour wells, over the panel's picture.
@@ -31,6 +33,8 @@ class CMainSkin {
 
     // The whole client area.
     void Paint(CClientArea& client) const;
+    // The preview box of EFFECT alone.
+    void PaintPreviewBox(CClientArea& client, const CRect& rcBox) const;
     // Fills the colour swatch of FONT.
     void ShowTextColor(CClientArea& client) const;
 

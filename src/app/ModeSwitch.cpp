@@ -75,10 +75,10 @@ void CModeSwitch::HideDraw() {
 void CModeSwitch::HideEffect() {
     m_env.controls.Show(kEffectList, false);
     m_env.effects.ShowEffectControls(false);
+    m_env.effects.DropPreview();
     m_env.controls.SetText(kEffectLevel, kBlankLevel);
     m_env.state.m_bNoEffectLevel = true;
     m_env.state.m_bEffectMode = false;
-    m_env.state.m_bEffectPending = false;
 }
 
 void CModeSwitch::HideFont() {

@@ -157,6 +157,13 @@ std::string Tick(CStage& stage, const CWords& arrWords) {
     return {};
 }
 
+std::string Seed(CStage& stage, const CWords& arrWords) {
+    const std::optional<int> nSeed = ParseNumber(arrWords[0]);
+    if (!nSeed || *nSeed < 0) return NotA(arrWords[0], "seed");
+    stage.dialog.Effects().Seed(static_cast<std::uint32_t>(*nSeed));
+    return {};
+}
+
 constexpr CVerb kVerbs[] = {
     {"open", "PATH", 1, 1, Open, "Opens a picture as a double click in the file list does, in any mode.",
      "open \"照片/海边.jpg\""},
@@ -168,7 +175,13 @@ constexpr CVerb kVerbs[] = {
      "Clicks a tab: 0 THUM, 1 DRAW, 2 EFFECT, 3 FONT, 4 STICK. The active one has no tab to click.",
      "mode 1"},
     {"select", "ID ROW", 2, 2, Select, "Clicks a row of a list; rows count from 0.", "select 1041 3"},
-    {"slider", "POS", 1, 1, Slider, "Moves the slider of the effect's level.", "slider -20"},
+    {"slider", "POS", 1, 1, Slider,
+     "Moves the slider of the effect's level. Its top, the highest level, is the lowest position.",
+     "slider -20"},
+    {"seed", "N", 1, 1, Seed,
+     "Starts the random numbers of the effects anew, so that a run can be repeated. The program starts with "
+     "those of seed 1.",
+     "seed 7"},
     {"check", "ID", 1, 1, Check, "Clicks a check box or a radio button.", "check 1188"},
     {"text", "ID STRING", 2, 2, Text,
      "Replaces the text of an edit. What is beyond its most characters does not go in.",

@@ -103,6 +103,11 @@ bool FindPicture(CStage& stage, const std::string& strWhich, CPixels& pixels) {
         if (*ppImage) pixels = (*ppImage)->Pixels();
         return true;
     }
+    if (strWhich == "preview") {
+        const CxImage* pPreview = stage.dialog.Effects().Preview();
+        if (pPreview != nullptr) pixels = pPreview->Pixels();
+        return true;
+    }
     if (strWhich == "canvas") pixels = stage.dialog.Canvas().Surface().Pixels();
     if (strWhich == "window") pixels = ComposeWindow(stage.host, stage.platform.Bitmaps()).Pixels();
     return strWhich == "canvas" || strWhich == "window";
@@ -130,8 +135,10 @@ constexpr CVerb kVerbs[] = {
      "Prints what the program had the system do with files since the last such line: open, bin or delete, "
      "whether the system asked, whether all was done, and the paths by their drives.",
      "shell"},
-    {"dump", "work|display|opened|canvas|window PATH", 2, 2, Dump,
-     "Writes a picture as PPM, 24 bits: one of the edit images, what the canvas shows, or the window.",
+    {"dump", "work|display|opened|preview|canvas|window PATH", 2, 2, Dump,
+     "Writes a picture as PPM, 24 bits: one of the edit images, the effect's preview, what the canvas shows, "
+     "or "
+     "the window.",
      "dump work after.ppm"},
 };
 

@@ -44,6 +44,11 @@ std::string Selected(const CStage& stage) {
     return strText;
 }
 
+std::string Preview(const CStage& stage) {
+    const CxImage* pPreview = stage.dialog.Effects().Preview();
+    return pPreview == nullptr ? "none" : Pair(pPreview->GetSize());
+}
+
 constexpr CStateEntry kStates[] = {
     {"mode", Mode, "The active mode and its name."},
     {"undo", [](const CStage& s) { return std::to_string(s.dialog.Images().m_stackUndo.Count()); },
@@ -59,6 +64,10 @@ constexpr CStateEntry kStates[] = {
      "The zoom of DRAW: 1, 2, 4 or 6."},
     {"frame", [](const CStage& s) { return Flag(s.dialog.Images().m_bFrameOn); },
      "Whether a frame lies on the picture."},
+    {"effect", [](const CStage& s) { return std::to_string(s.dialog.Effects().Effect()); },
+     "The effect that was chosen last, 0 to 30."},
+    {"level", [](const CStage& s) { return std::to_string(s.dialog.Effects().Level()); }, "Its level."},
+    {"preview", Preview, "Width and height of the effect's preview, or none."},
     {"pending", [](const CStage& s) { return Flag(s.dialog.State().m_bEffectPending); },
      "Whether an effect's preview waits for CONFIRM."},
     {"float", [](const CStage& s) { return Flag(s.dialog.Canvas().IsFloating()); },

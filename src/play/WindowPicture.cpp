@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "controls/SkinSlider.h"
 #include "image/Image.h"
 #include "resources/Ids.h"
 #include "window/IconListModel.h"
@@ -19,7 +20,6 @@ constexpr CColor kFace{214, 220, 214};
 constexpr CColor kRim{64, 74, 78};
 constexpr CColor kMark{232, 143, 54};
 constexpr CColor kInk{40, 46, 48};
-constexpr int kThumb = 12;
 // The list of icons: cells in rows from the left, each with its name below.
 constexpr int kCell = 110;
 constexpr CSize kCellPitch{130, 150};
@@ -44,6 +44,8 @@ class CComposer {
     void Draw(const CControl& control);
     void DrawButton(const CControl& control);
     void DrawMark(const CControl& control);
+    void DrawRows(const CControl& control);
+    void DrawSlider(const CControl& control);
     void DrawShare(const CControl& control);
     void DrawView(const CControl& control);
     void DrawIcons(const CControl& control);
@@ -87,19 +89,37 @@ void CComposer::DrawMark(const CControl& control) {
     if (control.bChecked) m_surface.FillRect({rc.left + 4, rc.top + 4, rc.right - 4, rc.bottom - 4}, kMark);
 }
 
-// Slider and progress bar: how far they are.
+// The rows of a list of pictures from the first one on, or the last of them the selected one.
+void CComposer::DrawRows(const CControl& control) {
+    const CRect& rc = control.rcPlace;
+    m_surface.FillRect(rc, kListGround);
+    if (m_pBitmaps == nullptr || control.arrItems.empty()) return;
+    const CxImage* pFirst = m_pBitmaps->Find(control.arrItems[0].strText, 1);
+    if (pFirst == nullptr) return;
+    const int nRows = std::min(static_cast<int>(control.arrItems.size()), rc.Height() / pFirst->GetHeight());
+    const int nTop = std::max(0, control.nSel - nRows + 1);
+    for (int i = 0; i < nRows; ++i) {
+        const std::string& strPicture = control.arrItems[static_cast<std::size_t>(nTop + i)].strText;
+        const CxImage* pImage = m_pBitmaps->Find(strPicture, 1);
+        if (pImage != nullptr)
+            m_surface.DrawPixels(pImage->Pixels(), rc.left, rc.top + i * pFirst->GetHeight());
+    }
+}
+
+void CComposer::DrawSlider(const CControl& control) {
+    CSkinSlider slider(m_host.Dialog().Controls(), control.nId);
+    slider.SetUp(m_pBitmaps, 1);
+    slider.Paint();
+    m_surface.DrawPixels(slider.Client().Surface().Pixels(), control.rcPlace.left, control.rcPlace.top);
+}
+
+// A progress bar: how far it is.
 void CComposer::DrawShare(const CControl& control) {
     const CRect& rc = control.rcPlace;
     const int nRange = std::max(1, control.nMax - control.nMin);
     const int nShare = control.nPos - control.nMin;
-    if (control.kind == EControlKind::Progress) {
-        m_surface.FillRect(rc, kInfoGround);
-        return m_surface.FillRect({rc.left, rc.top, rc.left + rc.Width() * nShare / nRange, rc.bottom},
-                                  kMark);
-    }
-    DrawBox({rc.left + rc.Width() / 2 - 2, rc.top, rc.left + rc.Width() / 2 + 2, rc.bottom}, kBarGround);
-    const int nTop = rc.top + (rc.Height() - kThumb) * nShare / nRange;
-    DrawBox({rc.left, nTop, rc.right, nTop + kThumb}, kMark);
+    m_surface.FillRect(rc, kInfoGround);
+    m_surface.FillRect({rc.left, rc.top, rc.left + rc.Width() * nShare / nRange, rc.bottom}, kMark);
 }
 
 // A text is a bar as long as the text, on a mark where it is selected.
@@ -181,12 +201,13 @@ void CComposer::Draw(const CControl& control) {
         case EControlKind::Combo:
             return DrawBox(control.rcPlace, kPaper);
         case EControlKind::PictureList:
-            return m_surface.FillRect(control.rcPlace, kListGround);
+            return DrawRows(control);
         case EControlKind::IconList:
             return DrawIcons(control);
         case EControlKind::Tree:
             return DrawTree(control);
         case EControlKind::Slider:
+            return DrawSlider(control);
         case EControlKind::Progress:
             return DrawShare(control);
         case EControlKind::View:

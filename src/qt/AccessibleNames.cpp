@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
+#include "effects/EffectTable.h"
 #include "qt/Text.h"
 
 namespace {
@@ -31,9 +33,24 @@ constexpr auto kNames = std::to_array<CName>({
     {"TOOL_13", "喷枪"},       {"TOOL_16", "橡皮"},       {"TOOL_12", "放大镜"},
     {"TOOL_04", "直线"},       {"TOOL_07", "曲线"},       {"TOOL_06", "四边形"},
     {"TOOL_05", "多边形"},     {"TOOL_09", "圆形"},       {"TOOL_08", "圆角四边形"},
+    {"1041", "特效"},          {"1047", "强度"},
 });
 
+// The effects' pictures in the list: first all in the selected form, then all in the normal one.
+constexpr int kFirstEffectPicture = 198;
+
 }  // namespace
+
+QString FindEffectName(std::string_view strPicture) {
+    int nPicture = 0;
+    const auto [pEnd, error] =
+        std::from_chars(strPicture.data(), strPicture.data() + strPicture.size(), nPicture);
+    const int nEffect = (nPicture - kFirstEffectPicture) % kEffectCount;
+    const bool bNumber = error == std::errc() && pEnd == strPicture.data() + strPicture.size();
+    if (!bNumber || nPicture < kFirstEffectPicture || nPicture >= kFirstEffectPicture + 2 * kEffectCount)
+        return {};
+    return ToQt(kEffects[static_cast<std::size_t>(nEffect)].szLabel);
+}
 
 QString FindAccessibleName(std::string_view strRoot) {
     const auto it = std::find_if(kNames.begin(), kNames.end(),

@@ -5,8 +5,8 @@
 #include "qt/ComboWidget.h"
 #include "qt/EditWidget.h"
 #include "qt/IconListWidget.h"
-#include "qt/ListWidget.h"
 #include "qt/MarkBox.h"
+#include "qt/PictureListWidget.h"
 #include "qt/PlainButton.h"
 #include "qt/ProgressWidget.h"
 #include "qt/ScrollViewWidget.h"
@@ -36,7 +36,7 @@ std::unique_ptr<CControlWidget> CreateControlWidget(const CControlContext& conte
         case EControlKind::Combo:
             return std::make_unique<CComboWidget>(context);
         case EControlKind::PictureList:
-            return std::make_unique<CListWidget>(context);
+            return std::make_unique<CPictureListWidget>(context);
         case EControlKind::IconList:
             return std::make_unique<CIconListWidget>(context);
         case EControlKind::Tree:

@@ -39,7 +39,8 @@ inline constexpr char kWordSize[] = "大小";
 inline constexpr char kWordDepth[] = "色度";
 inline constexpr char kWordEditMode[] = "编辑模式";
 
-// The level readout when it shows nothing
+// The level readout of an effect without a level, and while no effect is selected
+inline constexpr char kBlankReadout[] = "       ";
 inline constexpr char kBlankLevel[] = "     ";
 
 // Codes of the help line

@@ -63,10 +63,11 @@ void CSurface::DrawPart(const CPixels& pixels, const CRect& rcSource, int x, int
                     std::size_t{3} * static_cast<std::size_t>(rcTo.Width()));
 }
 
-void CSurface::DrawEnlarged(const CPixels& pixels, int x, int y, int nFactor) {
-    if (nFactor == 1) return DrawPixels(pixels, x, y);
-    const CRect rcTo =
-        CRect::FromPlace(x, y, pixels.Width() * nFactor, pixels.Height() * nFactor).Intersect(Bounds());
+void CSurface::DrawEnlarged(const CPixels& pixels, int x, int y, int nFactor, const CRect& rcClip) {
+    const CRect rcTo = CRect::FromPlace(x, y, pixels.Width() * nFactor, pixels.Height() * nFactor)
+                           .Intersect(Bounds())
+                           .Intersect(rcClip);
+    if (nFactor == 1) return DrawPart(pixels, rcTo.Offset(-x, -y), rcTo.left, rcTo.top);
     const CPixelView view = rcTo.IsEmpty() ? CPixelView{} : m_pixels.MutableView();
     if (view.pBits == nullptr) return;
     for (int row = rcTo.top; row < rcTo.bottom; ++row) {

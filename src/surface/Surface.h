@@ -31,7 +31,11 @@ class CSurface {
     // The part rcSource of the pixels, its top left corner at (x, y).
     void DrawPart(const CPixels& pixels, const CRect& rcSource, int x, int y);
     // Every pixel becomes nFactor by nFactor pixels; nFactor from 1 on.
-    void DrawEnlarged(const CPixels& pixels, int x, int y, int nFactor);
+    void DrawEnlarged(const CPixels& pixels, int x, int y, int nFactor) {
+        DrawEnlarged(pixels, x, y, nFactor, Bounds());
+    }
+    // The same inside rcClip only.
+    void DrawEnlarged(const CPixels& pixels, int x, int y, int nFactor, const CRect& rcClip);
 
   private:
     CPixels m_pixels;

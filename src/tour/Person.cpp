@@ -68,6 +68,8 @@ void CPerson::Hover(int nId) {
 
 void CPerson::RightClickCanvas(QPoint pt) {
     QTest::mousePress(Widget(kCanvas), Qt::RightButton, Qt::NoModifier, pt);
+    // The menu has been up and is gone.
+    QTest::mouseRelease(Widget(kCanvas), Qt::RightButton, Qt::NoModifier, pt);
 }
 
 void CPerson::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {

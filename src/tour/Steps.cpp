@@ -1,5 +1,6 @@
 #include "tour/Steps.h"
 
+#include "tour/EffectSteps.h"
 #include "tour/StepTools.h"
 
 std::vector<CTourStep> MakeSteps(const CTourFiles& files) {
@@ -14,6 +15,7 @@ std::vector<CTourStep> MakeSteps(const CTourFiles& files) {
     AddOpen(steps, files);
     AddModes(steps);
     AddHistory(steps);
+    AddEffects(steps);
     AddBroken(steps, files);
     AddSave(steps, files);
     AddEnd(steps);

@@ -22,17 +22,26 @@ class CClientArea {
     // A picture that does not exist draws nothing.
     void DrawBitmap(const std::string& strName, int x, int y);
     void DrawBitmap(int nResource, int x, int y);
+    // The same without the pixels that have the colour of the picture's top left one.
+    void DrawKeyed(int nResource, int x, int y);
     void FillRect(const CRect& rc, CColor color);
     // Copies the surface with its top left corner at (x, y); at density 2 every pixel becomes two by two.
     void DrawSurface(const CSurface& surface, int x, int y);
+
+    // Keeps all drawing inside the box until it is set anew; an empty box ends that.
+    void SetClip(const CRect& rcClip) { m_rcClip = rcClip; }
 
     // The box that has been drawn on since the last call.
     CRect TakeDamage();
 
   private:
+    void DrawPicture(const CPixels& pixels, int x, int y, int nFactor);
+    CRect Drawable() const;
+
     CSize m_size;
     int m_nDensity = 1;
     CSurface m_surface;
     CBitmaps* m_pBitmaps = nullptr;
     CRect m_rcDamage;
+    CRect m_rcClip;
 };

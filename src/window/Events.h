@@ -23,6 +23,14 @@ struct CMouseEvent {
 // Key codes as the platform numbers them; letters and digits are their upper-case characters.
 inline constexpr int kKeyEnter = 13;
 inline constexpr int kKeyEscape = 27;
+inline constexpr int kKeyPageUp = 33;
+inline constexpr int kKeyPageDown = 34;
+inline constexpr int kKeyEnd = 35;
+inline constexpr int kKeyHome = 36;
+inline constexpr int kKeyLeft = 37;
+inline constexpr int kKeyUp = 38;
+inline constexpr int kKeyRight = 39;
+inline constexpr int kKeyDown = 40;
 inline constexpr int kKeyDelete = 46;
 
 struct CKeyEvent {

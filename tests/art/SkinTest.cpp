@@ -79,6 +79,12 @@ QStringList NamesOf(const CWanted& wanted) {
 
 const QString kSkinFolder = FOTARIUM_SKIN_DIR;
 
+// The pictures of the effect list lie in the same folder; another tool renders them.
+bool IsOfAList(const QString& strFile) {
+    const int nNumber = strFile.section('.', 0, 0).toInt();
+    return nNumber == 196 || (nNumber >= 198 && nNumber <= 259);
+}
+
 QImage Picture(const QString& strName, int nDensity) {
     return QImage(QString("%1/%2x/%3.png").arg(kSkinFolder).arg(nDensity).arg(strName))
         .convertToFormat(QImage::Format_RGB32);
@@ -236,6 +242,7 @@ TEST(Skin, HoldsEveryPictureInItsSizeAtBothDensities) {
         arrNames.sort();
         const QDir folder(QString("%1/%2x").arg(kSkinFolder).arg(nDensity));
         QStringList arrFound = folder.entryList(QDir::Files);
+        arrFound.removeIf(IsOfAList);
         arrFound.sort();
         EXPECT_EQ(arrFound, arrNames);
     }
@@ -397,9 +404,10 @@ TEST(Skin, ComesOutTheSameOnEveryRun) {
     QTemporaryDir folder;
     ASSERT_EQ(QProcess::execute(FOTARIUM_ART_TOOL, {folder.path()}), 0);
     for (const char* pSub : {"1x", "2x", "."}) {
-        const QDir rendered(kSkinFolder + '/' + pSub);
-        for (const QString& strName : rendered.entryList(QDir::Files)) {
-            EXPECT_EQ(Bytes(rendered.filePath(strName)), Bytes(folder.path() + '/' + pSub + '/' + strName))
+        const QDir again(folder.path() + '/' + pSub);
+        ASSERT_FALSE(again.isEmpty());
+        for (const QString& strName : again.entryList(QDir::Files)) {
+            EXPECT_EQ(Bytes(again.filePath(strName)), Bytes(kSkinFolder + '/' + pSub + '/' + strName))
                 << strName.toStdString();
         }
     }

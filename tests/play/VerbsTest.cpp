@@ -6,8 +6,8 @@
 TEST_F(ScriptTest, StartsInTheFirstModeWithoutAPicture) {
     EXPECT_EQ(
         Print("state\nboxes"),
-        "mode 0 THUM\nundo 0\nredo 0\ndisp 0 0\nwork none\nimage 0\ntool 1\nzoom 1\nframe 0\npending 0\n"
-        "float 0\nselection 0\nconnected 0\nsizerule image\ntree \"\"\nlist 0 0 \"\"\nselected 0\nbanded "
+        "mode 0 THUM\nundo 0\nredo 0\ndisp 0 0\nwork none\nimage 0\ntool 1\nzoom 1\nframe 0\n"
+        "effect 0\nlevel 0\npreview none\npending 0\nfloat 0\nselection 0\nconnected 0\nsizerule image\ntree \"\"\nlist 0 0 \"\"\nselected 0\nbanded "
         "0\npath \"\"\nname \"\"\nfocus 0\nboxes 0\n");
 }
 
@@ -124,4 +124,19 @@ TEST_F(ScriptTest, HelpNamesWhatThereIs) {
           "drive LETTER", "bin PATH",     "tree open",     "list click",    "list double", "list right",
           "list select",  "list key",     "answer delete", "size keep",     "shell",       "banded"})
         EXPECT_NE(strHelp.find(szWord), std::string::npos) << szWord;
+}
+
+TEST_F(ScriptTest, AnEffectFromTheListToThePicture) {
+    MakePicture("a.png", 200, 120);
+    EXPECT_EQ(
+        Print("seed 7\nopen a.png\nselect 1041 23\nslider 6\nstate effect\nstate level\nstate preview\n"
+              "state pending\nshow 1047\ndump preview small.ppm\ncommand 1022\nstate pending\n"
+              "state preview\nstate undo\ndump work one.ppm\n"
+              "command 1004\nseed 7\nselect 1041 22\ncommand 1029\nselect 1041 23\nslider 6\n"
+              "dump preview again.ppm\ncommand 1022\ndump work two.ppm"),
+        "effect 23\nlevel 4\npreview 158 94\npending 1\nshow 1047 shown enabled unchecked \"\" at 6 of 0 "
+        "to 10\npending 0\npreview none\nundo 1\n");
+    EXPECT_EQ(PixelsOf("small.ppm"), PixelsOf("again.ppm"));
+    EXPECT_EQ(PixelsOf("one.ppm"), PixelsOf("two.ppm")) << "one seed, one picture";
+    EXPECT_NE(PixelsOf("one.ppm"), PixelsOf("a.png"));
 }

@@ -4,7 +4,6 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QSlider>
 
 #include "TestDialog.h"
 
@@ -24,7 +23,6 @@ constexpr CControlTemplate kControls[] = {
     {30, Radio, CRect::FromPlace(80, 40, 14, 14)},
     {31, Check, CRect::FromPlace(100, 40, 14, 14)},
     {40, Edit, CRect::FromPlace(10, 60, 100, 18), "abc", true, true, 5},
-    {41, Slider, CRect::FromPlace(120, 60, 20, 60)},
     {42, Combo, CRect::FromPlace(10, 90, 100, 22)},
 };
 constexpr CDialogTemplate kDialog{900, "Buttons", {160, 130}, EDialogFrame::Plain, kControls};
@@ -146,17 +144,4 @@ TEST(Combo, ShowsItsTextsAndTellsTheUsersChoice) {
     EXPECT_EQ(shown.dialog.Controls().Selection(42), 1);
     EXPECT_EQ(shown.dialog.m_arrNotices,
               (std::vector<std::pair<int, ENotice>>{{42, ENotice::SelectionChanged}}));
-}
-
-TEST(Slider, OnlyTheUsersMovesAreTold) {
-    CShownDialog shown(kDialog);
-    auto* pSlider = qobject_cast<QSlider*>(shown.Widget(41));
-    ASSERT_NE(pSlider, nullptr);
-    shown.dialog.Controls().SetRange(41, -100, 100);
-    shown.dialog.Controls().SetPosition(41, 100);
-    EXPECT_EQ(pSlider->value(), 100);
-    EXPECT_TRUE(shown.dialog.m_arrNotices.empty());
-    QTest::keyClick(pSlider, Qt::Key_Up);
-    EXPECT_EQ(shown.dialog.Controls().Position(41), 99) << "the lower bound is at the top";
-    EXPECT_EQ(shown.dialog.m_arrNotices, (std::vector<std::pair<int, ENotice>>{{41, ENotice::Scrolled}}));
 }

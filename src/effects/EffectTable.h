@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+
+// The thirty-one effects by their numbers, which are their places in the effect list.
+enum EEffect : int {
+    kBrightness = 0,
+    kContrast,
+    kChroma,
+    kSharpness,
+    kNegative,
+    kPureBlackWhite,
+    kBlackWhite,
+    kColourSaturation,
+    kOldPhoto,
+    kNoiseRemoval,
+    kBacklight,
+    kHomogenise,
+    kLowLightRepair,
+    kNostalgia,
+    kMoonlight,
+    kHaze1,
+    kCool,
+    kHaze2,
+    kFilm,
+    kArt,
+    kCrystalFrame,
+    kJigsaw,
+    kOilPainting,
+    kTile,
+    kLaminate,
+    kEngrave,
+    kConcaveMirror,
+    kSketch,
+    kRefraction2,
+    kRefraction1,
+    kWoodcut,
+    kEffectCount
+};
+
+// What the list and the level slider need to know of an effect.
+struct CEffectRow {
+    const char* szLabel;  // what its picture in the list says
+    bool bHasLevel;       // without one the slider is hidden
+    int nMin;             // the slider's range: the top end is the highest level
+    int nMax;
+    int nStart;  // the slider's position at level 0
+};
+
+inline constexpr CEffectRow kNoLevel(const char* szLabel) {
+    return {szLabel, false, -100, 100, 100};
+}
+
+inline constexpr std::array<CEffectRow, kEffectCount> kEffects = {{
+    {"亮度", true, -100, 100, 0},
+    {"对比度", true, -100, 100, 0},
+    {"色度", true, -100, 100, 0},
+    {"明暗对比度", true, -10, 10, 0},
+    kNoLevel("底片效果"),
+    {"纯黑白", true, 0, 100, 100},
+    kNoLevel("黑白"),
+    {"色彩饱和度", true, 0, 100, 100},
+    kNoLevel("旧照片"),
+    kNoLevel("消除杂音"),
+    kNoLevel("逆光效果"),
+    kNoLevel("同质化"),
+    kNoLevel("低亮度修复"),
+    {"怀旧效果", true, 0, 20, 20},
+    {"月光效果", true, 0, 50, 50},
+    {"朦胧效果1", true, 0, 50, 50},
+    {"清凉效果", true, 0, 100, 100},
+    {"朦胧效果2", true, 0, 100, 100},
+    kNoLevel("电影效果"),
+    kNoLevel("艺术效果"),
+    kNoLevel("水晶像框"),
+    kNoLevel("拼图效果"),
+    {"油画效果", true, 0, 15, 15},
+    {"瓷砖效果", true, 0, 10, 10},
+    {"加膜效果", true, 0, 20, 20},
+    kNoLevel("雕刻效果"),
+    kNoLevel("凹镜效果"),
+    kNoLevel("素描效果"),
+    {"折射效果2", true, 0, 100, 100},
+    {"折射效果1", true, 0, 100, 100},
+    kNoLevel("版画效果"),
+}};

@@ -1,0 +1,121 @@
+#include "qt/PictureListWidget.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "qt/AccessibleNames.h"
+#include "qt/Pictures.h"
+#include "qt/SkinColors.h"
+#include "window/Dialog.h"
+
+namespace {
+
+constexpr char kStyle[] = "QListView { border: none; background: #6d797e; }";
+constexpr int kWheelNotch = 120;  // what a wheel reports for one click
+
+bool MovesRow(int nKey) {
+    return nKey == Qt::Key_Up || nKey == Qt::Key_Down || nKey == Qt::Key_PageUp || nKey == Qt::Key_PageDown ||
+           nKey == Qt::Key_Home || nKey == Qt::Key_End;
+}
+
+}  // namespace
+
+void CPictureDelegate::paint(QPainter* pPainter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const {
+    const QPixmap* pPixmap = m_pictures.Find(index.data(kPictureRole).toString().toStdString(), m_nDensity);
+    if (pPixmap == nullptr) return;
+    pPainter->drawPixmap(option.rect.topLeft(), *pPixmap);
+    if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+    QSize size = pPixmap->size() / m_nDensity;
+    pPainter->setPen(QPen(SkinColors::kLit, 1, Qt::DotLine));
+    pPainter->drawRect(
+        QRect(option.rect.topLeft(), size.boundedTo(option.rect.size())).adjusted(2, 2, -3, -3));
+}
+
+// All rows are as high as the first picture.
+QSize CPictureDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const QPixmap* pPixmap = m_pictures.Find(index.data(kPictureRole).toString().toStdString(), m_nDensity);
+    return pPixmap == nullptr ? QStyledItemDelegate::sizeHint(option, index) : pPixmap->size() / m_nDensity;
+}
+
+CPictureListWidget::CPictureListWidget(const CControlContext& context)
+    : QListView(context.pParent), m_context(context), m_delegate(context.pictures, context.nDensity) {
+    setStyleSheet(QString(kStyle) + kScrollBarStyle);
+    setAccessibleName(FindAccessibleName(std::to_string(context.control.nId)));
+    setModel(&m_model);
+    setItemDelegate(&m_delegate);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerItem);
+    setUniformItemSizes(true);
+    MirrorRows();
+    connect(this, &QListView::clicked, this,
+            [this] { m_context.dialog.OnNotify(m_context.control.nId, ENotice::Clicked); });
+    connect(this, &QListView::doubleClicked, this,
+            [this] { m_context.dialog.OnNotify(m_context.control.nId, ENotice::DoubleClicked); });
+}
+
+// Rows that stay are not made anew, so that the list keeps its place.
+void CPictureListWidget::MirrorRows() {
+    const QScopedValueRollback guard(m_bMirroring, true);
+    const std::vector<CListItem>& arrItems = m_context.control.arrItems;
+    const int nRows = static_cast<int>(arrItems.size());
+    if (m_model.rowCount() > nRows) m_model.setRowCount(nRows);
+    for (int nRow = 0; nRow < nRows; ++nRow) {
+        const std::string& strPicture = arrItems[static_cast<std::size_t>(nRow)].strText;
+        if (nRow == m_model.rowCount()) m_model.appendRow(std::make_unique<QStandardItem>().release());
+        QStandardItem& item = *m_model.item(nRow);
+        const QString strName = QString::fromStdString(strPicture);
+        if (item.data(CPictureDelegate::kPictureRole).toString() == strName) continue;
+        item.setData(strName, CPictureDelegate::kPictureRole);
+        item.setData(FindEffectName(strPicture), Qt::AccessibleTextRole);
+    }
+    MirrorSelection();
+}
+
+void CPictureListWidget::MirrorSelection() {
+    const QScopedValueRollback guard(m_bMirroring, true);
+    const QModelIndex index = m_model.index(m_context.control.nSel, 0);
+    if (index.isValid())
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    else
+        selectionModel()->clearSelection();
+}
+
+void CPictureListWidget::Mirror(EControlChange change) {
+    if (change == EControlChange::Items) MirrorRows();
+    if (change == EControlChange::Selection) MirrorSelection();
+}
+
+void CPictureListWidget::SetDensity(int nDensity) {
+    m_delegate.SetDensity(nDensity);
+    viewport()->update();
+}
+
+void CPictureListWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QListView::selectionChanged(selected, deselected);
+    if (m_bMirroring || selected.isEmpty()) return;
+    m_context.dialog.Controls().Select(m_context.control.nId, selected.indexes().constFirst().row());
+    m_context.dialog.OnNotify(m_context.control.nId, ENotice::SelectionChanged);
+}
+
+// The first key takes the row that has the rim; from there on they move.
+void CPictureListWidget::keyPressEvent(QKeyEvent* pEvent) {
+    if (MovesRow(pEvent->key()) && currentIndex().isValid() && !selectionModel()->hasSelection())
+        return selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+    QListView::keyPressEvent(pEvent);
+}
+
+// A press takes a row; what the hand does until it lets go changes nothing.
+void CPictureListWidget::mouseMoveEvent(QMouseEvent* /*pEvent*/) {}
+
+void CPictureListWidget::wheelEvent(QWheelEvent* pEvent) {
+    m_nWheel += pEvent->angleDelta().y();
+    const int nNotches = m_nWheel / kWheelNotch;
+    m_nWheel -= nNotches * kWheelNotch;
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - nNotches);
+    pEvent->accept();
+}

@@ -1,0 +1,340 @@
+#include <algorithm>
+#include <array>
+
+#include "app/Workshop.h"
+
+namespace {
+
+constexpr std::array kOffWhilePending = {kCmdReset,          kCmdNew,      kCmdSave,      kCmdPrint,
+                                         kCmdUndo,           kCmdRedo,     kCmdSize,      kCmdFlipVertical,
+                                         kCmdFlipHorizontal, kCmdTurnLeft, kCmdTurnRight, kCmdLarge,
+                                         kCmdActual,         kCmdSmall,    kCmdSend,      kCmdTake};
+constexpr std::string_view kBlank = "       ";
+
+class EffectFlowTest : public Workshop {
+  protected:
+    void Choose(int nEffect) { EXPECT_EQ(m_host.SelectRow(kEffectList, nEffect), ""); }
+    void Slide(int nPos) { EXPECT_EQ(m_host.MoveSlider(kEffectSlider, nPos), ""); }
+    void Seed(unsigned nSeed) {
+        m_dialog.Effects().Seed(nSeed);
+        m_engine.Seed(nSeed);
+    }
+    // The position of a level on the slider as it is now.
+    int PositionOf(int nLevel) {
+        const CControl& slider = *Controls().Find(kEffectSlider);
+        return slider.nMin < 0 ? -nLevel : slider.nMax - nLevel;
+    }
+    const CPixels& Preview() {
+        static const CPixels none;
+        return m_dialog.Effects().Preview() == nullptr ? none : m_dialog.Effects().Preview()->Pixels();
+    }
+    const CPixels& Work() const { return Images().m_pImgWork->Pixels(); }
+
+    // What the engine makes of these pixels; its random sequence goes on from call to call.
+    CPixels Engine(const CPixels& pixels, int nEffect, int nLevel, bool bFull) {
+        CxImage image;
+        image.CreateFromHBITMAP(pixels);
+        EXPECT_TRUE(m_engine.ApplyEffect(image, nEffect, nLevel, bFull, Images().m_nDispWidth));
+        return image.Pixels();
+    }
+    CPixels SmallWork(CSize size) const { return NaiveResample(Work(), size.cx, size.cy); }
+
+    std::string ListPicture(int nRow) {
+        return Controls().Find(kEffectList)->arrItems[static_cast<std::size_t>(nRow)].strText;
+    }
+    // Only that row is in its selected form.
+    void ExpectLit(int nLit) {
+        for (int i = 0; i < kEffectCount; ++i)
+            EXPECT_EQ(ListPicture(i), std::to_string((i == nLit ? 198 : 229) + i));
+    }
+    void ExpectNoPreview() {
+        EXPECT_FALSE(State().m_bEffectPending);
+        EXPECT_TRUE(State().m_bNoEffectLevel);
+        EXPECT_EQ(m_dialog.Effects().Preview(), nullptr);
+        for (const int nId : {kConfirm, kCancel, kEffectSlider}) EXPECT_FALSE(Controls().IsShown(nId)) << nId;
+    }
+    void ExpectSliderAtRest() {
+        const CControl& slider = *Controls().Find(kEffectSlider);
+        EXPECT_EQ((std::array{slider.nMin, slider.nMax, slider.nPos}), (std::array{-100, 100, 100}));
+        EXPECT_FALSE(slider.bShown || slider.bEnabled);
+    }
+    CColor WindowPixel(int x, int y) { return m_dialog.Client().Surface().GetPixel(x, y); }
+
+    CImageEffect m_engine;
+};
+
+}  // namespace
+
+TEST_F(EffectFlowTest, ThePreviewsSize) {
+    struct CCase {
+        CSize picture, preview;
+    };
+    constexpr CCase kCases[] = {
+        {{100, 80}, {158, 122}},   {{157, 121}, {158, 122}}, {{158, 121}, {158, 121}},
+        {{1000, 90}, {158, 14}},   {{400, 900}, {54, 122}},  {{122, 122}, {122, 122}},
+        {{130, 125}, {158, 151}},  {{123, 122}, {158, 156}}, {{4000, 3000}, {158, 118}},
+        {{3000, 4000}, {91, 122}}, {{1, 122}, {1, 122}},     {{100, 122}, {100, 122}}};
+    for (const CCase& c : kCases) EXPECT_EQ(CEffectFlow::PreviewSize(c.picture), c.preview) << c.picture.cx;
+    // What is thinner than a line of the preview keeps one line.
+    OpenNumbered(4000, 3);
+    Choose(kNegative);
+    EXPECT_EQ(CSize({Preview().Width(), Preview().Height()}), (CSize{158, 1}));
+}
+
+TEST_F(EffectFlowTest, TheLevelOfAPosition) {
+    struct CCase {
+        int nMin, nMax, nPos, nLevel;
+    };
+    for (const CCase& c : {CCase{-100, 100, -100, 100}, CCase{-100, 100, 100, -100}, CCase{-10, 10, 3, -3},
+                           CCase{0, 15, 15, 0}, CCase{0, 15, 0, 15}, CCase{0, 100, 30, 70}})
+        EXPECT_EQ(CEffectFlow::LevelOf(c.nMin, c.nMax, c.nPos), c.nLevel);
+}
+
+TEST_F(EffectFlowTest, AChoiceSetsUpEverything) {
+    OpenNumbered(300, 200);
+    const CSnapshot before = Snapshot();
+    for (int n = 0; n < kEffectCount; ++n) {
+        SCOPED_TRACE("effect " + std::to_string(n));
+        const CEffectRow& row = kEffects[static_cast<std::size_t>(n)];
+        Seed(5);
+        Choose(n);
+        const CControl& slider = *Controls().Find(kEffectSlider);
+        EXPECT_EQ(slider.bShown, row.bHasLevel);
+        EXPECT_EQ(slider.bEnabled, row.bHasLevel);
+        EXPECT_EQ((std::array{slider.nMin, slider.nMax, slider.nPos}),
+                  (std::array{row.nMin, row.nMax, row.nStart}));
+        EXPECT_EQ(State().m_bNoEffectLevel, !row.bHasLevel);
+        EXPECT_EQ(Controls().Text(kEffectLevel), row.bHasLevel ? "0" : kBlank);
+        for (const int nId : {kEffectPreview, kEffectLevel, kConfirm, kCancel})
+            EXPECT_TRUE(Controls().IsShown(nId) && Controls().IsEnabled(nId)) << nId;
+        for (const int nId : kOffWhilePending) EXPECT_FALSE(Controls().IsEnabled(nId)) << nId;
+        EXPECT_TRUE(Controls().IsEnabled(kCmdOpen) && Controls().IsEnabled(kCmdConnect));
+        ExpectLit(n);
+        EXPECT_TRUE(State().m_bEffectPending);
+        EXPECT_EQ(Controls().Focus(), kEffectList);
+        EXPECT_EQ(Preview(), Engine(SmallWork({158, 105}), n, 0, false)) << "from the picture, at level 0";
+        if (HasFailure()) return;
+    }
+    EXPECT_EQ(Work(), before.work);
+    EXPECT_EQ(Undos(), 0);
+}
+
+TEST_F(EffectFlowTest, TheSliderStartsFromTheUntouchedPreview) {
+    OpenNumbered(300, 200);
+    Click(kCmdLarge);  // the tiles' measure is the width as shown
+    ASSERT_NE(Images().m_nDispWidth, 300);
+    for (const int n :
+         {kBrightness, kSharpness, kPureBlackWhite, kOilPainting, kTile, kLaminate, kRefraction1}) {
+        SCOPED_TRACE("effect " + std::to_string(n));
+        Seed(3);
+        Choose(n);
+        const CPixels small = SmallWork({158, 105});
+        Engine(small, n, 0, false);
+        const CEffectRow& row = kEffects[static_cast<std::size_t>(n)];
+        for (const int nPos : {row.nMin, (row.nMin + row.nMax) / 2 + 1, row.nStart - 1}) {
+            const int nLevel = CEffectFlow::LevelOf(row.nMin, row.nMax, nPos);
+            Controls().Enable(kCmdReset, true);
+            Slide(nPos);
+            EXPECT_EQ(m_dialog.Effects().Level(), nLevel);
+            EXPECT_EQ(Controls().Text(kEffectLevel), std::to_string(nLevel));
+            EXPECT_EQ(Preview(), Engine(small, n, nLevel, false));
+            EXPECT_FALSE(Controls().IsEnabled(kCmdReset));
+            EXPECT_EQ(Controls().Focus(), kEffectList);
+        }
+    }
+}
+
+TEST_F(EffectFlowTest, ThePreviewStandsInTheMiddleOfItsBox) {
+    constexpr CRect kBox = CRect::FromPlace(64, 476, 158, 122);
+    OpenNumbered(1000, 90);
+    Choose(kNegative);
+    ASSERT_EQ(Preview().Height(), 14);
+    EXPECT_EQ(WindowPixel(kBox.left, kBox.top + 61 - 7), PixelAt(Preview(), 0, 0));
+    EXPECT_EQ(WindowPixel(kBox.right - 1, kBox.top + 61 + 6), PixelAt(Preview(), 157, 13));
+    // A slider's move draws the box and nothing beside it.
+    Choose(kBrightness);
+    m_dialog.Client().TakeDamage();
+    const int nPaints = m_host.PaintCount();
+    Slide(-40);
+    EXPECT_EQ(m_host.PaintCount(), nPaints);
+    EXPECT_EQ(WindowPixel(kBox.left, kBox.top + 54), PixelAt(Preview(), 0, 0));
+    const CRect rcDamage = m_dialog.Client().TakeDamage();
+    EXPECT_EQ(rcDamage.Union(kBox), kBox);
+    // Higher than its box: cut at both ends.
+    OpenNumbered(130, 125);
+    const CColor crAbove = WindowPixel(kBox.left + 5, kBox.top - 1);
+    const CColor crBelow = WindowPixel(kBox.left + 5, kBox.bottom);
+    Choose(kNegative);
+    ASSERT_EQ(Preview().Height(), 151);
+    EXPECT_EQ(WindowPixel(kBox.left, kBox.top), PixelAt(Preview(), 0, 14));
+    EXPECT_EQ(WindowPixel(kBox.left, kBox.bottom - 1), PixelAt(Preview(), 0, 14 + 121));
+    EXPECT_EQ(WindowPixel(kBox.left + 5, kBox.top - 1), crAbove);
+    EXPECT_EQ(WindowPixel(kBox.left + 5, kBox.bottom), crBelow);
+}
+
+TEST_F(EffectFlowTest, ConfirmRunsEachEffectOnThePictureItself) {
+    OpenNumbered(301, 203);
+    Click(kCmdSmall);
+    for (int n = 0; n < kEffectCount; ++n) {
+        SCOPED_TRACE("effect " + std::to_string(n));
+        const CEffectRow& row = kEffects[static_cast<std::size_t>(n)];
+        Seed(9);
+        const CSnapshot before = Snapshot();
+        Choose(n);
+        CPixels small = SmallWork({158, 106});
+        Engine(small, n, 0, false);
+        const int nLevel = row.bHasLevel ? (row.nMax - row.nMin) / 5 : 0;
+        if (row.bHasLevel) {
+            Slide(PositionOf(nLevel));
+            Engine(small, n, nLevel, false);
+        }
+        Click(kConfirm);
+        EXPECT_EQ(Work(), Engine(before.work, n, nLevel, true));
+        const CSize size = Images().DisplaySize();
+        EXPECT_EQ(Images().m_pImgDisplay->Pixels(), NaiveResample(Work(), size.cx, size.cy));
+        EXPECT_EQ(Undos(), before.nUndo + 1);
+        ExpectNoPreview();
+        ExpectSliderAtRest();
+        ExpectLit(n);
+        EXPECT_EQ(Controls().Selection(kEffectList), n);
+        EXPECT_EQ(Controls().Focus(), kEffectList);
+        Click(kCmdUndo);
+        EXPECT_EQ(Work(), before.work);
+        if (HasFailure()) return;
+    }
+}
+
+TEST_F(EffectFlowTest, ConfirmBringsTheCommandsBack) {
+    OpenNumbered(60, 40);
+    Edit(1);
+    Edit(2);
+    Click(kCmdUndo);
+    GoTo(kModeEffect);
+    CSnapshot before = Snapshot();
+    ASSERT_TRUE(Controls().IsEnabled(kCmdUndo) && Controls().IsEnabled(kCmdRedo));
+    Choose(kNegative);
+    Click(kConfirm);
+    EXPECT_EQ(Undos(), before.nUndo + 1);
+    EXPECT_EQ(Redos(), 0) << "a new step ends the way forward";
+    std::erase(before.arrEnabled, kCmdRedo);
+    EXPECT_EQ(Snapshot().arrEnabled, before.arrEnabled);
+    // The list tells changes only: the same effect again takes the way over another.
+    Choose(kNegative);
+    EXPECT_FALSE(State().m_bEffectPending);
+    Choose(kArt);
+    Choose(kNegative);
+    EXPECT_TRUE(State().m_bEffectPending);
+}
+
+TEST_F(EffectFlowTest, ConfirmAtLevelZeroAndInThePhonesSize) {
+    OpenNumbered(60, 40);
+    Choose(kBrightness);
+    Click(kConfirm);
+    EXPECT_EQ(Undos(), 1) << "a step all the same";
+    EXPECT_EQ(Work(), NumberedPixels(60, 40));
+    GoTo(kModeStick);
+    Click(kRadioPhoneSize);
+    GoTo(kModeEffect);
+    Choose(kNegative);
+    Click(kConfirm);
+    EXPECT_EQ(Images().m_pImgDisplay->Pixels(), NaiveResample(Work(), 176, 144));
+    EXPECT_EQ(Images().m_pImgWork->GetSize(), (CSize{60, 40}));
+}
+
+TEST_F(EffectFlowTest, CancelLeavesAllAsItWas) {
+    OpenNumbered(60, 40);
+    Edit(1);
+    Edit(2);
+    Click(kCmdUndo);
+    GoTo(kModeEffect);
+    CSnapshot before = Snapshot();
+    ASSERT_EQ(before.nRedo, 1);
+    Choose(kTile);
+    Slide(4);
+    Click(kCancel);
+    ExpectNoPreview();
+    ExpectSliderAtRest();
+    ExpectLit(kTile);
+    // Box and readout go with the preview.
+    std::erase(before.arrShown, kEffectPreview);
+    std::erase(before.arrShown, kEffectLevel);
+    EXPECT_EQ(Snapshot(), before);
+}
+
+// Whatever waits is dropped without a word, and the new mode's own rules hold.
+TEST_F(EffectFlowTest, AModeSwitchDropsThePreview) {
+    for (const int nMode : kAllModes) {
+        if (nMode == kModeEffect) continue;
+        SCOPED_TRACE("mode " + std::to_string(nMode));
+        OpenNumbered(300, 200);
+        GoTo(nMode);
+        const CSnapshot wanted = Snapshot();
+        GoTo(kModeEffect);
+        Choose(kSharpness);
+        Slide(-4);
+        GoTo(nMode);
+        CSnapshot now = Snapshot();
+        std::erase(now.arrEnabled, kEffectSlider);  // hidden; it comes to rest on the way back
+        EXPECT_EQ(now.arrEnabled, wanted.arrEnabled);
+        EXPECT_EQ(now.arrShown, wanted.arrShown);
+        EXPECT_EQ(now.work, wanted.work);
+        EXPECT_EQ(now.nUndo, wanted.nUndo);
+        EXPECT_EQ(Controls().Text(kEffectLevel), "     ");
+        ExpectNoPreview();
+        GoTo(kModeEffect);
+        ExpectNoPreview();
+        ExpectSliderAtRest();
+        ExpectLit(kSharpness);
+        Choose(kArt);
+        EXPECT_TRUE(State().m_bEffectPending);
+    }
+}
+
+TEST_F(EffectFlowTest, AnotherChoiceStartsFromThePictureAgain) {
+    OpenNumbered(300, 200);
+    Choose(kBrightness);
+    Slide(-90);
+    Choose(kContrast);
+    EXPECT_EQ(m_dialog.Effects().Level(), 0);
+    EXPECT_EQ(Controls().Text(kEffectLevel), "0");
+    EXPECT_EQ(Preview(), Engine(SmallWork({158, 105}), kContrast, 0, false));
+    ExpectLit(kContrast);
+}
+
+TEST_F(EffectFlowTest, CtrlZUndoesUnderAPreview) {
+    OpenNumbered(60, 40);
+    Edit(77);
+    GoTo(kModeEffect);
+    Choose(kNegative);
+    const CPixels preview = Preview();
+    EXPECT_TRUE(CtrlKey('Z'));
+    EXPECT_EQ(Work(), NumberedPixels(60, 40));
+    EXPECT_TRUE(State().m_bEffectPending);
+    EXPECT_EQ(Preview(), preview) << "the preview stays as it was";
+    EXPECT_EQ(Redos(), 1);
+    Click(kConfirm);
+    EXPECT_EQ(Work(), Engine(NumberedPixels(60, 40), kNegative, 0, true)) << "what is there is changed";
+    EXPECT_EQ(Redos(), 0);
+}
+
+TEST_F(EffectFlowTest, WithoutAPictureAChoiceIsTheListsOwn) {
+    GoTo(kModeEffect);
+    CSnapshot before = Snapshot();
+    Choose(3);
+    EXPECT_EQ(Snapshot(), before);
+    EXPECT_EQ(Controls().Selection(kEffectList), 3);
+    ExpectLit(-1);
+    ExpectSliderAtRest();
+}
+
+TEST_F(EffectFlowTest, ANewPictureDropsThePreviewOfTheOld) {
+    OpenNumbered(60, 40);
+    Choose(kBrightness);
+    OpenNumbered(50, 70);
+    ExpectNoPreview();
+    ExpectSliderAtRest();
+    for (const int nId : {kCmdNew, kCmdSave, kCmdReset, kCmdLarge})
+        EXPECT_TRUE(Controls().IsEnabled(nId)) << nId;
+    Choose(kNegative);
+    EXPECT_EQ(Preview(), Engine(SmallWork({158, 122}), kNegative, 0, false));
+}

@@ -1,0 +1,153 @@
+// A list whose rows are pictures, in the real window.
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QListView>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "TestDialog.h"
+
+namespace {
+
+constexpr CControlTemplate kControls[] = {
+    {1041, EControlKind::PictureList, CRect::FromPlace(10, 10, 206, 276)},
+    {42, EControlKind::Button, CRect::FromPlace(220, 10, 30, 20), "B"}};
+constexpr CDialogTemplate kDialog{900, "List", {260, 300}, EDialogFrame::Plain, kControls};
+constexpr QRgb kGround = qRgb(109, 121, 126);
+constexpr int kRows = 31;
+using CNotices = std::vector<std::pair<int, ENotice>>;
+
+std::string NormalPicture(int nRow) {
+    return std::to_string(229 + nRow);
+}
+
+CColor ColorOf(int nPicture) {
+    return {static_cast<std::uint8_t>(nPicture - 100), 7, 9};
+}
+
+class PictureList : public testing::Test {
+  protected:
+    PictureList() : m_shown(kDialog, nullptr, Skin()) { Fill(); }
+
+    static CTestBitmaps Skin() {
+        CTestBitmaps skin;
+        for (int i = 198; i < 198 + 2 * kRows; ++i) skin.Add(std::to_string(i), {189, 68}, ColorOf(i));
+        return skin;
+    }
+    void Fill(int nLit = -1) {
+        std::vector<CListItem> arrItems;
+        for (int i = 0; i < kRows; ++i)
+            arrItems.push_back({i == nLit ? std::to_string(198 + i) : NormalPicture(i), i});
+        m_shown.dialog.Controls().SetItems(1041, arrItems);
+        QCoreApplication::processEvents();
+    }
+    QListView* View() { return qobject_cast<QListView*>(m_shown.Widget(1041)); }
+    int Selected() { return m_shown.dialog.Controls().Selection(1041); }
+    CNotices TakeNotices() { return std::exchange(m_shown.dialog.m_arrNotices, {}); }
+    QImage Look() { return View()->grab().toImage(); }
+    // The picture that a place of the list shows, by its colour.
+    int PictureAt(int y) {
+        const QRgb rgb = Look().pixel(90, y);
+        return qGreen(rgb) == 7 && qBlue(rgb) == 9 ? qRed(rgb) + 100 : 0;
+    }
+    void Wheel(int nDelta) {
+        QWidget* pPort = View()->viewport();
+        QWheelEvent event(QPointF(50, 50), pPort->mapToGlobal(QPointF(50, 50)), {}, {0, nDelta}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(pPort, &event);
+    }
+
+    CShownDialog m_shown;
+};
+
+}  // namespace
+
+TEST_F(PictureList, RowsAreThePicturesBesideTheBar) {
+    const QImage image = Look();
+    EXPECT_EQ(image.pixel(0, 0), qRgb(129, 7, 9));
+    EXPECT_EQ(image.pixel(188, 67), qRgb(129, 7, 9));
+    EXPECT_EQ(image.pixel(0, 68), qRgb(130, 7, 9)) << "68 pixels a row, no gap";
+    EXPECT_EQ(image.pixel(189, 30), kGround) << "a column is left before the bar";
+    const QScrollBar* pBar = View()->verticalScrollBar();
+    EXPECT_TRUE(pBar->isVisible());
+    EXPECT_EQ(QRect(pBar->mapTo(View(), QPoint()), pBar->size()), QRect(190, 0, 16, 276));
+}
+
+TEST_F(PictureList, APressTellsAChangeAndNothingElseDoes) {
+    Press(*m_shown.view, {60, 10 + 68 + 5});
+    EXPECT_EQ(Selected(), 1);
+    EXPECT_EQ(TakeNotices(), (CNotices{{1041, ENotice::SelectionChanged}})) << "at once, not at the release";
+    Move(*m_shown.view, {60, 10 + 3 * 68 + 5});
+    EXPECT_EQ(Selected(), 1) << "a drag over other rows is no choice";
+    Release(*m_shown.view, {60, 10 + 68 + 5});
+    TakeNotices();
+    Press(*m_shown.view, {60, 10 + 68 + 20});
+    Release(*m_shown.view, {60, 10 + 68 + 20});
+    EXPECT_EQ(TakeNotices(), (CNotices{{1041, ENotice::Clicked}})) << "the same row again";
+    m_shown.dialog.Controls().Select(1041, 2);
+    m_shown.dialog.Controls().Select(1041, -1);
+    EXPECT_TRUE(TakeNotices().empty()) << "what the logic selects is no news to it";
+    EXPECT_TRUE(View()->selectionModel()->selectedIndexes().isEmpty());
+}
+
+TEST_F(PictureList, AnotherPictureForARowKeepsPlaceAndSelection) {
+    View()->verticalScrollBar()->setValue(10);
+    m_shown.dialog.Controls().Select(1041, 11);
+    ASSERT_EQ(PictureAt(68 + 30), 229 + 11);
+    Fill(11);
+    EXPECT_EQ(PictureAt(68 + 30), 198 + 11);
+    EXPECT_EQ(PictureAt(30), 229 + 10);
+    EXPECT_EQ(View()->verticalScrollBar()->value(), 10);
+    EXPECT_EQ(View()->currentIndex().row(), 11);
+    EXPECT_TRUE(TakeNotices().empty());
+}
+
+TEST_F(PictureList, ARowWithoutPictureIsEmptyAndFewerRowsGo) {
+    m_shown.dialog.Controls().SetItems(1041, {{NormalPicture(0), 0}, {"", 1}, {NormalPicture(2), 2}});
+    EXPECT_EQ(PictureAt(30), 229);
+    EXPECT_EQ(Look().pixel(90, 68 + 30), kGround);
+    EXPECT_EQ(PictureAt(136 + 30), 231);
+    EXPECT_EQ(Look().pixel(90, 204 + 30), kGround);
+    EXPECT_FALSE(View()->verticalScrollBar()->isVisible());
+}
+
+TEST_F(PictureList, KeysMoveFromTheRowWithTheRim) {
+    m_shown.dialog.Controls().SetFocus(1041);
+    QTest::keyClick(View(), Qt::Key_Down);
+    EXPECT_EQ(Selected(), 0) << "the first key takes the first row";
+    QTest::keyClick(View(), Qt::Key_Down);
+    EXPECT_EQ(Selected(), 1);
+    QTest::keyClick(View(), Qt::Key_End);
+    EXPECT_EQ(Selected(), 30);
+    EXPECT_EQ(PictureAt(272 - 30), 229 + 30) << "and is scrolled to";
+    EXPECT_EQ(TakeNotices(), CNotices(3, {1041, ENotice::SelectionChanged}));
+    // The rim is drawn on the row, and only while the list has the focus.
+    const QImage focused = Look();
+    m_shown.dialog.Controls().SetFocus(42);
+    EXPECT_NE(focused.copy(0, 204, 189, 68), Look().copy(0, 204, 189, 68));
+    EXPECT_EQ(focused.copy(0, 0, 189, 204), Look().copy(0, 0, 189, 204));
+}
+
+TEST_F(PictureList, TheWheelScrollsByRows) {
+    Wheel(-120);
+    EXPECT_EQ(PictureAt(1), 230);
+    Wheel(-60);
+    Wheel(-60);
+    EXPECT_EQ(PictureAt(1), 231);
+    Wheel(1200);
+    EXPECT_EQ(PictureAt(1), 229);
+    EXPECT_TRUE(TakeNotices().empty());
+}
+
+TEST_F(PictureList, RowsCanBeReadAloud) {
+    EXPECT_EQ(View()->accessibleName(), "特效");
+    const auto name = [this](int nRow) {
+        return View()->model()->index(nRow, 0).data(Qt::AccessibleTextRole).toString().toStdString();
+    };
+    EXPECT_EQ(name(0), "亮度");
+    EXPECT_EQ(name(30), "版画效果");
+    Fill(30);
+    EXPECT_EQ(name(30), "版画效果") << "in its other form too";
+}

@@ -1,0 +1,137 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <set>
+
+#include "strips/EffectCells.h"
+
+// The rendered pictures of the effect list, looked at as the list uses them.
+
+namespace {
+
+const QString kSkinFolder = FOTARIUM_SKIN_DIR;
+const QString kSamples = FOTARIUM_SOURCE_DIR "/src/resources/samples";
+constexpr int kFirstSelected = 198;
+constexpr int kFirstNormal = 229;
+
+QImage Picture(int nNumber, int nDensity) {
+    return QImage(QString("%1/%2x/%3.png").arg(kSkinFolder).arg(nDensity).arg(nNumber))
+        .convertToFormat(QImage::Format_RGB888);
+}
+
+QByteArray Bytes(const QString& strPath) {
+    QFile file(strPath);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QImage Cut(const QImage& image, const QRect& rc, int nDensity) {
+    return image.copy(QRect(rc.topLeft() * nDensity, rc.size() * nDensity));
+}
+
+int CountColors(const QImage& image) {
+    std::set<QRgb> setColors;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) setColors.insert(image.pixel(x, y));
+    return static_cast<int>(setColors.size());
+}
+
+double MeanDifference(const QImage& imageA, const QImage& imageB) {
+    double sum = 0;
+    for (int y = 0; y < imageA.height(); ++y) {
+        for (int x = 0; x < imageA.width(); ++x) {
+            const QRgb a = imageA.pixel(x, y);
+            const QRgb b = imageB.pixel(x, y);
+            sum +=
+                std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+        }
+    }
+    return sum / (3.0 * imageA.width() * imageA.height());
+}
+
+}  // namespace
+
+TEST(Strips, EveryEffectHasBothFormsInBothSizes) {
+    std::set<QByteArray> setSeen;
+    for (const int nDensity : {1, 2}) {
+        const QImage strip = Picture(196, nDensity);
+        ASSERT_EQ(strip.size(), QSize(5859, 68) * nDensity);
+        for (int i = 0; i < kEffectCount; ++i) {
+            const QRect rcCell(i * 189, 0, 189, 68);
+            for (const int nNumber : {kFirstNormal + i, kFirstSelected + i}) {
+                const QImage image = Picture(nNumber, nDensity);
+                ASSERT_EQ(image.size(), QSize(189, 68) * nDensity) << nNumber;
+                EXPECT_TRUE(setSeen
+                                .insert(QByteArray(reinterpret_cast<const char*>(image.constBits()),
+                                                   image.sizeInBytes()))
+                                .second)
+                    << nNumber << " repeats another";
+            }
+            EXPECT_EQ(Cut(strip, rcCell, nDensity), Picture(kFirstNormal + i, nDensity)) << i;
+        }
+    }
+}
+
+TEST(Strips, TheLabelCanBeReadAndTheSampleShowsAPicture) {
+    std::set<QByteArray> setLabels;
+    const QRect rcLabel(8, 8, 70, 17);
+    const QRect rcClear(8, 28, 70, 18);
+    for (int i = 0; i < kEffectCount; ++i) {
+        for (const int nNumber : {kFirstNormal + i, kFirstSelected + i}) {
+            const QImage image = Picture(nNumber, 1);
+            const QImage label = Cut(image, rcLabel, 1);
+            // The ground alone has a colour a row, not more than two by the rounding of a gradient.
+            EXPECT_LE(CountColors(Cut(image, rcClear, 1)), 2 * rcClear.height()) << nNumber;
+            int nInk = 0;
+            for (int y = 0; y < label.height(); ++y)
+                for (int x = 0; x < label.width(); ++x)
+                    nInk += std::abs(qGray(label.pixel(x, y)) - qGray(image.pixel(rcClear.left(), 40))) > 80;
+            EXPECT_GT(nInk, 40) << nNumber;
+            const int nColors = CountColors(Cut(image, CEffectCells::kSample, 1));
+            EXPECT_GT(nColors, i == kPureBlackWhite || i == kEngrave || i == kSketch ? 2 : 60) << nNumber;
+        }
+        const QImage label = Cut(Picture(kFirstNormal + i, 1), rcLabel, 1);
+        setLabels.insert(QByteArray(reinterpret_cast<const char*>(label.constBits()), label.sizeInBytes()));
+    }
+    EXPECT_EQ(setLabels.size(), static_cast<std::size_t>(kEffectCount)) << "each has a label of its own";
+}
+
+// Both forms show the same sample on another ground, and nobody can take one for the other.
+TEST(Strips, TheSelectedFormIsSeenAtOnce) {
+    for (int i = 0; i < kEffectCount; ++i) {
+        const QImage normal = Picture(kFirstNormal + i, 1);
+        const QImage selected = Picture(kFirstSelected + i, 1);
+        EXPECT_EQ(Cut(normal, CEffectCells::kSample, 1), Cut(selected, CEffectCells::kSample, 1)) << i;
+        EXPECT_GT(MeanDifference(normal, selected), 30) << i;
+        const QColor crRim(selected.pixel(0, 34));
+        EXPECT_GT(crRim.red() - crRim.blue(), 100) << "a warm rim";
+    }
+}
+
+TEST(Strips, ComeOutTheSameOnEveryRun) {
+    QTemporaryDir folder;
+    ASSERT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {folder.path(), kSamples}), 0);
+    for (const char* szSub : {"/1x", "/2x"}) {
+        const QStringList arrNames = QDir(folder.path() + szSub).entryList(QDir::Files);
+        EXPECT_EQ(arrNames.size(), 2 * kEffectCount + 1);
+        for (const QString& strName : arrNames) {
+            EXPECT_EQ(Bytes(folder.path() + szSub + '/' + strName),
+                      Bytes(kSkinFolder + szSub + '/' + strName))
+                << strName.toStdString();
+        }
+    }
+}
+
+TEST(Strips, ToolSaysWhenItCannotWork) {
+    QTemporaryDir folder;
+    EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {}), 1);
+    EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {folder.path(), folder.path()}), 1) << "no photographs";
+    EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {"--contact", "none.jpg", folder.filePath("a.png")}),
+              1);
+    QFile file(folder.filePath("taken"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {file.fileName(), kSamples}), 1);
+}

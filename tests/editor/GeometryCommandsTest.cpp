@@ -106,28 +106,6 @@ TEST_F(GeometryCommandsTest, FlipsAndTurnsMoveThePictureWithoutItsFrameToo) {
     m_geometry.OnTurnLeft();
 }
 
-TEST_F(GeometryCommandsTest, UnderThePhoneSizeRuleOnlyTheFlipsRun) {
-    Open(kModeStick);
-    m_images.SetSizeRule(true);
-    m_geometry.OnFlipVertical();
-    EXPECT_EQ(m_images.m_pImgDisplay->GetSize(), (CSize{176, 144}));
-    // In DRAW the paper rules.
-    Open(kModeDraw);
-    m_geometry.OnFlipHorizontal();
-    EXPECT_EQ(m_images.m_pImgDisplay->GetSize(), (CSize{30, 20}));
-    Words();
-    const CPixels work = Work();
-    for (const CCommand command :
-         {&CGeometryCommands::OnSize, &CGeometryCommands::OnLarge, &CGeometryCommands::OnSmall,
-          &CGeometryCommands::OnActual, &CGeometryCommands::OnTurnLeft, &CGeometryCommands::OnTurnRight}) {
-        Do(command);
-        ASSERT_EQ(std::exchange(m_arrBoxes, {}).size(), 1U);
-        EXPECT_TRUE(Words().empty());
-        EXPECT_TRUE(Work().SharesWith(work));
-        EXPECT_EQ(m_images.m_stackUndo.Count(), 2);
-    }
-}
-
 TEST_F(GeometryCommandsTest, NothingHappensWithoutAPictureOrBehindACancel) {
     for (const CCommand command :
          {&CGeometryCommands::OnFlipVertical, &CGeometryCommands::OnFlipHorizontal,

@@ -1,6 +1,7 @@
 #include "controls/SkinSlider.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -76,7 +77,7 @@ int CSkinSlider::PositionAt(CPoint pt) const {
     const CControl& control = Control();
     if (nSlot <= 0) return control.nPos;
     const double t = std::clamp(static_cast<double>(nOffset) / nSlot, 0.0, 1.0);
-    return control.nMin + static_cast<int>(t * (control.nMax - control.nMin) + 0.5);
+    return control.nMin + static_cast<int>(std::lround(t * (control.nMax - control.nMin)));
 }
 
 // -1 before the thumb, 1 behind it, 0 beside it.

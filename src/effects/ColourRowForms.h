@@ -15,6 +15,8 @@ struct CColourRowForms {
     CJoin* joinRgb;
     CSplit* rgbToYuv;
     void (*rgbToY)(const std::uint8_t* pRgb, std::uint8_t* pY, std::size_t n);
+    void (*rgbToUv)(const std::uint8_t* pRgb, const std::uint8_t* pY, std::uint8_t* pU, std::uint8_t* pV,
+                    std::size_t n);
     CJoin* yuvToRgb;
     void (*tintToRgb)(const std::uint8_t* pY, std::uint8_t nU, std::uint8_t nV, std::uint8_t* pRgb,
                       std::size_t n);

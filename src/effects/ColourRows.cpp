@@ -28,6 +28,11 @@ void RgbToY(const std::uint8_t* pRgb, std::uint8_t* pY, std::size_t n) {
     Forms().rgbToY(pRgb, pY, n);
 }
 
+void RgbToUv(const std::uint8_t* pRgb, const std::uint8_t* pY, std::uint8_t* pU, std::uint8_t* pV,
+             std::size_t n) {
+    Forms().rgbToUv(pRgb, pY, pU, pV, n);
+}
+
 void YuvToRgb(const std::uint8_t* pY, const std::uint8_t* pU, const std::uint8_t* pV, std::uint8_t* pRgb,
               std::size_t n) {
     Forms().yuvToRgb(pY, pU, pV, pRgb, n);

@@ -4,9 +4,9 @@
 #include <cstdint>
 
 // The colour conversions of ColorSpace.h over runs of pixels, the same to the last bit, and the way between
-// pixels (three bytes each: R, G, B) and one byte array for each channel. n counts pixels and may be anything,
-// 0 as well; exactly n pixels are read and written. Any address will do; a multiple of 64 is fastest. What is
-// written must not overlap another argument; what is only read may be the same.
+// pixels (three bytes each: R, G, B) and one byte array for each channel. n counts pixels and may be
+// anything, 0 as well; exactly n pixels are read and written. Any address will do; a multiple of 64 is
+// fastest. What is written must not overlap another argument; what is only read may be the same.
 //
 // Meant for chunks: convert, work on the arrays, convert back, while all of it lies in the nearest cache.
 
@@ -28,6 +28,9 @@ void JoinRgb(const std::uint8_t* pR, const std::uint8_t* pG, const std::uint8_t*
 void RgbToYuv(const std::uint8_t* pRgb, std::uint8_t* pY, std::uint8_t* pU, std::uint8_t* pV, std::size_t n);
 // Y alone, for an effect that gives U and V of its own or needs none.
 void RgbToY(const std::uint8_t* pRgb, std::uint8_t* pY, std::size_t n);
+// U and V of pixels whose Y is known already.
+void RgbToUv(const std::uint8_t* pRgb, const std::uint8_t* pY, std::uint8_t* pU, std::uint8_t* pV,
+             std::size_t n);
 void YuvToRgb(const std::uint8_t* pY, const std::uint8_t* pU, const std::uint8_t* pV, std::uint8_t* pRgb,
               std::size_t n);
 // With the same U and V for every pixel.

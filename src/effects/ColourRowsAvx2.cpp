@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 
 #include "effects/ColourBlocks.h"
 #include "effects/ColourRowForms.h"
@@ -40,11 +39,11 @@ FOTARIUM_AVX2 void Split(const std::uint8_t* pRgb, std::uint8_t* pA, std::uint8_
         std::uint8_t arrA[kBlock];
         std::uint8_t arrB[kBlock];
         std::uint8_t arrC[kBlock];
-        std::memcpy(arrRgb, pRgb, 3 * n);
+        std::copy_n(pRgb, 3 * n, arrRgb);
         Split<TTurn>(arrRgb, arrA, arrB, arrC, kBlock);
-        std::memcpy(pA, arrA, n);
-        std::memcpy(pB, arrB, n);
-        std::memcpy(pC, arrC, n);
+        std::copy_n(arrA, n, pA);
+        std::copy_n(arrB, n, pB);
+        std::copy_n(arrC, n, pC);
         return;
     }
     for (std::size_t nNext = 0; nNext < n; nNext += kBlock) {
@@ -64,11 +63,11 @@ FOTARIUM_AVX2 void Join(const std::uint8_t* pA, const std::uint8_t* pB, const st
         std::uint8_t arrA[kBlock] = {};
         std::uint8_t arrB[kBlock] = {};
         std::uint8_t arrC[kBlock] = {};
-        std::memcpy(arrA, pA, n);
-        std::memcpy(arrB, pB, n);
-        std::memcpy(arrC, pC, n);
+        std::copy_n(pA, n, arrA);
+        std::copy_n(pB, n, arrB);
+        std::copy_n(pC, n, arrC);
         Join<TTurn>(arrA, arrB, arrC, arrRgb, kBlock);
-        std::memcpy(pRgb, arrRgb, 3 * n);
+        std::copy_n(arrRgb, 3 * n, pRgb);
         return;
     }
     for (std::size_t nNext = 0; nNext < n; nNext += kBlock) {
@@ -81,14 +80,36 @@ FOTARIUM_AVX2 void ToY(const std::uint8_t* pRgb, std::uint8_t* pY, std::size_t n
     if (n < kBlock) {
         std::uint8_t arrRgb[3 * kBlock] = {};
         std::uint8_t arrY[kBlock];
-        std::memcpy(arrRgb, pRgb, 3 * n);
+        std::copy_n(pRgb, 3 * n, arrRgb);
         ToY(arrRgb, arrY, kBlock);
-        std::memcpy(pY, arrY, n);
+        std::copy_n(arrY, n, pY);
         return;
     }
     for (std::size_t nNext = 0; nNext < n; nNext += kBlock) {
         const std::size_t i = std::min(nNext, n - kBlock);
         Store(pY + i, Luma(LoadRgb(pRgb + 3 * i)));
+    }
+}
+
+FOTARIUM_AVX2 void ToUv(const std::uint8_t* pRgb, const std::uint8_t* pY, std::uint8_t* pU, std::uint8_t* pV,
+                        std::size_t n) {
+    if (n < kBlock) {
+        std::uint8_t arrRgb[3 * kBlock] = {};
+        std::uint8_t arrY[kBlock] = {};
+        std::uint8_t arrU[kBlock];
+        std::uint8_t arrV[kBlock];
+        std::copy_n(pRgb, 3 * n, arrRgb);
+        std::copy_n(pY, n, arrY);
+        ToUv(arrRgb, arrY, arrU, arrV, kBlock);
+        std::copy_n(arrU, n, pU);
+        std::copy_n(arrV, n, pV);
+        return;
+    }
+    for (std::size_t nNext = 0; nNext < n; nNext += kBlock) {
+        const std::size_t i = std::min(nNext, n - kBlock);
+        const CBlock yuv = WithChroma(LoadRgb(pRgb + 3 * i), Load(pY + i));
+        Store(pU + i, yuv.b);
+        Store(pV + i, yuv.c);
     }
 }
 
@@ -104,9 +125,9 @@ FOTARIUM_AVX2 void Tint(const std::uint8_t* pY, std::uint8_t nU, std::uint8_t nV
     if (n < kBlock) {
         std::uint8_t arrRgb[3 * kBlock];
         std::uint8_t arrY[kBlock] = {};
-        std::memcpy(arrY, pY, n);
+        std::copy_n(pY, n, arrY);
         Tint(arrY, nU, nV, arrRgb, kBlock);
-        std::memcpy(pRgb, arrRgb, 3 * n);
+        std::copy_n(arrRgb, 3 * n, pRgb);
         return;
     }
     const __m256i uWord = _mm256_set1_epi16(static_cast<short>(nU - 128));
@@ -137,9 +158,9 @@ FOTARIUM_AVX2 void Add(std::uint8_t* p, int nAdd, std::size_t n) {
 }  // namespace
 
 const CColourRowForms& Avx2ColourRows() {
-    static constexpr CColourRowForms kForms = {Split<CKeep>,  Join<CKeep>,    Split<CToYuv>,
-                                               ToY,           Join<CFromYuv>, Tint,
-                                               Split<CToHsl>, Join<CFromHsl>, Add};
+    static constexpr CColourRowForms kForms = {
+        Split<CKeep>, Join<CKeep>,   Split<CToYuv>,  ToY, ToUv, Join<CFromYuv>,
+        Tint,         Split<CToHsl>, Join<CFromHsl>, Add};
     return kForms;
 }
 

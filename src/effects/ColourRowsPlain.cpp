@@ -95,11 +95,16 @@ constexpr std::uint8_t ChromaV(short nDifference) {
     return LimitWord(static_cast<short>(nDifference + HighProduct(nDifference, -18811) + 128));
 }
 
+// block.a holds Y.
+void AddChroma(CBlock& block, const CBlock& rgb) {
+    for (std::size_t i = 0; i < kBlock; ++i) block.b[i] = ChromaU(static_cast<short>(rgb.c[i] - block.a[i]));
+    for (std::size_t i = 0; i < kBlock; ++i) block.c[i] = ChromaV(static_cast<short>(rgb.a[i] - block.a[i]));
+}
+
 void ToYuv(CBlock& block) {
     const CBlock rgb = block;
     ToLuma(block);
-    for (std::size_t i = 0; i < kBlock; ++i) block.b[i] = ChromaU(static_cast<short>(rgb.c[i] - block.a[i]));
-    for (std::size_t i = 0; i < kBlock; ++i) block.c[i] = ChromaV(static_cast<short>(rgb.a[i] - block.a[i]));
+    AddChroma(block, rgb);
 }
 
 // 1.403 is 1 + 26411 / 65536.
@@ -244,6 +249,20 @@ void ToY(const std::uint8_t* pRgb, std::uint8_t* pY, std::size_t n) {
     }
 }
 
+void ToUv(const std::uint8_t* pRgb, const std::uint8_t* pY, std::uint8_t* pU, std::uint8_t* pV,
+          std::size_t n) {
+    CBlock rgb{};
+    CBlock yuv{};
+    for (std::size_t i = 0; i < n; i += kBlock) {
+        const std::size_t nCount = std::min(kBlock, n - i);
+        SplitRun(pRgb + 3 * i, rgb.a.data(), rgb.b.data(), rgb.c.data(), nCount);
+        std::copy_n(pY + i, nCount, yuv.a.data());
+        AddChroma(yuv, rgb);
+        std::copy_n(yuv.b.data(), nCount, pU + i);
+        std::copy_n(yuv.c.data(), nCount, pV + i);
+    }
+}
+
 void Tint(const std::uint8_t* pY, std::uint8_t nU, std::uint8_t nV, std::uint8_t* pRgb, std::size_t n) {
     std::array<CColor, 256> colours;
     for (std::size_t nY = 0; nY < colours.size(); ++nY)
@@ -264,7 +283,7 @@ void Add(std::uint8_t* p, int nAdd, std::size_t n) {
 }  // namespace
 
 const CColourRowForms& PlainColourRows() {
-    static constexpr CColourRowForms kForms = {SplitRun, JoinRun,      Split<ToYuv>,  ToY, Join<FromYuv>,
-                                               Tint,     Split<ToHsl>, Join<FromHsl>, Add};
+    static constexpr CColourRowForms kForms = {SplitRun,      JoinRun, Split<ToYuv>, ToY,           ToUv,
+                                               Join<FromYuv>, Tint,    Split<ToHsl>, Join<FromHsl>, Add};
     return kForms;
 }

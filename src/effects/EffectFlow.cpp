@@ -41,6 +41,7 @@ CEffectFlow::CEffectFlow(const CEnvironment& env) : m_env(env), m_list(env.contr
 
 void CEffectFlow::Init() {
     std::vector<std::string> arrCells;
+    arrCells.reserve(kEffectCount);
     for (int i = 0; i < kEffectCount; ++i) arrCells.push_back(NormalPicture(i));
     m_list.SetImageList(std::move(arrCells), kListCell);
     for (int i = 0; i < kEffectCount; ++i) m_list.AddItem(i, 0);

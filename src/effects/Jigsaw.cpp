@@ -97,7 +97,8 @@ class CChanges {
 
   private:
     std::size_t Place(int x, int y) const {
-        return static_cast<std::size_t>((y - m_y + kMargin) * kPitch + x - m_x + kMargin);
+        const int nPlace = (y - m_y + kMargin) * kPitch + x - m_x + kMargin;
+        return static_cast<std::size_t>(nPlace);
     }
 
     void DrawAcross(int y) {

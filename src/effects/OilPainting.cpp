@@ -29,6 +29,8 @@ constexpr std::size_t kPiece = 16;
 constexpr std::size_t kField = 16;
 // Dabs up to this side mostly find something to paint, for there are not enough of them to cover the picture.
 constexpr std::size_t kSmall = 6;
+// Bytes behind the last bit that are read and written with it.
+constexpr std::size_t kBitSlack = 16;
 // How many dabs ahead memory is called for.
 constexpr std::size_t kAhead = 8;
 
@@ -47,7 +49,7 @@ struct CCanvas {
           nFieldsX((nPlacesX + kField - 1) / kField),
           pLuma(call.dst.pBits),
           pPainted(pLuma + nCells),
-          pDone(pPainted + nCells / 8 + 16),
+          pDone(pPainted + nCells / 8 + kBitSlack),
           pResult(pLuma + 2 * nCells) {}
 
     // The cells from the first one of a dab's row up to its right end or the picture's last one. A row that
@@ -63,7 +65,7 @@ struct CCanvas {
     std::size_t nPlacesY;
     std::size_t nFieldsX;
     std::uint8_t* pLuma;
-    std::uint8_t* pPainted;  // a bit for each cell, set behind the last one
+    std::uint8_t* pPainted;  // a bit for each cell
     std::uint8_t* pDone;     // a byte for each field
     std::uint8_t* pResult;   // the luma to come, at the target's end
 };
@@ -252,9 +254,7 @@ void Prepare(const CEffectCall& call, const CCanvas& canvas) {
     for (std::size_t i = 0; i < canvas.nCells; i += kChunkPixels)
         RgbToY(call.src.pBits + 3 * i, canvas.pLuma + i, std::min(kChunkPixels, canvas.nCells - i));
     std::memcpy(canvas.pResult, canvas.pLuma, canvas.nCells);
-    std::memset(canvas.pPainted, 0, canvas.nCells / 8);
-    std::memset(canvas.pPainted + canvas.nCells / 8, 0xFF, 16);
-    canvas.pPainted[canvas.nCells / 8] = static_cast<std::uint8_t>(0xFF << (canvas.nCells % 8));
+    std::memset(canvas.pPainted, 0, canvas.nCells / 8 + kBitSlack);
     const std::size_t nFieldsY = (canvas.nPlacesY + kField - 1) / kField;
     std::memset(canvas.pDone, 0, canvas.nFieldsX * nFieldsY);
 }

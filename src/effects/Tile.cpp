@@ -76,12 +76,10 @@ void Tile(const CEffectCall& call) {
     if (nSide <= 0) return CopyPicture(call);
 
     const CJoints joints(call.dst, nSide);
-    // Rows are made shortly before the joints in them, which can reach below their tile if tiles are small.
-    int nMade = 0;
+    // Rows are made shortly before the joints in them. A joint can reach into the row below its tiles, but
+    // that one becomes white as a whole by the next tiles' own.
     for (std::int64_t y = 0; y < h; y += nSide) {
-        const auto nNeeded = static_cast<int>(std::min<std::int64_t>(y + nSide + kMaxThickness, h));
-        RoundTrip(call, nMade, nNeeded);
-        nMade = nNeeded;
+        RoundTrip(call, static_cast<int>(y), static_cast<int>(std::min<std::int64_t>(y + nSide, h)));
         for (std::int64_t x = 0; x < w; x += nSide) {
             const int nTop = call.random.Next() % kMaxThickness + 1;
             const int nLeft = call.random.Next() % kMaxThickness + 1;

@@ -36,9 +36,12 @@ FOTARIUM_AVX2_PART __m256i Chroma(__m256i channel, __m256i y, short nFactor, sho
     return _mm256_xor_si256(_mm256_packs_epi16(low, high), _mm256_set1_epi8(-128));
 }
 
-FOTARIUM_AVX2_PART CBlock ToYuv(const CBlock& rgb) {
-    const __m256i y = Luma(rgb);
+FOTARIUM_AVX2_PART CBlock WithChroma(const CBlock& rgb, __m256i y) {
     return {y, Chroma(rgb.c, y, 9102, 1), Chroma(rgb.a, y, 28650, 0)};
+}
+
+FOTARIUM_AVX2_PART CBlock ToYuv(const CBlock& rgb) {
+    return WithChroma(rgb, Luma(rgb));
 }
 
 // 0.403 v and 0.770 u of words, cut downwards: what R and B have over Y + v and Y + u.

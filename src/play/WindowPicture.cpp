@@ -96,13 +96,13 @@ void CComposer::DrawRows(const CControl& control) {
     if (m_pBitmaps == nullptr || control.arrItems.empty()) return;
     const CxImage* pFirst = m_pBitmaps->Find(control.arrItems[0].strText, 1);
     if (pFirst == nullptr) return;
-    const int nRows = std::min(static_cast<int>(control.arrItems.size()), rc.Height() / pFirst->GetHeight());
-    const int nTop = std::max(0, control.nSel - nRows + 1);
-    for (int i = 0; i < nRows; ++i) {
-        const std::string& strPicture = control.arrItems[static_cast<std::size_t>(nTop + i)].strText;
-        const CxImage* pImage = m_pBitmaps->Find(strPicture, 1);
-        if (pImage != nullptr)
-            m_surface.DrawPixels(pImage->Pixels(), rc.left, rc.top + i * pFirst->GetHeight());
+    const int nHeight = pFirst->GetHeight();
+    const int nRows = rc.Height() / nHeight;
+    int nRow = -std::max(0, control.nSel - nRows + 1);
+    for (const CListItem& item : control.arrItems) {
+        const CxImage* pImage = nRow >= 0 && nRow < nRows ? m_pBitmaps->Find(item.strText, 1) : nullptr;
+        if (pImage != nullptr) m_surface.DrawPixels(pImage->Pixels(), rc.left, rc.top + nRow * nHeight);
+        ++nRow;
     }
 }
 

@@ -108,7 +108,7 @@ void CSliderWidget::timerEvent(QTimerEvent* pEvent) {
 void CSliderWidget::keyPressEvent(QKeyEvent* pEvent) {
     const bool bPlain = (pEvent->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (bPlain && m_slider.OnKey(KeyCodeOf(pEvent->key()))) return Tell(true);
-    QWidget::keyPressEvent(pEvent);
+    pEvent->ignore();
 }
 
 void CSliderWidget::wheelEvent(QWheelEvent* pEvent) {

@@ -33,7 +33,7 @@ struct CLook {
 constexpr std::array<CLook, kEffectCount> kLooks = {{
     {&kFruit, 40},           // Brightness
     {&kFruit, 50},           // Contrast
-    {&kFruit, -30},          // Chroma
+    {&kFruit, 70},           // Chroma
     {&kFruit, 6},            // Sharpness
     {&kFruit},               // Negative
     {&kFruit, 35},           // Pure Black and White
@@ -53,7 +53,7 @@ constexpr std::array<CLook, kEffectCount> kLooks = {{
     {&kFace},                // Art
     {&kFruit, 0, 160, 160},  // Crystal Frame
     {&kFruit},               // Jigsaw
-    {&kFruit, 5},            // Oil Painting
+    {&kFruit, 7},            // Oil Painting
     {&kFruit, 2},            // Tile
     {&kFruit, 1},            // Laminate
     {&kFruit},               // Engrave

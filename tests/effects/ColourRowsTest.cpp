@@ -107,6 +107,16 @@ TEST_P(ColourRows, LumaOfEveryColour) {
     ExpectSplitAsFormula(pLuma, [](CColor rgb) { return CColor{ColorRGBtoYUV(rgb).r, 0, 0}; });
 }
 
+TEST_P(ColourRows, ChromaOfEveryColourWithItsLuma) {
+    const CSplit pChroma = [](const std::uint8_t* pRgb, std::uint8_t* pY, std::uint8_t* pU, std::uint8_t* pV,
+                              std::size_t n) {
+        for (std::size_t i = 0; i < n; ++i)
+            pY[i] = ColorRGBtoYUV({pRgb[3 * i], pRgb[3 * i + 1], pRgb[3 * i + 2]}).r;
+        RgbToUv(pRgb, pY, pU, pV, n);
+    };
+    ExpectSplitAsFormula(pChroma, ColorRGBtoYUV);
+}
+
 // The sheets hold every U, V for one Y; here every Y comes with one U, V.
 TEST_P(ColourRows, RgbOfEveryTint) {
     std::array<std::uint8_t, 256> arrY{};
@@ -151,12 +161,16 @@ TEST_P(ColourRows, TouchExactlyTheRun) {
         Round(RgbToHsl, HslToRgb, ColorRGBtoHSL, ColorHSLtoRGB);
 
         RgbToY(arrIn.data(), arrMid[0].data() + 1, n);
+        RgbToUv(arrIn.data(), arrMid[0].data() + 1, arrMid[1].data() + 1, arrMid[2].data() + 1, n);
+        for (const auto& mid : arrMid) ASSERT_TRUE(mid.front() == kGuard && mid.back() == kGuard) << n;
         YuvToRgb(arrMid[0].data() + 1, 113, 143, arrOut.data() + 1, n);
-        ASSERT_TRUE(arrMid[0].back() == kGuard && arrOut.front() == kGuard && arrOut.back() == kGuard) << n;
+        ASSERT_TRUE(arrOut.front() == kGuard && arrOut.back() == kGuard) << n;
         for (std::size_t i = 0; i < n; ++i) {
-            const std::uint8_t y = ColorRGBtoYUV({arrIn[3 * i], arrIn[3 * i + 1], arrIn[3 * i + 2]}).r;
+            const CColor yuv = ColorRGBtoYUV({arrIn[3 * i], arrIn[3 * i + 1], arrIn[3 * i + 2]});
+            ASSERT_EQ((CColor{arrMid[0][i + 1], arrMid[1][i + 1], arrMid[2][i + 1]}), yuv)
+                << i << " of " << n;
             const CColor crGot = {arrOut[3 * i + 1], arrOut[3 * i + 2], arrOut[3 * i + 3]};
-            ASSERT_EQ(crGot, ColorYUVtoRGB({y, 113, 143})) << i << " of " << n;
+            ASSERT_EQ(crGot, ColorYUVtoRGB({yuv.r, 113, 143})) << i << " of " << n;
         }
     }
 }

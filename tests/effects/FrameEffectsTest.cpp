@@ -344,6 +344,8 @@ TEST(Tile, IsTwoHundredPixelsWideAtTheHighestLevel) {
 
 TEST(Laminate, HalvesAFlatPictureTwice) {
     EXPECT_EQ(PixelAt(Applied(Laminate, FlatPicture(50, 40, {101, 200, 7}), 1), 3, 3), (CColor{100, 200, 6}));
+    // One block that is higher than sums of sixteen bits can hold.
+    EXPECT_EQ(PixelAt(Applied(Laminate, FlatPicture(700, 701, {255, 255, 255}), 100), 0, 0).r, 254);
     // Behind the last block of the lowest row the corner stays.
     const CPixels laminated = Applied(Laminate, FlatPicture(50, 40, {101, 101, 101}), 1);
     EXPECT_EQ(PixelAt(laminated, 39, 39).r, 100);

@@ -114,7 +114,7 @@ void JointsDown(CNaivePlanes& p, const std::vector<std::uint8_t>& d) {
     for (int y = 0; y < p.nHeight; y += 40) {
         for (int x = 40; x < p.nWidth; x += 40, ++nStraight)
             for (int k = 0; k < 32; ++k) {
-                const int nWobble = kJigsawWobble[static_cast<std::size_t>(k)];
+                const int nWobble = k == 15 || k == 17 ? 1 : k == 16 ? 2 : 0;
                 const int o = k <= 16 ? k : k + 8;
                 if (!Stroke(p, d, nStraight % 3 != 0 ? x + nWobble : x - nWobble, y + o, false)) break;
             }

@@ -38,6 +38,7 @@ class PictureList : public testing::Test {
     }
     void Fill(int nLit = -1) {
         std::vector<CListItem> arrItems;
+        arrItems.reserve(kRows);
         for (int i = 0; i < kRows; ++i)
             arrItems.push_back({i == nLit ? std::to_string(198 + i) : NormalPicture(i), i});
         m_shown.dialog.Controls().SetItems(1041, arrItems);

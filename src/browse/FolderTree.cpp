@@ -30,7 +30,7 @@ std::string CFolderTree::GetPath(CTreeItem item) const {
     if (item == kNoTreeItem || item == m_hRoot) return {};
     std::string strPath;
     for (; m_model.Parent(item) != m_hRoot; item = m_model.Parent(item))
-        strPath = m_model.Text(item) + m_cSeparator + strPath;
+        strPath.insert(0, 1, m_cSeparator).insert(0, m_model.Text(item));
     // The text of a drive ends in its letter in brackets: "(X:)".
     const std::string& strText = m_model.Text(item);
     const CDrive* pDrive = strText.size() < 3 ? nullptr : FindDrive(strText[strText.size() - 3]);

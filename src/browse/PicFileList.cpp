@@ -193,6 +193,7 @@ void CPicFileList::OnKeyDown(int nKey, bool bShift) {
 // One item without Shift is asked about by the program; in all other cases the system asks.
 bool CPicFileList::RunDelete(const std::vector<std::string>& arrNames, bool bShift) {
     std::vector<std::string> arrPaths;
+    arrPaths.reserve(arrNames.size());
     for (const std::string& strName : arrNames) arrPaths.push_back(PathOf(strName));
     const bool bOwnQuestion = arrNames.size() == 1 && !bShift;
     if (bOwnQuestion) {

@@ -36,7 +36,7 @@ void AddTree(CSteps& steps, const CTourFiles& files) {
     steps.push_back({"samples", "the tree stands on the samples, and every cell has its picture",
                      [](CPerson&) {},
                      [files](CPerson& person) {
-                         const QString str = CheckFolder(person, "ZEFA肖像", files.arrSamples);
+                         QString str = CheckFolder(person, "ZEFA肖像", files.arrSamples);
                          if (!str.isEmpty()) return str;
                          if (!person.TextOf(kBrowseName).contains("ZEFA肖像"))
                              return QStringLiteral("wrong name line");

@@ -51,7 +51,7 @@ struct CBefore {
 
 // A command whose outcome is the picture as it was, changed by fnChange.
 CTourStep Changes(const char* szName, const char* szTells, int nId, const std::shared_ptr<CBefore>& pBefore,
-                  QSize size, std::function<QImage(const QImage&)> fnChange) {
+                  QSize size, const std::function<QImage(const QImage&)>& fnChange) {
     return {szName, szTells,
             [=](CPerson& person) {
                 pBefore->image = SeenPicture(person, size.width(), size.height());
@@ -59,7 +59,7 @@ CTourStep Changes(const char* szName, const char* szTells, int nId, const std::s
             },
             [=](CPerson& person) {
                 const QImage expected = fnChange(pBefore->image);
-                const QString strSize = CheckSize(person, expected.width(), expected.height());
+                QString strSize = CheckSize(person, expected.width(), expected.height());
                 if (!strSize.isEmpty()) return strSize;
                 const QImage seen = SeenPicture(person, expected.width(), expected.height());
                 const double fApart = Distance(seen, expected);

@@ -80,6 +80,7 @@ class ThumBench : public testing::Test,
 
     std::vector<std::string> Names() const {
         std::vector<std::string> arrNames;
+        arrNames.reserve(static_cast<std::size_t>(m_icons.Count()));
         for (int i = 0; i < m_icons.Count(); ++i) arrNames.push_back(m_icons.Text(i));
         return arrNames;
     }
@@ -88,7 +89,7 @@ class ThumBench : public testing::Test,
         std::string strCells;
         for (int i = 0; i < m_icons.Count(); ++i) {
             const CPixels& cell = m_icons.Picture(i);
-            EXPECT_TRUE(cell.IsEmpty() || CSize(cell.Width(), cell.Height()) == CSize(110, 110));
+            EXPECT_TRUE(cell.IsEmpty() || (cell.Width() == 110 && cell.Height() == 110));
             const CColor color = cell.IsEmpty() ? CColor{} : PixelAt(cell, 60, 60);
             strCells += cell.IsEmpty() ? 'e' : color == kFolder ? 'f' : color == kLit ? 'l' : 'p';
         }

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kFiles = 150;
 // One slice, an event, and a machine that has other things to do. A fill in one go takes longer by far.
-constexpr qint64 kLongestWait = 250;
+constexpr qint64 kLongestWait = 1000;
 
 // Counts the paints of a widget, and how long the event loop once was away.
 class CWatch : public QObject {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "play/Ppm.h"
+#include "image/Ppm.h"
 #include "play/States.h"
 #include "play/Verbs.h"
 #include "play/WindowPicture.h"

@@ -169,10 +169,12 @@ void CDialogView::OnControlChanged(const CControl& control, EControlChange chang
 }
 
 void CDialogView::MirrorFocus(const CControl& control) {
+    QWidget* pNow = WidgetOf(control.nId);
+    // Handlers give the focus again and again to the control that has it.
+    if (m_nFocusShown == control.nId && pNow != nullptr && pNow->hasFocus()) return;
     QWidget* pBefore = WidgetOf(m_nFocusShown);
     if (pBefore != nullptr) pBefore->update();
     m_nFocusShown = control.nId;
-    QWidget* pNow = WidgetOf(control.nId);
     if (pNow != nullptr && !pNow->hasFocus()) pNow->setFocus();
 }
 

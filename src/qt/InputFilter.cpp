@@ -1,6 +1,7 @@
 #include "qt/InputFilter.h"
 
 #include <QAbstractButton>
+#include <QAbstractSlider>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -26,9 +27,10 @@ void CInputFilter::OnMouseMove(const QWidget& widget, const QMouseEvent& event) 
     if (event.timestamp() == m_nMoveTime && pt == m_ptMove) return;
     m_nMoveTime = event.timestamp();
     m_ptMove = pt;
-    // A button that is held keeps the mouse for itself.
-    const auto* pButton = qobject_cast<const QAbstractButton*>(&widget);
-    if (pButton != nullptr && pButton->isEnabled() && event.buttons() != Qt::NoButton) return;
+    // A button, a slider or a scroll bar that is held keeps the mouse for itself.
+    const bool bHolds = qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+                        qobject_cast<const QAbstractSlider*>(&widget) != nullptr;
+    if (bHolds && widget.isEnabled() && event.buttons() != Qt::NoButton) return;
     m_sink.OnHover(pt, event.buttons().testFlag(Qt::LeftButton));
 }
 

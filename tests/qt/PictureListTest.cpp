@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include "PaintWatch.h"
 #include "TestDialog.h"
 
 namespace {
@@ -129,6 +130,18 @@ TEST_F(PictureList, KeysMoveFromTheRowWithTheRim) {
     m_shown.dialog.Controls().SetFocus(42);
     EXPECT_NE(focused.copy(0, 204, 189, 68), Look().copy(0, 204, 189, 68));
     EXPECT_EQ(focused.copy(0, 0, 189, 204), Look().copy(0, 0, 189, 204));
+}
+
+TEST_F(PictureList, TheFocusGivenAgainPaintsNothing) {
+    m_shown.dialog.Controls().SetFocus(1041);
+    QCoreApplication::processEvents();
+    CPaintWatch watch(*View()->viewport());
+    m_shown.dialog.Controls().SetFocus(1041);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(watch.m_region.isEmpty());
+    m_shown.dialog.Controls().SetFocus(42);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(watch.m_region.isEmpty()) << "the rim goes";
 }
 
 TEST_F(PictureList, TheWheelScrollsByRows) {

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QPaintEvent>
 #include <QWheelEvent>
 
+#include "PaintWatch.h"
 #include "TestDialog.h"
 
 namespace {
@@ -21,19 +21,6 @@ CTestBitmaps SliderSkin() {
     skin.Add("610", {26, 13}, {200, 100, 0});
     return skin;
 }
-
-// What a widget was asked to paint.
-class CPaintWatch : public QObject {
-  public:
-    explicit CPaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-    QRegion m_region;
-
-  protected:
-    bool eventFilter(QObject*, QEvent* pEvent) override {
-        if (pEvent->type() == QEvent::Paint) m_region += static_cast<QPaintEvent*>(pEvent)->region();
-        return false;
-    }
-};
 
 class Slider : public testing::Test {
   protected:
@@ -71,6 +58,7 @@ TEST_F(Slider, OnlyTheUsersMovesAreTold) {
 
 TEST_F(Slider, ADragIsToldStepByStepAlsoOutsideOfTheSlider) {
     Press(*m_shown.view, At(118));
+    m_shown.dialog.m_arrHovers.clear();
     Move(*m_shown.view, At(60));
     const int nMiddle = Position();
     EXPECT_GT(nMiddle, -30);
@@ -83,6 +71,7 @@ TEST_F(Slider, ADragIsToldStepByStepAlsoOutsideOfTheSlider) {
     Move(*m_shown.view, At(100));
     EXPECT_EQ(Position(), -100) << "let go";
     EXPECT_EQ(m_shown.dialog.m_arrNotices, (CNotices{{41, ENotice::Scrolled}, {41, ENotice::Scrolled}}));
+    EXPECT_EQ(m_shown.dialog.m_arrHovers.size(), 1U) << "held, it keeps the mouse for itself";
     EXPECT_TRUE(m_shown.dialog.m_arrMouse.empty()) << "none of it is a mouse beside the controls";
 }
 

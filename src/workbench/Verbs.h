@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+#include "workbench/Workbench.h"
+
+struct CVerbResult {
+    int nStatus = kDone;
+    std::string strError;  // empty if it was done
+};
+
+// A verb is one function over its words and a line in Verbs.cpp.
+struct CVerb {
+    const char* szName;
+    const char* szWords;  // what stands behind the name
+    const char* szHelp;   // lines of help, each with its end
+    CVerbResult (*run)(std::span<const std::string> words);
+};
+
+std::span<const CVerb> AllVerbs();
+
+// A whole number from nMin to nMax, or nothing for any other text.
+std::optional<long long> ParseNumber(const std::string& strWord, long long nMin, long long nMax);
+
+CVerbResult RunEffectVerb(std::span<const std::string> words);
+// Lines that name the effects with their numbers and levels.
+std::string EffectList();

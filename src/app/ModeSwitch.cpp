@@ -113,6 +113,19 @@ void CModeSwitch::BeginEditMode() {
     m_env.state.m_bEditInfo = true;
 }
 
+// The same for all but DRAW itself: paint that DRAW has left on the canvas is fetched.
+void CModeSwitch::BeginPictureMode() {
+    BeginEditMode();
+    if (m_env.state.m_nLastMode == kModeDraw) m_env.editor.TransferCanvas(true);
+}
+
+// The display as EFFECT and STICK have it: at the size that rules, and with nothing to cut or copy.
+void CModeSwitch::ShowRuledDisplay() {
+    const CSize size = m_env.images.RuledSize();
+    m_env.images.m_pImgDisplay->Resample(size.cx, size.cy);
+    m_env.controls.Enable(kClipboardCommands, false);
+}
+
 void CModeSwitch::ShowThum() {
     m_env.state.m_bThumbMode = true;
     m_env.state.m_bEditInfo = false;
@@ -156,13 +169,10 @@ void CModeSwitch::ShowEffect() {
     m_env.controls.Enable(kCmdSend, false);
     if (!m_env.state.m_bImageOpen) return ShowNoPicture();
 
-    BeginEditMode();
-    if (m_env.state.m_nLastMode == kModeDraw) m_env.editor.TransferCanvas(true);
-    const CSize size = m_env.images.RuledSize();
-    m_env.images.m_pImgDisplay->Resample(size.cx, size.cy);
+    BeginPictureMode();
+    ShowRuledDisplay();
     m_env.state.m_bEffectMode = true;
     m_env.editor.ShowHistory();
-    m_env.controls.Enable(kClipboardCommands, false);
     m_env.controls.Enable(kCmdSend, m_env.link.IsConnected());
 }
 
@@ -172,12 +182,11 @@ void CModeSwitch::ShowFont() {
     m_env.controls.Enable(kCmdSend, false);
     if (!m_env.state.m_bImageOpen) return ShowNoPicture();
 
-    BeginEditMode();
+    BeginPictureMode();
     m_env.textArt.ForgetBase();
     DisableEditCommands();
     for (const int nId : {kCmdSave, kCmdPrint, kCmdReset}) m_env.controls.Enable(nId, true);
     m_env.state.m_bFontMode = true;
-    if (m_env.state.m_nLastMode == kModeDraw) m_env.editor.TransferCanvas(true);
     m_env.images.FitDisplay();
     m_env.editor.ShowHistory();
     m_env.textArt.InitTextHandles();
@@ -190,15 +199,12 @@ void CModeSwitch::ShowStick() {
     m_env.controls.Enable(kCmdSend, false);
     if (!m_env.state.m_bImageOpen) return ShowNoPicture();
 
-    BeginEditMode();
-    if (m_env.state.m_nLastMode == kModeDraw) m_env.editor.TransferCanvas(true);
-    const CSize size = m_env.images.RuledSize();
-    m_env.images.m_pImgDisplay->Resample(size.cx, size.cy);
+    BeginPictureMode();
+    ShowRuledDisplay();
     m_env.controls.SetFocus(m_env.images.m_bImageSize ? kRadioImageSize : kRadioPhoneSize);
     if (!m_env.images.m_bImageSize) EnableSizeCommands(true);
     m_env.editor.ShowHistory();
     m_env.state.m_bStickMode = true;
-    m_env.controls.Enable(kClipboardCommands, false);
     m_env.controls.Enable(kCmdSend, m_env.link.IsConnected());
 }
 

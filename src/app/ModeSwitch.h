@@ -53,6 +53,8 @@ class CModeSwitch {
     void ForgetListDrag();
     void ShowNoPicture();
     void BeginEditMode();
+    void BeginPictureMode();
+    void ShowRuledDisplay();
     void EnterThum();
     void EnterDraw();
     void EnterPictureMode(int nMode);

@@ -5,18 +5,18 @@
 namespace {
 
 constexpr CEffectBenchRow kRows[] = {
-    {"Film", Film, 0},
-    {"Art", Art, 0},
-    {"CrystalFrame", CrystalFrame, 0},
-    {"Jigsaw", Jigsaw, 0},
-    {"OilPainting+1", OilPainting, 1},
-    {"OilPainting+5", OilPainting, 5},
-    {"OilPainting+15", OilPainting, 15},
-    {"Tile+1", Tile, 1},
-    {"Tile+10", Tile, 10},
-    {"Laminate+1", Laminate, 1},
-    {"Laminate+20", Laminate, 20},
-    {"ConcaveMirror", ConcaveMirror, 0},
+    {"Film", kFilm, 0, 10},
+    {"Art", kArt, 0, 10},
+    {"CrystalFrame", kCrystalFrame, 0, 10},
+    {"Jigsaw", kJigsaw, 0, 10},
+    {"OilPainting+1", kOilPainting, 1, 150},
+    {"OilPainting+5", kOilPainting, 5, 150},
+    {"OilPainting+15", kOilPainting, 15, 150},
+    {"Tile+1", kTile, 1, 10},
+    {"Tile+10", kTile, 10, 10},
+    {"Laminate+1", kLaminate, 1, 10},
+    {"Laminate+20", kLaminate, 20, 10},
+    {"ConcaveMirror", kConcaveMirror, 0, 15},
 };
 
 [[maybe_unused]] const bool g_bRegistered = RegisterEffects(kRows);

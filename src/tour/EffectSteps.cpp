@@ -27,8 +27,21 @@ const CControl& SliderOf(const CPerson& person) {
     return *person.MainWindow()->Dialog().Controls().Find(kEffectSlider);
 }
 
+// A box of what is seen, which has more pixels on a dense screen.
+QRect OnScreen(const QImage& image, const QRect& rc) {
+    const int nRatio = qRound(image.devicePixelRatio());
+    return {rc.topLeft() * nRatio, rc.size() * nRatio};
+}
+
 QImage LookAtPreview(const CPerson& person) {
-    return person.LookAtWindow().copy(ToQt(CEffectFlow::kPreviewBox));
+    const QImage image = person.LookAtWindow();
+    return image.copy(OnScreen(image, ToQt(CEffectFlow::kPreviewBox)));
+}
+
+// What the list's samples show, but for tiles and blocks, which are small on a preview of a large picture.
+int LevelOf(int nEffect) {
+    return nEffect == kTile || nEffect == kLaminate ? kEffects[static_cast<std::size_t>(nEffect)].nMax - 1
+                                                    : CEffectSamples::LevelOf(nEffect);
 }
 
 void ClickRow(CPerson& person, int nRow) {
@@ -74,7 +87,8 @@ QString CheckLit(const CPerson& person, int nRow) {
     for (int n = 0; n < kEffectCount; ++n) {
         const QRect rc = pList->visualRect(pList->model()->index(n, 0));
         if (!pList->viewport()->rect().contains(rc)) continue;
-        const QColor crRim = image.pixelColor(rc.left(), rc.center().y());
+        const QRect rcSeen = OnScreen(image, rc);
+        const QColor crRim = image.pixelColor(rcSeen.left(), rcSeen.center().y());
         if ((crRim.red() - crRim.blue() > 100) != (n == nRow))
             return QStringLiteral("row %1 has the wrong form").arg(n);
     }
@@ -84,7 +98,7 @@ QString CheckLit(const CPerson& person, int nRow) {
 void AddEffect(std::vector<CTourStep>& steps, int nEffect, const std::shared_ptr<CSeen>& pSeen) {
     const CEffectRow& row = kEffects[static_cast<std::size_t>(nEffect)];
     const QString strLabel = QString::fromUtf8(row.szLabel);
-    const int nLevel = CEffectSamples::LevelOf(nEffect);
+    const int nLevel = LevelOf(nEffect);
     const QString strTells = row.bHasLevel
                                  ? strLabel + QStringLiteral(": the level is drawn to %1").arg(nLevel)
                                  : strLabel + QStringLiteral(": chosen in the list");

@@ -30,7 +30,9 @@ void CPictureDelegate::paint(QPainter* pPainter, const QStyleOptionViewItem& opt
     pPainter->drawPixmap(option.rect.topLeft(), *pPixmap);
     if (!option.state.testFlag(QStyle::State_HasFocus)) return;
     QSize size = pPixmap->size() / m_nDensity;
-    pPainter->setPen(QPen(SkinColors::kLit, 1, Qt::DotLine));
+    // Pictures in their selected form are light.
+    const bool bSelected = option.state.testFlag(QStyle::State_Selected);
+    pPainter->setPen(QPen(bSelected ? SkinColors::kInk : SkinColors::kLit, 1, Qt::DotLine));
     pPainter->drawRect(
         QRect(option.rect.topLeft(), size.boundedTo(option.rect.size())).adjusted(2, 2, -3, -3));
 }

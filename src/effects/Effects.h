@@ -35,6 +35,7 @@ void Cool(const CEffectCall& call);
 void Sharpness(const CEffectCall& call);
 void NoiseRemoval(const CEffectCall& call);
 void Backlight(const CEffectCall& call);
+void Homogenise(const CEffectCall& call);
 void LowLightRepair(const CEffectCall& call);
 void Haze2(const CEffectCall& call);
 void Engrave(const CEffectCall& call);

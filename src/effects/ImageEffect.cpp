@@ -10,11 +10,11 @@ namespace {
 
 using CEffectFunction = void (*)(const CEffectCall&);
 
-// In the order of the numbers. Homogenise is the picture container's own work.
+// In the order of the numbers.
 constexpr std::array<CEffectFunction, kEffectCount> kFunctions = {
     Brightness,     Contrast,       Chroma,        Sharpness,
     Negative,       PureBlackWhite, BlackWhite,    ColourSaturation,
-    OldPhoto,       NoiseRemoval,   Backlight,     nullptr,
+    OldPhoto,       NoiseRemoval,   Backlight,     Homogenise,
     LowLightRepair, Nostalgia,      Moonlight,     Haze1,
     Cool,           Haze2,          Film,          Art,
     CrystalFrame,   Jigsaw,         OilPainting,   Tile,
@@ -32,7 +32,6 @@ void CopyPicture(const CEffectCall& call) {
 bool CImageEffect::ApplyEffect(CxImage& image, int nEffect, int nLevel, bool bFull, int nRefWidth) {
     if (!bFull) m_nRefWidth = nRefWidth;
     if (!image.IsValid() || nEffect < 0 || nEffect >= kEffectCount) return true;
-    if (nEffect == kHomogenise) return image.HistogramEqualize();
     CPixels pixels;
     if (!pixels.CreateRaw(image.GetWidth(), image.GetHeight())) return false;
     const int nWidth = m_nRefWidth > 0 ? m_nRefWidth : image.GetWidth();

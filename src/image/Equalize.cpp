@@ -9,26 +9,14 @@
 
 namespace {
 
-using CLevels = std::array<std::uint8_t, 256>;
-
-std::optional<CLevels> EqualLevels(CConstPixelView view) {
+std::array<std::uint64_t, 256> CountGreys(CConstPixelView view) {
     std::array<std::uint64_t, 256> counts{};
     const std::size_t nBytes = view.Stride() * static_cast<std::size_t>(view.nHeight);
     for (std::size_t i = 0; i < nBytes; i += 3) {
         const std::uint8_t* const p = view.pBits + i;
-        ++counts[static_cast<std::size_t>(117 * p[2] + 601 * p[1] + 306 * p[0]) >> 10];
+        ++counts[EqualGrey(p[0], p[1], p[2])];
     }
-    for (std::size_t i = 1; i < counts.size(); ++i) counts[i] += counts[i - 1];
-    const auto fLow = static_cast<double>(counts.front());
-    const auto fHigh = static_cast<double>(counts.back());
-    if (counts.front() == counts.back()) return std::nullopt;
-
-    CLevels levels{};
-    for (std::size_t i = 0; i < levels.size(); ++i) {
-        levels[i] =
-            static_cast<std::uint8_t>((static_cast<double>(counts[i]) - fLow) * 255.0 / (fHigh - fLow));
-    }
-    return levels;
+    return counts;
 }
 
 // One channel of some pixels behind each other, the form that vectors work on.
@@ -36,7 +24,7 @@ constexpr std::size_t kBlock = 512;
 using CChannel = std::array<std::uint8_t, kBlock>;
 
 FOTARIUM_VECTOR_CLONES
-void EqualizeBlock(std::uint8_t* pPixels, std::size_t nPixels, const CLevels& levels) {
+void EqualizeBlock(std::uint8_t* pPixels, std::size_t nPixels, const CEqualLevels& levels) {
     CChannel a{};
     CChannel b{};
     CChannel c{};
@@ -67,8 +55,22 @@ void EqualizeBlock(std::uint8_t* pPixels, std::size_t nPixels, const CLevels& le
 
 }  // namespace
 
+std::optional<CEqualLevels> EqualLevels(const std::array<std::uint64_t, 256>& greyCounts) {
+    std::array<std::uint64_t, 256> sums = greyCounts;
+    for (std::size_t i = 1; i < sums.size(); ++i) sums[i] += sums[i - 1];
+    const auto fLow = static_cast<double>(sums.front());
+    const auto fHigh = static_cast<double>(sums.back());
+    if (sums.front() == sums.back()) return std::nullopt;
+
+    CEqualLevels levels{};
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        levels[i] = static_cast<std::uint8_t>((static_cast<double>(sums[i]) - fLow) * 255.0 / (fHigh - fLow));
+    }
+    return levels;
+}
+
 void EqualizeHistogram(CPixelView view) {
-    const std::optional<CLevels> levels = EqualLevels(view);
+    const std::optional<CEqualLevels> levels = EqualLevels(CountGreys(view));
     if (!levels) return;
     const std::size_t nPixels =
         static_cast<std::size_t>(view.nWidth) * static_cast<std::size_t>(view.nHeight);

@@ -25,6 +25,14 @@ void PrintTo(const CTone& tone, std::ostream* pStream) {
     *pStream << tone.szName;
 }
 
+// The picture container has a form of its own.
+CPixels EqualizedImage(const CPixels& src, int) {
+    CxImage image;
+    image.CreateFromHBITMAP(src);
+    image.HistogramEqualize();
+    return image.Pixels();
+}
+
 constexpr CTone kTones[] = {
     {"Brightness", Brightness, NaiveBrightness, -100, 100},
     {"Contrast", Contrast, NaiveContrast, -100, 100},
@@ -38,6 +46,7 @@ constexpr CTone kTones[] = {
     {"Moonlight", Moonlight, NaiveMoonlight, 0, 50},
     {"Haze1", Haze1, NaiveHaze1, 0, 50},
     {"Cool", Cool, NaiveCool, 0, 100},
+    {"Homogenise", Homogenise, EqualizedImage, 0, 0},
 };
 
 CPixels Applied(CFastForm fast, const CPixels& src, int nLevel) {
@@ -151,6 +160,11 @@ TEST(ToneValues, PureBlackAndWhiteOnFlatGrey) {
     EXPECT_EQ(PixelAt(dark, 15, 19), (CColor{0, 0, 0}));
     const CPixels narrow = NoisePicture(7, 20, 4);
     EXPECT_EQ(Applied(PureBlackWhite, narrow, 50), narrow);
+}
+
+TEST(ToneValues, HomogeniseLeavesWhatHasNoGreyAboveZero) {
+    for (const CColor cr : {CColor{0, 0, 0}, CColor{0, 0, 8}})
+        EXPECT_EQ(Applied(Homogenise, Flat(33, 9, cr), 0), Flat(33, 9, cr));
 }
 
 TEST(ToneValues, LevelZero) {

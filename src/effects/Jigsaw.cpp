@@ -27,12 +27,12 @@ constexpr int kRightBegin = 23;
 constexpr int kBelowKnob = 17;
 constexpr int kKnobRows = 8;
 
-// A block is one row of so many pieces. Around it lies a margin for the strokes that start or end outside.
-constexpr int kBlockWidth = 24 * kPiece;
+// A block is one row of so many pieces: long, since memory comes faster when it is walked on and on. Around
+// it lies a margin for the strokes that start or end outside.
+constexpr int kBlockWidth = 100 * kPiece;
 constexpr int kMargin = 16;
 constexpr int kPitch = kBlockWidth + 2 * kMargin;
 constexpr int kRows = kPiece + 2 * kMargin;
-static_assert(kBlockWidth <= static_cast<int>(kChunkPixels));
 
 // The points of the joints, in the order in which they are drawn. A run of points ends at the first one
 // outside the picture.
@@ -78,7 +78,8 @@ struct CPuzzle {
 class CChanges {
   public:
     CChanges(const CPuzzle& puzzle, int x, int y) : m_puzzle(puzzle), m_x(x), m_y(y) {
-        m_changes.fill(0);
+        // The margins above and below are never read.
+        std::fill(m_changes.begin() + kMargin * kPitch, m_changes.end() - kMargin * kPitch, std::int8_t{0});
         DrawAcross(y);
         DrawAcross(y + kPiece);
         const int xEnd = std::min(x + kBlockWidth + kPiece, puzzle.nWidth);
@@ -157,18 +158,24 @@ FOTARIUM_AVX2 void AddChangesWide(std::uint8_t* pY, const std::int8_t* pChanges,
 }
 #endif
 
+// nPixels of row y from column x on.
 void MakeRow(const CEffectCall& call, int x, int y, int nPixels, const std::int8_t* pChanges) {
-    const auto n = static_cast<std::size_t>(nPixels);
     const std::ptrdiff_t nOffset = 3 * static_cast<std::ptrdiff_t>(x);
+    const std::uint8_t* const pSrc = call.src.Row(y) + nOffset;
+    std::uint8_t* const pDst = call.dst.Row(y) + nOffset;
+    const auto nAll = static_cast<std::size_t>(nPixels);
     CChunk yuv;
-    RgbToYuv(call.src.Row(y) + nOffset, yuv.a, yuv.b, yuv.c, n);
+    for (std::size_t i = 0; i < nAll; i += kChunkPixels) {
+        const std::size_t n = std::min(kChunkPixels, nAll - i);
+        RgbToYuv(pSrc + 3 * i, yuv.a, yuv.b, yuv.c, n);
 #if FOTARIUM_HAS_AVX2
-    if (UseAvx2()) {
-        AddChangesWide(yuv.a, pChanges, n);
-    } else
+        if (UseAvx2()) {
+            AddChangesWide(yuv.a, pChanges + i, n);
+        } else
 #endif
-        AddChanges(yuv.a, pChanges, n);
-    YuvToRgb(yuv.a, yuv.b, yuv.c, call.dst.Row(y) + nOffset, n);
+            AddChanges(yuv.a, pChanges + i, n);
+        YuvToRgb(yuv.a, yuv.b, yuv.c, pDst + 3 * i, n);
+    }
 }
 
 }  // namespace

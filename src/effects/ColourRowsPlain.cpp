@@ -132,7 +132,8 @@ void FromYuv(CBlock& block) {
 // quotient that is no whole number lies further from one than it can err.
 int RoundedQuotient(int x, int d, int nMul) {
     const int nDivisor = d == 0 ? 1 : d;
-    return static_cast<int>(static_cast<float>(nMul * x + d / 2) / static_cast<float>(nDivisor));
+    const int nNumerator = nMul * x + d / 2;
+    return static_cast<int>(static_cast<float>(nNumerator) / static_cast<float>(nDivisor));
 }
 
 // How far a channel is below the largest, in 42nds of the span. Only the channel in the middle needs the

@@ -47,7 +47,7 @@ CVerbResult TakeOptions(std::span<const std::string> words, CEffectJob& job, CWo
 
 CVerbResult ReadJob(std::span<const std::string> words, CEffectJob& job) {
     CWords arrPlain;
-    const CVerbResult options = TakeOptions(words, job, arrPlain);
+    CVerbResult options = TakeOptions(words, job, arrPlain);
     if (options.nStatus != kDone) return options;
     if (arrPlain.size() != 4) return WrongCall("it is effect ID LEVEL IN.ppm OUT.ppm");
     const std::optional<long long> nEffect = ParseNumber(arrPlain[0], 0, kEffectCount - 1);
@@ -69,7 +69,7 @@ CVerbResult CannotBeDone(const std::string& strError) {
 
 CVerbResult RunEffectVerb(std::span<const std::string> words) {
     CEffectJob job;
-    const CVerbResult call = ReadJob(words, job);
+    CVerbResult call = ReadJob(words, job);
     if (call.nStatus != kDone) return call;
     CPpmPicture picture = ReadPpm(job.strIn);
     if (!picture.strError.empty()) return CannotBeDone(job.strIn + " " + picture.strError);

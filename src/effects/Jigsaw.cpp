@@ -43,13 +43,11 @@ struct CPuzzle {
     int PiecesAcross() const { return (nWidth + kPiece - 1) / kPiece; }
     bool Has(int x, int y) const { return x < nWidth && y < nHeight; }
 
-    // The joint above the piece with the corner (x, y). One knob in four hangs down, three stand up.
+    // The knob of the joint above the piece with the corner (x, y). One in four hangs down, three stand up.
+    bool HangsDown(int x, int y) const { return ((y / kPiece - 1) * PiecesAcross() + x / kPiece) % 4 == 0; }
     template <class TStroke>
-    void JointAcross(int x, int y, TStroke stroke) const {
-        for (int i = 0; i < kPiece && Has(x + i, y); ++i)
-            if (i < kLeftEnd || i >= kRightBegin) stroke(x + i, y);
-        const int nCounter = (y / kPiece - 1) * PiecesAcross() + x / kPiece;
-        const int nDown = nCounter % 4 == 0 ? 1 : -1;
+    void KnobAcross(int x, int y, TStroke stroke) const {
+        const int nDown = HangsDown(x, y) ? 1 : -1;
         for (const CJigsawPoint& pt : kJigsawKnobAcross) {
             if (!Has(x + pt.dx, y + nDown * pt.dy)) break;
             stroke(x + pt.dx, y + nDown * pt.dy);
@@ -80,8 +78,8 @@ class CChanges {
     CChanges(const CPuzzle& puzzle, int x, int y) : m_puzzle(puzzle), m_x(x), m_y(y) {
         // The margins above and below are never read.
         std::fill(m_changes.begin() + kMargin * kPitch, m_changes.end() - kMargin * kPitch, std::int8_t{0});
-        DrawAcross(y);
-        DrawAcross(y + kPiece);
+        DrawJointAbove();
+        DrawKnobsBelow();
         const int xEnd = std::min(x + kBlockWidth + kPiece, puzzle.nWidth);
         for (int xJoint = std::max(x, kPiece); xJoint < xEnd; xJoint += kPiece)
             puzzle.JointDown(xJoint, y, [this](int xPoint, int yPoint) { StrokeDown(xPoint, yPoint); });
@@ -102,11 +100,39 @@ class CChanges {
         return static_cast<std::size_t>(nPlace);
     }
 
-    void DrawAcross(int y) {
-        if (y == 0 || y >= m_puzzle.nHeight) return;
-        const int xEnd = std::min(m_x + kBlockWidth, m_puzzle.nWidth);
-        for (int x = m_x; x < xEnd; x += kPiece)
-            m_puzzle.JointAcross(x, y, [this](int xPoint, int yPoint) { StrokeAcross(xPoint, yPoint); });
+    int EndAcross() const { return std::min(m_x + kBlockWidth, m_puzzle.nWidth); }
+
+    void DrawJointAbove() {
+        if (m_y == 0) return;
+        for (int x = m_x; x < EndAcross(); x += kPiece) {
+            DrawLine(x, x + kLeftEnd);
+            DrawLine(x + kRightBegin, x + kPiece);
+            m_puzzle.KnobAcross(x, m_y, [this](int xPoint, int yPoint) { StrokeAcross(xPoint, yPoint); });
+        }
+    }
+
+    // Of the joint below only the knobs that stand up reach into the block.
+    void DrawKnobsBelow() {
+        const int y = m_y + kPiece;
+        if (y >= m_puzzle.nHeight) return;
+        for (int x = m_x; x < EndAcross(); x += kPiece)
+            if (!m_puzzle.HangsDown(x, y))
+                m_puzzle.KnobAcross(x, y, [this](int xPoint, int yPoint) { StrokeAcross(xPoint, yPoint); });
+    }
+
+    // A part of the straight line on top of the block, which near the end of the picture needs a closer
+    // look.
+    void DrawLine(int xFrom, int xTo) {
+        xTo = std::min(xTo, EndAcross());
+        if (m_y + 2 >= m_puzzle.nHeight - 1) {
+            for (int x = xFrom; x < xTo; ++x) StrokeAcross(x, m_y);
+            return;
+        }
+        if (xFrom >= xTo) return;
+        std::int8_t* const p = &m_changes[Place(xFrom, m_y)];
+        std::fill_n(p, xTo - xFrom, std::int8_t{kDark});
+        std::fill_n(p + kPitch, xTo - xFrom, std::int8_t{kNearLight});
+        std::fill_n(p + 2 * kPitch, xTo - xFrom, std::int8_t{kFarLight});
     }
 
     // The lights lie below the line. In the last row only the first pixel takes one.

@@ -9,7 +9,7 @@ namespace {
 
 // The picture is worked off in blocks of at most so many columns: their rows are read and written in whole
 // cache lines, while the running sum goes down column after column.
-constexpr std::size_t kColumns = 64;
+constexpr std::size_t kColumns = 256;
 
 FOTARIUM_INLINE void MeansBody(const std::uint8_t* __restrict pR, const std::uint8_t* __restrict pG,
                                std::uint8_t* __restrict pMean, std::size_t n) {

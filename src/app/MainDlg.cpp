@@ -9,8 +9,8 @@
 CMainDlg::CMainDlg(const CPlatform& platform)
     : CDialog(kMainDialog),
       m_platform(platform),
-      m_canvas(m_state, m_images, m_tools, *this),
-      m_tools(Controls(), m_canvas),
+      m_canvas(m_state, m_images, m_toolState, *this),
+      m_tools(m_toolState, Controls(), m_canvas),
       m_editor({m_state, m_images, Controls(), m_canvas, m_tools, *this, platform.boxes, platform.wait}),
       m_files({m_state, m_images, Controls(), m_canvas, m_tools, *this, platform.boxes, platform.wait,
                platform.files, platform.folders, *this, m_editor}),

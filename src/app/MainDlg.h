@@ -109,6 +109,7 @@ class CMainDlg : public CDialog,
     CPlatform m_platform;
     CEditState m_state;
     CWorkingImages m_images;
+    CToolState m_toolState;
     CMySCrollView m_canvas;
     CToolController m_tools;
     CEditor m_editor;

@@ -13,8 +13,8 @@ int Centre(int nClient, int nPicture) {
 
 }  // namespace
 
-CMySCrollView::CMySCrollView(const CEditState& state, const CWorkingImages& images,
-                             const CToolController& tools, CCanvasHost& host)
+CMySCrollView::CMySCrollView(const CEditState& state, const CWorkingImages& images, const CToolState& tools,
+                             CCanvasHost& host)
     : CScrollView({659, 543}),
       m_state(state),
       m_images(images),
@@ -44,13 +44,13 @@ void CMySCrollView::LoadPicture(const CxImage& image) {
 
 void CMySCrollView::PlacePicture() {
     const CSize sizeClient = ClientSize();
-    m_ptOrigin = {Centre(sizeClient.cx, m_nImgWidth * m_tools.Zoom()),
-                  Centre(sizeClient.cy, m_nImgHeight * m_tools.Zoom())};
+    m_ptOrigin = {Centre(sizeClient.cx, m_nImgWidth * m_tools.m_nZoom),
+                  Centre(sizeClient.cy, m_nImgHeight * m_tools.m_nZoom)};
 }
 
 void CMySCrollView::ApplyZoom() {
     if (!m_state.m_bImageOpen) return;
-    SetScrollSizes({m_nImgWidth * m_tools.Zoom(), m_nImgHeight * m_tools.Zoom()});
+    SetScrollSizes({m_nImgWidth * m_tools.m_nZoom, m_nImgHeight * m_tools.m_nZoom});
     PlacePicture();
     Invalidate();
 }
@@ -77,7 +77,7 @@ void CMySCrollView::OnDraw(CSurface& surface) {
     CPoint ptPicture;
     if (m_state.m_bDrawMode) {
         DrawFrame(surface, m_images.m_pImgWork->GetSize(), ptPicture);
-        const int nZoom = m_tools.Zoom();
+        const int nZoom = m_tools.m_nZoom;
         const CPoint ptScroll = ScrollPosition();
         // The picture stays at its origin; what scrolls is the part of the store that stands there.
         surface.DrawEnlarged(m_surfScratch.Pixels(), m_ptOrigin.x - ptScroll.x / nZoom * nZoom,

@@ -3,7 +3,8 @@
 #include "editor/CanvasPort.h"
 #include "editor/EditState.h"
 #include "editor/WorkingImages.h"
-#include "paint/ToolController.h"
+#include "paint/ToolCanvas.h"
+#include "paint/ToolState.h"
 #include "window/ScrollView.h"
 
 // What the canvas tells the window that it stands in.
@@ -19,12 +20,12 @@ class CCanvasHost {
 // The canvas: shows the picture in every mode but THUM, and is the paper of DRAW. There it holds the picture
 // in two stores of the picture's size: the committed one is the picture, the scratch one the picture with
 // what the hand is doing at this moment.
-class CMySCrollView : public CScrollView, public CCanvasPort, public CZoomTarget {
+class CMySCrollView : public CScrollView, public CCanvasPort, public CToolCanvas {
   public:
     static constexpr CColor kGround{109, 121, 126};
 
     // All of these outlive the canvas.
-    CMySCrollView(const CEditState& state, const CWorkingImages& images, const CToolController& tools,
+    CMySCrollView(const CEditState& state, const CWorkingImages& images, const CToolState& tools,
                   CCanvasHost& host);
 
     void OnMouse(const CMouseEvent& event) override;
@@ -38,7 +39,10 @@ class CMySCrollView : public CScrollView, public CCanvasPort, public CZoomTarget
     const CSurface& Committed() const { return m_surfCommit; }
     const CSurface& Scratch() const { return m_surfScratch; }
 
+    bool IsShapeOpen() const override { return m_nVertexCount > 0; }
     void AbandonShape() override { m_nVertexCount = -1; }
+    void Revert() override {}
+    void ForgetSelection() override {}
     bool IsFloating() const override { return m_bFloating; }
     void DropFloat() override {}
     void ForgetFloat() override { m_bFloating = false; }
@@ -66,7 +70,7 @@ class CMySCrollView : public CScrollView, public CCanvasPort, public CZoomTarget
 
     const CEditState& m_state;
     const CWorkingImages& m_images;
-    const CToolController& m_tools;
+    const CToolState& m_tools;
     CCanvasHost& m_host;
 
     CSurface m_surfCommit;

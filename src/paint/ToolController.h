@@ -1,27 +1,22 @@
 #pragma once
 
 #include "editor/CanvasPort.h"
+#include "paint/ToolCanvas.h"
+#include "paint/ToolState.h"
 #include "window/ControlSet.h"
 #include "window/Events.h"
-
-// What the magnifier asks of the canvas.
-class CZoomTarget {
-  public:
-    virtual ~CZoomTarget() = default;
-    // Sets sizes and place of the picture for a new zoom and repaints.
-    virtual void ApplyZoom() = 0;
-};
 
 // Which paint tool is current and with which option.
 class CToolController : public CToolPort {
   public:
-    CToolController(CControlSet& controls, CZoomTarget& canvas) : m_controls(controls), m_canvas(canvas) {}
+    // All of these outlive the controller.
+    CToolController(CToolState& state, CControlSet& controls, CToolCanvas& canvas)
+        : m_state(state), m_controls(controls), m_canvas(canvas) {}
 
-    // Picture points are m_nZoom screen pixels wide: 1, 2, 4 or 6.
-    int Zoom() const { return m_nZoom; }
+    const CToolState& State() const { return m_state; }
 
-    int CurrentTool() const override { return m_nTool; }
-    void SetCurrentTool(int nTool) override { m_nTool = nTool; }
+    int CurrentTool() const override { return m_state.m_nTool; }
+    void SetCurrentTool(int nTool) override { m_state.m_nTool = nTool; }
     void EnterTool() override;
     void ResetZoom() override;
     void FocusCurrentTool() override;
@@ -35,9 +30,8 @@ class CToolController : public CToolPort {
     void OnWellDoubleClick(const CMouseEvent& /*event*/) {}
 
   private:
+    CToolState& m_state;
     CControlSet& m_controls;
-    CZoomTarget& m_canvas;
-    int m_nTool = 1;
-    int m_nZoom = 1;
+    CToolCanvas& m_canvas;
     int m_nOptZoom = 0;  // the magnifier's option, 0 to 3
 };

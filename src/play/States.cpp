@@ -60,7 +60,7 @@ constexpr CStateEntry kStates[] = {
     {"image", Image, "Whether a picture is open; if so, width and height of it as it is shown."},
     {"tool", [](const CStage& s) { return std::to_string(s.dialog.Tools().CurrentTool()); },
      "The paint tool, 1 to 16."},
-    {"zoom", [](const CStage& s) { return std::to_string(s.dialog.Tools().Zoom()); },
+    {"zoom", [](const CStage& s) { return std::to_string(s.dialog.Tools().State().m_nZoom); },
      "The zoom of DRAW: 1, 2, 4 or 6."},
     {"frame", [](const CStage& s) { return Flag(s.dialog.Images().m_bFrameOn); },
      "Whether a frame lies on the picture."},

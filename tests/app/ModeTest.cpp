@@ -221,7 +221,7 @@ TEST_F(ModeTest, DrawBeginsWithTheMagnifierAtOneToOne) {
         GoTo(nMode);
         GoTo(kModeDraw);
         EXPECT_EQ(m_dialog.Tools().CurrentTool(), 10);
-        EXPECT_EQ(m_dialog.Tools().Zoom(), 1);
+        EXPECT_EQ(m_dialog.Tools().State().m_nZoom, 1);
     }
 }
 

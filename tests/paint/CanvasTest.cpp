@@ -8,13 +8,12 @@ namespace {
 constexpr CColor kGround = CMySCrollView::kGround;
 constexpr CColor kFrame{0, 0, 0};
 
-class Canvas : public testing::Test, public CCanvasHost, public CZoomTarget {
+class Canvas : public testing::Test, public CCanvasHost {
   protected:
-    Canvas() : m_tools(m_controls, *this), m_canvas(m_state, m_images, m_tools, *this) {}
+    Canvas() : m_canvas(m_state, m_images, m_tools, *this) {}
 
     void OnCanvasPainted() override { ++m_nPainted; }
     void OnPictureMenu() override { ++m_nMenus; }
-    void ApplyZoom() override { m_canvas.ApplyZoom(); }
 
     void Open(CSize size, bool bDraw) {
         // No colour of the picture is that of the ground or of the frame.
@@ -50,8 +49,7 @@ class Canvas : public testing::Test, public CCanvasHost, public CZoomTarget {
 
     CEditState m_state;
     CWorkingImages m_images;
-    CControlSet m_controls{{}};
-    CToolController m_tools;
+    CToolState m_tools;
     CMySCrollView m_canvas;
     int m_nPainted = 0;
     int m_nMenus = 0;

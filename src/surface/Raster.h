@@ -17,7 +17,9 @@ class CRaster {
         : m_pixels(pixels), m_rcDirty(rcDirty), m_nWidth(pixels.Width()), m_nHeight(pixels.Height()) {}
     CRaster(const CRaster&) = delete;
     CRaster& operator=(const CRaster&) = delete;
-    ~CRaster() { m_rcDirty = m_rcDirty.Union({m_nLeft, m_nTop, m_nRight, m_nBottom}); }
+    ~CRaster() {
+        if (m_nRight > 0) m_rcDirty = m_rcDirty.Union({m_nLeft, m_nTop, m_nRight, m_nBottom});
+    }
 
     int Width() const { return m_nWidth; }
     int Height() const { return m_nHeight; }

@@ -38,6 +38,9 @@ class CSurface {
     CRect Bounds() const { return CRect::FromPlace(0, 0, Width(), Height()); }
     const CPixels& Pixels() const { return m_pixels; }
 
+    // Makes the pixels this surface's own, so that no drawing call has to. False if memory is short.
+    bool Separate() { return m_pixels.Separate(); }
+
     // The box around all that the drawing calls have painted since the last call, whatever colour was there
     // before; empty if they have painted nothing.
     CRect TakeDirty();

@@ -189,7 +189,9 @@ std::string Draw(CSurface& surface, const std::string& strKind, CWords& words) {
 }  // namespace
 
 std::string CFigure::Text() const {
-    std::string strText = "= " + strAnswer + "\n";
+    std::string strText = "= ";
+    strText += strAnswer;
+    strText += '\n';
     for (int y = 0; y < picture.Height(); ++y) {
         for (int x = 0; x < picture.Width(); ++x) strText += LetterOf(picture.GetPixel(x, y));
         strText += '\n';
@@ -234,7 +236,7 @@ bool DrawFigures(std::istream& in, std::ostream& out, std::string& strError) {
         if (!IsFigureCase(strLine)) continue;
         const std::optional<CFigure> figure = DrawFigure(strLine, strError);
         if (!figure) {
-            strError = "line " + std::to_string(nLine) + ": " + strError;
+            strError.insert(0, "line " + std::to_string(nLine) + ": ");
             return false;
         }
         out << strLine << '\n' << figure->Text();

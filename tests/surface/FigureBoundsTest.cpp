@@ -1,0 +1,219 @@
+// What holds for every drawing call: where a figure is cut, which box it reports, when it separates shared
+// pixels, and what it costs far away.
+
+#include <array>
+#include <functional>
+
+#include "Naive.h"
+#include "support/Pictures.h"
+
+namespace {
+
+using CCall = std::function<void(CSurface&)>;
+
+// The kinds of call; those that a test treats apart have a name.
+constexpr int kCalls = 13;
+constexpr int kBezier = 6;
+constexpr int kDrawPart = 9;
+constexpr int kDrawPartEnlarged = 10;
+
+// One call with random places.
+CCall RandomCall(CRandom& random, const std::function<int()>& place, int nKind) {
+    std::array<int, 8> n{};
+    for (int& nPlace : n) nPlace = place();
+    const CPen pen =
+        random.Pick(0, 5) == 0 ? CPen::Dotted(PenStyle::kDot, kInk) : CPen::Solid(random.Pick(1, 5), kInk);
+    const CBrush brush = random.Pick(0, 1) == 0 ? CBrush::Hollow() : CBrush::Solid(kPaint);
+    return [=](CSurface& surface) {
+        surface.SelectPen(pen);
+        surface.SelectBrush(brush);
+        surface.SetTransparentGaps(true);
+        const CRect rc{n[0], n[1], n[2], n[3]};
+        const CPoint points[] = {{n[0], n[1]}, {n[2], n[3]}, {n[4], n[5]}, {n[6], n[7]}};
+        switch (nKind) {
+            case 0:
+                surface.MoveTo(points[0]);
+                surface.LineTo(points[1]);
+                break;
+            case 1:
+                surface.Polyline(points);
+                break;
+            case 2:
+                surface.Rectangle(rc);
+                break;
+            case 3:
+                surface.Ellipse(rc);
+                break;
+            case 4:
+                surface.RoundRect(rc, {20, 20});
+                break;
+            case 5:
+                surface.Polygon(points);
+                break;
+            case kBezier:
+                surface.Bezier({points[0], points[1], points[2], points[3]});
+                break;
+            case 7:
+                surface.FillRect(rc, kInk);
+                break;
+            case 8:
+                surface.FrameRect(rc, kInk);
+                break;
+            case kDrawPart:
+                surface.DrawPart(NumberedPixels(12, 9, 7), rc, n[4], n[5]);
+                break;
+            case kDrawPartEnlarged:
+                surface.DrawPartEnlarged(NumberedPixels(12, 9, 7), rc, n[4], n[5], 3, surface.Bounds());
+                break;
+            case 11:
+                surface.FillRegion(CRegion::MakeRectangle(rc), kInk);
+                break;
+            default:
+                surface.SetPixel(n[0], n[1], kInk);
+        }
+    };
+}
+
+CRect ChangedBox(const CSurface& before, const CSurface& after) {
+    CRect rc;
+    for (int y = 0; y < after.Height(); ++y)
+        for (int x = 0; x < after.Width(); ++x)
+            if (after.GetPixel(x, y) != before.GetPixel(x, y)) rc = rc.Union({x, y, x + 1, y + 1});
+    return rc;
+}
+
+}  // namespace
+
+TEST(FigureBounds, ACutFigureIsAPartOfTheWhole) {
+    CRandom random;
+    SCOPED_TRACE(random.nSeed);
+    for (int nRound = 0; nRound < 2600; ++nRound) {
+        const int nKind = nRound % kCalls;
+        // The source of a copy would not move along.
+        if (nKind == kDrawPart || nKind == kDrawPartEnlarged) continue;
+        // How a curve is flattened hangs on where it lies, so it stays.
+        const int nOffset = nKind == kBezier ? 0 : 60;
+        CRandom same = random;
+        CSurface large = White(140, 140);
+        CSurface small = White(20, 20);
+        RandomCall(
+            random, [&] { return random.Pick(0, 139); }, nKind)(large);
+        RandomCall(
+            same, [&] { return same.Pick(0, 139) - nOffset; }, nKind)(small);
+        ASSERT_TRUE(HasPixels(small, [&](int x, int y) { return large.GetPixel(x + nOffset, y + nOffset); }))
+            << nKind;
+    }
+}
+
+TEST(FigureBounds, TheReportedBoxIsWhatChanged) {
+    CRandom random;
+    SCOPED_TRACE(random.nSeed);
+    for (int nRound = 0; nRound < 2600; ++nRound) {
+        const int nKind = nRound % kCalls;
+        CSurface surface = White(20, 20);
+        const CSurface before = surface;
+        RandomCall(
+            random, [&] { return random.Pick(-9, 29); }, nKind)(surface);
+        const CRect rcChanged = ChangedBox(before, surface);
+        ASSERT_EQ(surface.TakeDirty(), rcChanged) << nKind;
+        ASSERT_EQ(surface.TakeDirty(), CRect{});
+        // What is not seen separates nothing, and what is seen leaves the other holder of the pixels alone.
+        ASSERT_EQ(surface.Pixels().SharesWith(before.Pixels()), rcChanged.IsEmpty()) << nKind;
+        ASSERT_EQ(before.Pixels(), White(20, 20).Pixels());
+    }
+    CSurface flooded = White(20, 20);
+    flooded.SelectPen(CPen::Solid(1, kInk));
+    flooded.SelectBrush(CBrush::Hollow());
+    flooded.Rectangle({3, 4, 12, 15});
+    flooded.TakeDirty();
+    flooded.SelectBrush(CBrush::Solid(kPaint));
+    EXPECT_TRUE(flooded.FloodFill({7, 7}, kWhite));
+    EXPECT_EQ(flooded.TakeDirty(), (CRect{4, 5, 11, 14}));
+}
+
+// Whatever the coordinates, a call ends soon and stays within its numbers; the sanitizers watch. Every figure
+// of the largest size, some of which cover the picture, and random ones.
+TEST(FigureBounds, FarFiguresCostNothing) {
+    CRandom random;
+    SCOPED_TRACE(random.nSeed);
+    for (int nRound = 0; nRound < 6500; ++nRound) {
+        CSurface surface = White(20, 20);
+        RandomCall(
+            random, [&] { return random.Far(); }, nRound % kCalls)(surface);
+        surface.TakeDirty();
+    }
+    constexpr int kFar = CSurface::kFarthest;
+    for (const CPen& pen :
+         {CPen::Solid(1, kInk), CPen::Solid(5, kInk), CPen::Dotted(PenStyle::kDash, kInk), CPen::Null()}) {
+        CSurface surface = White(20, 20);
+        surface.SelectPen(pen);
+        surface.SelectBrush(CBrush::Solid(kPaint));
+        surface.Ellipse({-kFar, -kFar, kFar, kFar});
+        ASSERT_TRUE(HasPixels(surface, [](int, int) { return kPaint; }));
+        // Its left end, where it is upright for as far as one sees.
+        surface.FillRect(surface.Bounds(), kWhite);
+        surface.Ellipse({10, -kFar, kFar, kFar});
+        EXPECT_EQ(surface.GetPixel(14, 9), kPaint);
+        EXPECT_EQ(surface.GetPixel(7, 9), kWhite);
+        if (!pen.IsNull() && !pen.IsDotted()) {
+            EXPECT_EQ(surface.GetPixel(10, 9), kInk);
+        }
+    }
+}
+
+TEST(FigureBounds, StretchedBlocksAreReplicatedPixels) {
+    CRandom random;
+    SCOPED_TRACE(random.nSeed);
+    const CPixels pixels = NumberedPixels(12, 9, 7);
+    for (int nRound = 0; nRound < 3000; ++nRound) {
+        const int nFactor = random.Pick(1, 6);
+        const CBlock from{random.Pick(-3, 12), random.Pick(-3, 9), random.Pick(0, 9), random.Pick(0, 9)};
+        const int nSignX = random.Pick(0, 1) * 2 - 1, nSignY = random.Pick(0, 1) * 2 - 1;
+        const CBlock to{random.Pick(-20, 30), random.Pick(-20, 30), nSignX * nFactor * from.nWidth,
+                        nSignY * nFactor * from.nHeight};
+        const CRect rcClip{random.Pick(-3, 12), random.Pick(-3, 12), random.Pick(12, 33),
+                           random.Pick(12, 33)};
+        CSurface expected = White(30, 30);
+        for (int j = 0; j < nFactor * from.nHeight; ++j)
+            for (int i = 0; i < nFactor * from.nWidth; ++i) {
+                const CPoint ptFrom{static_cast<int>(from.x) + i / nFactor,
+                                    static_cast<int>(from.y) + j / nFactor};
+                const CPoint pt{static_cast<int>(to.x) + nSignX * i, static_cast<int>(to.y) + nSignY * j};
+                if (rcClip.Contains(pt) && CRect{0, 0, 12, 9}.Contains(ptFrom))
+                    expected.SetPixel(pt.x, pt.y, PixelAt(pixels, ptFrom.x, ptFrom.y));
+            }
+        CSurface stretched = White(30, 30);
+        stretched.Stretch(pixels, from, to, rcClip);
+        ASSERT_EQ(stretched.Pixels(), expected.Pixels()) << nRound;
+        if (nSignX < 0 || nSignY < 0) continue;
+        CSurface enlarged = White(30, 30);
+        enlarged.DrawPartEnlarged(
+            pixels,
+            CRect::FromPlace(static_cast<int>(from.x), static_cast<int>(from.y),
+                             static_cast<int>(from.nWidth), static_cast<int>(from.nHeight)),
+            static_cast<int>(to.x), static_cast<int>(to.y), nFactor, rcClip);
+        ASSERT_EQ(enlarged.Pixels(), expected.Pixels()) << nRound;
+    }
+}
+
+TEST(FigureBounds, PenBrushAndPositionStayUntilOthersAreGiven) {
+    CSurface surface = White(20, 20);
+    EXPECT_EQ(surface.SelectPen(CPen::Solid(1, kInk)), CPen::Solid(1, {}));
+    EXPECT_EQ(surface.SelectBrush(CBrush::Solid(kPaint)), CBrush::Solid(kWhite));
+    surface.Rectangle({1, 1, 4, 4});
+    surface.MoveTo({10, 3});
+    surface.LineTo({14, 3});
+    surface.LineTo({14, 6});
+    const CPoint points[] = {{3, 10}, {6, 10}};
+    surface.Polyline(points);
+    surface.LineTo({10, 6});
+    ASSERT_TRUE(HasPixels(surface, [](int x, int y) {
+        const bool bLines = (y == 3 && x >= 10 && x <= 14) || (x == 14 && y >= 3 && y <= 6) ||
+                            (y == 6 && x >= 11 && x <= 14) || (y == 10 && x >= 3 && x <= 5);
+        if (bLines) return kInk;
+        if (!CRect{1, 1, 4, 4}.Contains({x, y})) return kWhite;
+        return x == 2 && y == 2 ? kPaint : kInk;
+    }));
+    EXPECT_EQ(surface.SelectPen(CPen::Solid(0, kInk)).nWidth, 1);
+    EXPECT_EQ(surface.SelectPen(CPen::Null()).nWidth, 1);
+}

@@ -9,9 +9,11 @@
 CMainDlg::CMainDlg(const CPlatform& platform)
     : CDialog(kMainDialog),
       m_platform(platform),
-      m_canvas(m_state, m_images, m_toolState, *this),
+      m_canvas({m_state, m_images, m_toolState, *this, *this, platform.timers, m_random}),
       m_tools(m_toolState, Controls(), m_canvas),
       m_editor({m_state, m_images, Controls(), m_canvas, m_tools, *this, platform.boxes, platform.wait}),
+      m_clipboard({m_state, m_images, Controls(), m_canvas, m_toolState, m_editor, platform.boxes,
+                   platform.wait, platform.clipboard}),
       m_files({m_state, m_images, Controls(), m_canvas, m_tools, *this, platform.boxes, platform.wait,
                platform.files, platform.folders, *this, m_editor}),
       m_geometry({m_state, m_images, m_canvas, m_tools, *this, platform.boxes, platform.modals, platform.wait,
@@ -45,6 +47,7 @@ void CMainDlg::OnDestroy() {
     m_images.m_pImgNoFrame.reset();
     m_state.m_bImageOpen = false;
     for (const int nTimer : {0, 1}) m_platform.timers.KillTimer(*this, nTimer);
+    m_platform.timers.KillTimer(m_canvas, CPaintEnvironment::kSprayTimer);
 }
 
 void CMainDlg::OnPaint(CClientArea& client) {
@@ -93,6 +96,10 @@ void CMainDlg::OnCanvasPainted() {
 void CMainDlg::RepaintPreview() {
     m_skin.PaintPreviewBox(Client(), CEffectFlow::kPreviewBox);
     Present();
+}
+
+void CMainDlg::PickColor(bool bForeground, CColor color) {
+    (bForeground ? m_toolState.m_crForeground : m_toolState.m_crBackground) = color;
 }
 
 void CMainDlg::OnPrint() {

@@ -4,6 +4,7 @@
 
 #include "app/MainSkin.h"
 #include "app/ModeSwitch.h"
+#include "app/ProcessRandom.h"
 #include "app/StatusLines.h"
 #include "browse/ThumPanel.h"
 #include "compose/FrameFlow.h"
@@ -13,6 +14,7 @@
 #include "editor/GeometryCommands.h"
 #include "effects/EffectFlow.h"
 #include "link/PhoneLink.h"
+#include "paint/ClipboardCommands.h"
 #include "paint/MySCrollView.h"
 #include "paint/ToolController.h"
 #include "print/PrintFlow.h"
@@ -25,6 +27,7 @@
 class CMainDlg : public CDialog,
                  private CEditorHost,
                  private CCanvasHost,
+                 private CPaintHost,
                  private CSkinHost,
                  private CBrowseHost,
                  private CEffectHost,
@@ -83,6 +86,11 @@ class CMainDlg : public CDialog,
     void OnCanvasPainted() override;
     void OnPictureMenu() override;
 
+    // CPaintHost
+    bool BeginChange() override { return m_editor.BeginChange(); }
+    void EnableSelectionCommands(bool bEnable) override { m_clipboard.EnableSelectionCommands(bEnable); }
+    void PickColor(bool bForeground, CColor color) override;
+
     // CBrowseHost
     void ShowFileInfo(const std::string& strName, EFileInfo kind) override {
         m_lines.ShowFileInfo(strName, kind);
@@ -110,9 +118,11 @@ class CMainDlg : public CDialog,
     CEditState m_state;
     CWorkingImages m_images;
     CToolState m_toolState;
+    CProcessRandom m_random;
     CMySCrollView m_canvas;
     CToolController m_tools;
     CEditor m_editor;
+    CClipboardCommands m_clipboard;
     CFileCommands m_files;
     CGeometryCommands m_geometry;
     CStatusLines m_lines;

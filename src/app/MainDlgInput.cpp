@@ -68,13 +68,13 @@ bool CMainDlg::OnKey(const CKeyEvent& event) {
 bool CMainDlg::OnCtrlKey(int nKey) {
     switch (nKey) {
         case 'C':
-            if (m_state.m_bDrawMode) m_canvas.OnCopy();
+            if (m_state.m_bDrawMode) m_clipboard.OnCopy();
             return m_state.m_bDrawMode;
         case 'V':
-            if (m_state.m_bDrawMode) m_canvas.OnPaste();
+            if (m_state.m_bDrawMode) m_clipboard.OnPaste();
             return m_state.m_bDrawMode;
         case 'X':
-            if (m_state.m_bDrawMode) m_canvas.OnCut();
+            if (m_state.m_bDrawMode) m_clipboard.OnCut();
             return m_state.m_bDrawMode;
         case 'Y':
             if (m_images.m_stackRedo.IsEmpty()) return false;

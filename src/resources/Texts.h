@@ -26,6 +26,13 @@ inline constexpr char kTextTooLarge[] = "最大以上的大小";
 inline constexpr char kTextTooSmall[] = "最小以下的大小";
 inline constexpr char kTextNoPhoneSizes[] = "无手机信息，请先连接手机";
 
+// The paint clipboard
+inline constexpr char kTextNothingToCopy[] = "先选择复制区域";
+inline constexpr char kTextNothingToCut[] = "请先选择剪切区域";
+inline constexpr char kTextNothingToCrop[] = "请先选择修改区域";
+inline constexpr char kTextCopyFailed[] = "Unable to set clipboard data";
+inline constexpr char kTextCutFailed[] = "Unable to set Clipboard data";
+
 inline constexpr char kTextBuildDate[] = "Build Date : Dec  7 2005";
 inline constexpr char kTitleBuildDate[] = "Orvo Fotarium Version";
 

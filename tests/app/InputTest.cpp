@@ -58,6 +58,10 @@ TEST_F(InputTest, CtrlKeysNeedAPictureAndTheCtrlKey) {
     for (const int nMode : kAllModes) {
         GoTo(nMode);
         for (const int nKey : std::vector<int>{'C', 'V', 'X'}) EXPECT_EQ(CtrlKey(nKey), nMode == kModeDraw);
+        // Nothing is selected.
+        const CMessageBox copy{kTextNothingToCopy, kTitleNotice, EBoxIcon::Exclamation, EBoxButtons::Ok};
+        const CMessageBox cut{kTextNothingToCut, kTitleNotice, EBoxIcon::Exclamation, EBoxButtons::Ok};
+        ExpectBoxes(nMode == kModeDraw ? std::vector{copy, copy, cut} : std::vector<CMessageBox>{});
     }
 }
 

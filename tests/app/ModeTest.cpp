@@ -208,7 +208,7 @@ TEST_F(ModeTest, DisplayImageFollowsTheMode) {
             expectSize(kModeFont, {649, 464});  // 659/710
         }
         GoTo(kModeDraw);
-        EXPECT_EQ(m_dialog.Canvas().Committed().Pixels(), work);
+        EXPECT_EQ(m_dialog.Canvas().Paper().Committed().Pixels(), work);
         GoTo(kModeStick);
         if (!bPhone) Click(kRadioPhoneSize);
     }

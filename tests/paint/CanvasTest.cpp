@@ -8,9 +8,16 @@ namespace {
 constexpr CColor kGround = CMySCrollView::kGround;
 constexpr CColor kFrame{0, 0, 0};
 
-class Canvas : public testing::Test, public CCanvasHost {
+class Canvas : public testing::Test, public CCanvasHost, public CPaintHost, CRandomSource, CTimers {
   protected:
-    Canvas() : m_canvas(m_state, m_images, m_tools, *this) {}
+    Canvas() : m_canvas({m_state, m_images, m_tools, *this, *this, *this, *this}) {}
+
+    bool BeginChange() override { return true; }
+    void EnableSelectionCommands(bool) override {}
+    void PickColor(bool, CColor) override {}
+    int Next() override { return 0; }
+    void SetTimer(CTimerTarget&, int, int) override {}
+    void KillTimer(CTimerTarget&, int) override {}
 
     void OnCanvasPainted() override { ++m_nPainted; }
     void OnPictureMenu() override { ++m_nMenus; }
@@ -121,6 +128,6 @@ TEST_F(Canvas, KeepsItsOwnPicture) {
     Open({50, 40}, true);
     PaintOver(*m_images.m_pImgWork, {9, 9, 9});
     EXPECT_EQ(m_canvas.CommittedPixels(), NumberedPixels(50, 40, 200));
-    EXPECT_EQ(m_canvas.Scratch().Pixels(), NumberedPixels(50, 40, 200));
+    EXPECT_EQ(m_canvas.Paper().Scratch().Pixels(), NumberedPixels(50, 40, 200));
     EXPECT_EQ(m_canvas.Origin(), (CPoint{304, 251}));
 }

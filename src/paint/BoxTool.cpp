@@ -1,0 +1,38 @@
+#include "paint/BoxTool.h"
+
+namespace {
+
+constexpr CSize kCorner{20, 20};
+
+}  // namespace
+
+// Nothing reads the vertex, but a command takes the figure for one that is open.
+void CBoxTool::Press(CPoint pt) {
+    Hand().BeginShape(pt);
+}
+
+void CBoxTool::Move(CPoint pt) {
+    Paper().Revert();
+    DrawFigure(Scratch(), pt);
+    Paper().ShowScratch();
+}
+
+void CBoxTool::Release(CPoint pt) {
+    if (m_env.Snapshot()) DrawFigure(Committed(), pt);
+    Paper().Revert();
+}
+
+void CBoxTool::DrawFigure(CSurface& surface, CPoint pt) const {
+    const CRect rc = Between(Hand().m_ptStart, pt);
+    switch (m_figure) {
+        case BoxFigure::kRectangle:
+            surface.Rectangle(rc);
+            break;
+        case BoxFigure::kEllipse:
+            surface.Ellipse(rc);
+            break;
+        case BoxFigure::kRoundRect:
+            surface.RoundRect(rc, kCorner);
+            break;
+    }
+}

@@ -1,0 +1,29 @@
+#include "paint/PolygonTool.h"
+
+void CPolygonTool::Press(CPoint pt) {
+    Hand().BeginShape(pt);
+}
+
+void CPolygonTool::Move(CPoint pt) {
+    Paper().Revert();
+    Scratch().SelectBrush(CBrush::Hollow());
+    if (Hand().IsShapeOpen()) {
+        const auto vertices = Vertices(Hand().m_nVertexCount);
+        Scratch().Polyline(vertices);
+        DrawLine(Scratch(), vertices.back(), pt);
+    }
+    Paper().ShowScratch();
+}
+
+void CPolygonTool::Release(CPoint pt) {
+    Hand().AddVertex(pt);
+}
+
+// The release of the first click has put a vertex here already, so this point is not part of the figure.
+void CPolygonTool::DoubleClick(CPoint pt) {
+    if (!Hand().IsShapeOpen()) return;
+    const bool bMayDraw = m_env.Snapshot();
+    const int nPoints = Hand().CloseShape(pt);
+    if (bMayDraw) Committed().Polygon(Vertices(nPoints));
+    Paper().Revert();
+}

@@ -1,0 +1,124 @@
+#include "paint/ToolBox.h"
+
+#include <algorithm>
+
+#include "paint/AirbrushTool.h"
+#include "paint/BoxTool.h"
+#include "paint/BrushTool.h"
+#include "paint/CurveTool.h"
+#include "paint/EraserTool.h"
+#include "paint/FillTool.h"
+#include "paint/FloatTool.h"
+#include "paint/LineTool.h"
+#include "paint/PenTool.h"
+#include "paint/PickerTool.h"
+#include "paint/PolygonTool.h"
+#include "paint/SelectFreeTool.h"
+#include "paint/SelectPolygonTool.h"
+#include "paint/SelectRectTool.h"
+
+namespace {
+
+// The zoom is chosen in its panel; on the canvas the magnifier does nothing.
+class CMagnifierTool : public CPaintTool {
+  public:
+    explicit CMagnifierTool(const CPaintEnvironment& env) : CPaintTool(env) {}
+};
+
+bool IsSelectionTool(int nTool) {
+    return nTool >= kToolSelectRect && nTool <= kToolSelectFree;
+}
+
+}  // namespace
+
+CToolBox::CToolBox(const CPaintEnvironment& env, CToolState& options, const std::function<void()>& fnDrop)
+    : m_env(env), m_options(options) {
+    const auto add = [this](ETool nTool, std::unique_ptr<CPaintTool> pTool) {
+        m_arrTools[static_cast<std::size_t>(nTool)] = std::move(pTool);
+    };
+    add(kToolSelectRect, std::make_unique<CSelectRectTool>(m_env));
+    add(kToolSelectPolygon, std::make_unique<CSelectPolygonTool>(m_env));
+    add(kToolSelectFree, std::make_unique<CSelectFreeTool>(m_env));
+    add(kToolPicker, std::make_unique<CPickerTool>(m_env));
+    add(kToolPen, std::make_unique<CPenTool>(m_env));
+    add(kToolBrush, std::make_unique<CBrushTool>(m_env));
+    add(kToolFill, std::make_unique<CFillTool>(m_env));
+    add(kToolAirbrush, std::make_unique<CAirbrushTool>(m_env));
+    add(kToolEraser, std::make_unique<CEraserTool>(m_env));
+    m_arrTools[kToolMagnifier] = std::make_unique<CMagnifierTool>(m_env);
+    add(kToolLine, std::make_unique<CLineTool>(m_env));
+    add(kToolCurve, std::make_unique<CCurveTool>(m_env));
+    add(kToolRectangle, std::make_unique<CBoxTool>(m_env, BoxFigure::kRectangle));
+    add(kToolPolygon, std::make_unique<CPolygonTool>(m_env));
+    add(kToolEllipse, std::make_unique<CBoxTool>(m_env, BoxFigure::kEllipse));
+    add(kToolRoundRect, std::make_unique<CBoxTool>(m_env, BoxFigure::kRoundRect));
+    add(kToolFloat, std::make_unique<CFloatTool>(m_env, fnDrop));
+}
+
+CPaintTool& CToolBox::Current() {
+    return *m_arrTools[static_cast<std::size_t>(std::clamp<int>(m_options.m_nTool, 1, kToolFloat))];
+}
+
+CPoint CToolBox::KeepInside(CPoint pt) const {
+    return {std::clamp(pt.x, 0, m_env.paper.Width()), std::clamp(pt.y, 0, m_env.paper.Height())};
+}
+
+void CToolBox::TakeColors(EMouseButton button) {
+    const bool bRight = button == EMouseButton::Right;
+    m_env.hand.m_crPrimary = bRight ? m_options.m_crBackground : m_options.m_crForeground;
+    m_env.hand.m_crSecondary = bRight ? m_options.m_crForeground : m_options.m_crBackground;
+}
+
+CPen CToolBox::ToolPen() const {
+    if (IsSelectionTool(m_options.m_nTool)) return SelectionPen();
+    return CPen::Solid(m_options.m_nTool == kToolPen ? 1 : m_options.m_nLineWidth, m_env.hand.m_crPrimary);
+}
+
+CBrush CToolBox::FigureBrush() const {
+    if (m_options.m_nFillMode == kFillNone) return CBrush::Hollow();
+    return CBrush::Solid(m_options.m_nFillMode == kFillOther ? m_env.hand.m_crSecondary
+                                                             : m_env.hand.m_crPrimary);
+}
+
+void CToolBox::OnPress(CPoint pt, EMouseButton button) {
+    m_env.hand.m_bButtonDown = true;
+    TakeColors(button);
+    if (m_options.m_nTool == kToolPicker) m_options.m_bPickForeground = button == EMouseButton::Left;
+    m_env.hand.m_ptStart = KeepInside(pt);
+    const CPen pen = CPen::Solid(m_options.m_nLineWidth, m_env.hand.m_crPrimary);
+    m_env.paper.Committed().SelectPen(pen);
+    m_env.paper.Scratch().SelectPen(pen);
+    m_env.paper.Committed().SelectBrush(CBrush::Solid(m_env.hand.m_crPrimary));
+    Current().Press(pt);
+}
+
+void CToolBox::OnMove(CPoint pt) {
+    m_env.paper.Committed().SelectPen(ToolPen());
+    m_env.paper.Scratch().SelectPen(ToolPen());
+    m_env.paper.Scratch().SelectBrush(FigureBrush());
+    if (m_env.hand.m_bButtonDown) Current().Move(KeepInside(pt));
+}
+
+void CToolBox::OnRelease(CPoint pt) {
+    m_env.hand.m_bButtonDown = false;
+    m_env.paper.Committed().SelectPen(ToolPen());
+    m_env.paper.Committed().SelectBrush(FigureBrush());
+    Current().Release(KeepInside(pt));
+}
+
+void CToolBox::OnDoubleClick(CPoint pt, EMouseButton button) {
+    TakeColors(button);
+    m_env.hand.m_bButtonDown = false;
+    m_env.paper.Committed().SelectPen(ToolPen());
+    const bool bHollow = m_options.m_nTool == kToolSelectPolygon;
+    m_env.paper.Committed().SelectBrush(bHollow ? CBrush::Hollow() : FigureBrush());
+    Current().DoubleClick(pt);
+}
+
+// A release that has never reached the canvas leaves the timer on; another tool ends it.
+void CToolBox::OnTick() {
+    if (m_options.m_nTool == kToolAirbrush)
+        Current().Tick();
+    else
+        m_env.timers.KillTimer(m_env.canvas, CPaintEnvironment::kSprayTimer);
+}

@@ -1,0 +1,212 @@
+// The three selection tools and the region that a command makes of their marks.
+
+#include <cmath>
+#include <random>
+
+#include "paint/ToolBench.h"
+
+namespace {
+
+class SelectionTest : public ToolBench {
+  protected:
+    SelectionTest() { Open(NumberedImage(60, 50, 9)); }
+
+    CSelection& Selection() { return m_canvas.Selection(); }
+    bool Build() { return Selection().Build(m_tools.m_nTool, m_canvas.Hand()); }
+    CPixels Lifted() { return Selection().Lift(m_canvas.Paper().Committed()); }
+    // No mark reaches the picture, and none is a step.
+    void ExpectUntouched() {
+        EXPECT_EQ(Committed(), NumberedPixels(60, 50, 9));
+        EXPECT_TRUE(m_arrSteps.empty());
+        m_canvas.Revert();
+        EXPECT_EQ(Scratch(), NumberedPixels(60, 50, 9));
+    }
+};
+
+}  // namespace
+
+TEST_F(SelectionTest, ARectangleIsTheSameFromBothEnds) {
+    m_tools.m_nTool = kToolSelectRect;
+    for (const auto& [ptFrom, ptTo] :
+         {std::pair{CPoint{10, 8}, CPoint{40, 30}}, {{40, 8}, {10, 30}}, {{40, 30}, {10, 8}}}) {
+        m_bSelectionCommands = false;
+        Press(ptFrom);
+        Move(ptTo);
+        CSurface page(NumberedPixels(60, 50, 9));
+        page.SelectPen(CPen::Dotted(PenStyle::kDot, {0, 0, 0}));
+        page.SelectBrush(CBrush::Hollow());
+        page.Rectangle({10, 8, 40, 30});
+        EXPECT_TRUE(Scratch() == page.Pixels());
+        Release(ptTo);
+        EXPECT_TRUE(Selection().m_bSelection);
+        EXPECT_TRUE(m_bSelectionCommands);
+        ASSERT_TRUE(Build());
+        EXPECT_EQ(Selection().m_rcSelect, (CRect{10, 8, 40, 30}));
+        const CPixels pixels = Lifted();
+        ASSERT_EQ(pixels.Width(), 30);
+        ASSERT_EQ(pixels.Height(), 22);
+        EXPECT_EQ(PixelAt(pixels, 0, 0), (CColor{10, 8, 9}));
+        EXPECT_EQ(PixelAt(pixels, 29, 21), (CColor{39, 29, 9}));
+        ExpectUntouched();
+    }
+}
+
+TEST_F(SelectionTest, AClickSelectsNothingAndTurnsNothingOn) {
+    for (const int nTool : {kToolSelectRect, kToolSelectFree}) {
+        m_tools.m_nTool = nTool;
+        m_tools.m_nLineWidth = 5;
+        Selection().m_bSelection = false;
+        Click({20, 20});
+        EXPECT_TRUE(Selection().m_bSelection);
+        EXPECT_FALSE(m_bSelectionCommands);
+        EXPECT_FALSE(Build());
+        ExpectUntouched();
+    }
+}
+
+// A self-crossing outline selects all that it encloses: the five-pointed star with its middle.
+TEST_F(SelectionTest, APolygonIsFilledByTheWindingRule) {
+    m_tools.m_nTool = kToolSelectPolygon;
+    std::vector<CPoint> star;
+    for (int n = 0; n < 5; ++n) {
+        const double f = n * 4 * 3.14159265 / 5;
+        star.push_back({30 + static_cast<int>(20 * std::sin(f)), 25 - static_cast<int>(20 * std::cos(f))});
+    }
+    Press(star[0]);
+    for (std::size_t n = 1; n < star.size(); ++n) {
+        Move(star[n]);
+        Release(star[n]);
+        if (n + 1 < star.size()) Press({3, 3});
+    }
+    EXPECT_FALSE(Selection().m_bSelection);
+    Double({44, 44});
+    EXPECT_TRUE(Selection().m_bSelection);
+    EXPECT_TRUE(m_bSelectionCommands);
+    Release({44, 44});
+    EXPECT_EQ(m_canvas.VertexCount(), 0);
+    ASSERT_TRUE(Build());
+    EXPECT_TRUE(Selection().m_region.Contains({30, 25}));
+    EXPECT_TRUE(Selection().m_region.Contains({30, 10}));
+    EXPECT_FALSE(Selection().m_region.Contains({15, 10}));
+    EXPECT_EQ(Selection().m_rcSelect, Selection().m_region.Box());
+    const CRect rc = Selection().m_rcSelect;
+    EXPECT_EQ(PixelAt(Lifted(), 30 - rc.left, 25 - rc.top), (CColor{30, 25, 9}));
+    EXPECT_EQ(PixelAt(Lifted(), 15 - rc.left, 10 - rc.top), kWhite);
+    ExpectUntouched();
+}
+
+// A press has put a solid pen on the scratch store; the outline is dotted and hollow all the same.
+TEST_F(SelectionTest, TheOutlineIsDottedWithoutAMoveToo) {
+    Open(60, 50);
+    m_tools.m_nTool = kToolSelectPolygon;
+    m_tools.m_nFillMode = kFillSame;
+    Press({5, 5});
+    Release({45, 5});
+    Click({45, 45});
+    Move({46, 46});  // with no button
+    Click({5, 45});
+    Double({5, 45});
+    EXPECT_EQ(Count(Scratch(), kFore), 0);
+    EXPECT_EQ(Count(Scratch(), {0, 0, 0}, {10, 5, 40, 6}), 15);
+}
+
+TEST_F(SelectionTest, AFreeSelectionTakesEveryPosition) {
+    m_tools.m_nTool = kToolSelectFree;
+    Press({10, 10});
+    Move({40, 10});
+    Move({40, 40});
+    Release({10, 40});
+    // With two passes a move; the release's own point is not part of the region.
+    EXPECT_EQ(Selection().m_free.Points().size(), 6U);
+    EXPECT_TRUE(m_bSelectionCommands);
+    ASSERT_TRUE(Build());
+    EXPECT_EQ(Selection().m_rcSelect, (CRect{10, 10, 40, 40}));
+    EXPECT_TRUE(Selection().m_region.Contains({39, 39}));
+    EXPECT_FALSE(Selection().m_region.Contains({12, 35}));
+    ExpectUntouched();
+}
+
+// A drag of any length keeps its outline: thinned out, but nowhere cut off.
+TEST_F(SelectionTest, AFreeOutlineHasNoEnd) {
+    CFreeOutline outline;
+    outline.Begin({4000, 0});
+    for (int n = 0; n < 50000; ++n) {
+        const double f = n * 6.2831853 / 50000;
+        const CPoint pt{static_cast<int>(4000 * std::cos(f)), static_cast<int>(4000 * std::sin(f))};
+        outline.Add(pt);
+        outline.Add(pt);
+        ASSERT_LE(outline.Points().size(), CFreeOutline::kMostPoints);
+    }
+    const CRegion region = CRegion::MakePolygon(outline.Points());
+    for (int n = 0; n < 360; n += 3) {
+        const double f = n * 6.2831853 / 360;
+        const auto at = [&](double fRadius) {
+            return CPoint{static_cast<int>(fRadius * std::cos(f)), static_cast<int>(fRadius * std::sin(f))};
+        };
+        EXPECT_TRUE(region.Contains(at(3980))) << n;
+        EXPECT_FALSE(region.Contains(at(4020))) << n;
+    }
+    // As long as the points are there twice nothing at all is lost.
+    outline.Begin({0, 0});
+    for (int n = 1; n < 6000; ++n) {
+        outline.Add({n, n * n % 7});
+        outline.Add({n, n * n % 7});
+    }
+    std::vector<CPoint> once(outline.Points().begin(), outline.Points().end());
+    once.erase(std::unique(once.begin(), once.end()), once.end());
+    EXPECT_EQ(once.size(), 6000U);
+}
+
+TEST_F(SelectionTest, TheHundredthVertexClosesTheMark) {
+    m_tools.m_nTool = kToolSelectPolygon;
+    Press({2, 2});
+    for (int n = 1; n < 98; ++n) Release({2 + n % 2, 2 + n % 3});
+    Release({50, 2});
+    Release({50, 45});  // the last one that there is room for
+    Release({0, 49});
+    Double({0, 49});
+    ASSERT_TRUE(Build());
+    EXPECT_EQ(Selection().m_rcSelect.right, 50);
+    EXPECT_EQ(Selection().m_rcSelect.bottom, 45);
+}
+
+// What lies beside the picture is white.
+TEST_F(SelectionTest, ARegionMayReachBesideThePicture) {
+    m_tools.m_nTool = kToolSelectPolygon;
+    Press({-10, -10});
+    Release({30, 0});
+    Click({-10, 30});
+    Double({-10, 30});
+    ASSERT_TRUE(Build());
+    EXPECT_EQ(Selection().m_rcSelect.TopLeft(), (CPoint{-9, -9}));
+    const CPixels pixels = Lifted();
+    const CPoint ptCorner = Selection().m_rcSelect.TopLeft();
+    EXPECT_EQ(PixelAt(pixels, 0, 5), kWhite);
+    EXPECT_EQ(PixelAt(pixels, 3 - ptCorner.x, 2 - ptCorner.y), (CColor{3, 2, 9}));
+}
+
+// The float's pixels go through the region, whatever the size of both: against the pixel by pixel form.
+TEST_F(SelectionTest, AFloatIsDrawnThroughItsRegion) {
+    const unsigned nSeed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(nSeed));
+    std::mt19937 random(nSeed);
+    const auto pick = [&](int nBelow) { return std::uniform_int_distribution<int>(0, nBelow - 1)(random); };
+    for (int n = 0; n < 200; ++n) {
+        CSelection selection;
+        std::vector<CPoint> points;
+        for (int i = 0; i < 7; ++i) points.push_back({pick(40), pick(40)});
+        selection.m_region = CRegion::MakePolygon(points);
+        selection.m_imgFloat = NumberedImage(1 + pick(50), 1 + pick(50), 77);
+        selection.MoveTo({pick(70) - 20, pick(60) - 20});
+        CSurface page = Page();
+        CSurface plain = Page();
+        const CRect rcBox = selection.m_region.Box();
+        for (int j = 0; j < selection.m_imgFloat.GetHeight(); ++j)
+            for (int i = 0; i < selection.m_imgFloat.GetWidth(); ++i)
+                if (selection.m_region.Contains({rcBox.left + i, rcBox.top + j}))
+                    plain.SetPixel(rcBox.left + i, rcBox.top + j,
+                                   PixelAt(selection.m_imgFloat.Pixels(), i, j));
+        selection.DrawFloat(page);
+        ASSERT_TRUE(page.Pixels() == plain.Pixels()) << n;
+    }
+}

@@ -1,0 +1,221 @@
+// The tools that stretch a figure: the rubber band on the scratch store, one figure and one step at the end.
+
+#include <cmath>
+
+#include "paint/ToolBench.h"
+
+namespace {
+
+class ShapeTools : public ToolBench {
+  protected:
+    // The figure of a tool of one drag as it has to look.
+    static void Figure(CSurface& surface, int nTool, CPoint ptFrom, CPoint ptTo) {
+        const CRect rc{ptFrom.x, ptFrom.y, ptTo.x, ptTo.y};
+        if (nTool == kToolLine) Line(surface, ptFrom, ptTo);
+        if (nTool == kToolRectangle) surface.Rectangle(rc);
+        if (nTool == kToolEllipse) surface.Ellipse(rc);
+        if (nTool == kToolRoundRect) surface.RoundRect(rc, {20, 20});
+    }
+    static constexpr int kDragTools[] = {kToolLine, kToolRectangle, kToolEllipse, kToolRoundRect};
+};
+
+}  // namespace
+
+TEST_F(ShapeTools, AFigureOfOneDragIsDrawnOnceForAll) {
+    for (const int nTool : kDragTools)
+        for (int nFill = kFillNone; nFill <= kFillSame; ++nFill)
+            for (const EMouseButton button : {kLeft, kRight}) {
+                SCOPED_TRACE(std::to_string(nTool) + " fill " + std::to_string(nFill));
+                Open(60, 50);
+                m_tools.m_nTool = nTool;
+                m_tools.m_nFillMode = nFill;
+                m_tools.m_nLineWidth = 1 + nFill * 2;
+                const CColor pen = button == kLeft ? kFore : kBack;
+                const CColor other = button == kLeft ? kBack : kFore;
+                CSurface page = Page();
+                page.SelectPen(CPen::Solid(m_tools.m_nLineWidth, pen));
+                page.SelectBrush(nFill == kFillNone ? CBrush::Hollow()
+                                                    : CBrush::Solid(nFill == kFillOther ? other : pen));
+                CSurface band = page;
+                Press({45, 40}, button);
+                Move({20, 45});
+                // From the lower right to the upper left: the same figure.
+                Move({8, 7});
+                Figure(band, nTool, {45, 40}, {8, 7});
+                EXPECT_TRUE(Scratch() == band.Pixels());
+                EXPECT_TRUE(Committed() == Page().Pixels());
+                ExpectScreen(band.Pixels());
+                EXPECT_TRUE(m_arrSteps.empty());
+                Release({12, 9}, button);
+                Figure(page, nTool, {45, 40}, {12, 9});
+                ExpectStroke(page.Pixels(), Page().Pixels());
+            }
+}
+
+TEST_F(ShapeTools, ADragMayEndBeyondTheLastColumnAndStartsInside) {
+    m_tools.m_nTool = kToolRectangle;
+    Drag({{-8, -9}, {90, 70}});
+    // The right and lower edge stand one pixel short of the release, which is where the picture ends.
+    EXPECT_EQ(Count(Committed(), kFore), 2 * 60 + 2 * 48);
+    EXPECT_EQ(PixelAt(Committed(), 59, 49), kFore);
+    // What counts as a step though it leaves nothing.
+    Open(60, 50);
+    m_arrSteps.clear();
+    m_tools.m_nTool = kToolLine;
+    Click({10, 10});
+    ExpectStroke(Page().Pixels(), Page().Pixels());
+}
+
+// The release of a button that went down elsewhere ends a figure that starts at the last press.
+TEST_F(ShapeTools, ALoneReleaseUsesTheLastStart) {
+    m_tools.m_nTool = kToolLine;
+    Drag({{5, 5}, {15, 5}});
+    m_arrSteps.clear();
+    const CPixels before = Committed();
+    Release({5, 30});
+    EXPECT_EQ(Count(Committed(), kFore, {5, 0, 6, 50}), 25);
+    ExpectStroke(Committed(), before);
+}
+
+TEST_F(ShapeTools, APolygonRunsFromDragToDrag) {
+    m_tools.m_nTool = kToolPolygon;
+    m_tools.m_nFillMode = kFillOther;
+    Press({10, 10});
+    Move({40, 12});
+    Release({40, 12});
+    Press({41, 13});
+    Move({30, 40});
+    // An open line without filling, to the cursor.
+    CSurface band = Page();
+    band.SelectPen(CPen::Solid(1, kFore));
+    Line(band, {10, 10}, {40, 12});
+    Line(band, {40, 12}, {30, 40});
+    EXPECT_TRUE(Scratch() == band.Pixels());
+    EXPECT_EQ(m_canvas.VertexCount(), 2);
+    Release({30, 40});
+    EXPECT_TRUE(Committed() == Page().Pixels());
+    EXPECT_TRUE(m_arrSteps.empty());
+    // The first click's release puts the last vertex; the place of the double click adds none.
+    Click({12, 30});
+    Double({13, 45});
+    Release({13, 45});
+    CSurface page = Page();
+    page.SelectPen(CPen::Solid(1, kFore));
+    page.SelectBrush(CBrush::Solid(kBack));
+    page.Polygon(std::array<CPoint, 4>{CPoint{10, 10}, {40, 12}, {30, 40}, {12, 30}});
+    ExpectStroke(page.Pixels(), Page().Pixels());
+    EXPECT_EQ(m_canvas.VertexCount(), 0);
+    Press({50, 10}, kRight);
+    EXPECT_EQ(m_canvas.VertexCount(), 1);
+    EXPECT_EQ(m_canvas.Hand().m_ptVertex[0], (CPoint{50, 10}));
+}
+
+TEST_F(ShapeTools, APolygonClosedAtOnceLeavesADotOrNothing) {
+    m_tools.m_nTool = kToolPolygon;
+    DoubleClick({20, 20});
+    ExpectStroke(Page().Pixels(), Page().Pixels());
+    m_tools.m_nLineWidth = 3;
+    DoubleClick({20, 20});
+    EXPECT_EQ(Count(Committed(), kFore), 5);
+    EXPECT_EQ(m_canvas.VertexCount(), 0);
+}
+
+// A vertex in the margin keeps its place; a start point would be kept inside.
+TEST_F(ShapeTools, AVertexMayLieBesideThePicture) {
+    m_tools.m_nTool = kToolPolygon;
+    m_tools.m_nFillMode = kFillSame;
+    Drag({{-10, -10}, {10, -10}});  // a release is kept inside
+    Click({30, 40});
+    Double({30, 40});
+    CSurface page = Page();
+    page.SelectPen(CPen::Solid(1, kFore));
+    page.SelectBrush(CBrush::Solid(kFore));
+    page.Polygon(std::array<CPoint, 3>{CPoint{-10, -10}, {10, 0}, {30, 40}});
+    EXPECT_TRUE(Committed() == page.Pixels());
+}
+
+TEST_F(ShapeTools, TheHundredthVertexIsTheLast) {
+    m_tools.m_nTool = kToolPolygon;
+    std::vector<CPoint> points;
+    for (int n = 0; n < 130; ++n) {
+        const double f = n * 6.28 / 100;
+        points.push_back({30 + static_cast<int>(25 * std::cos(f)), 25 + static_cast<int>(20 * std::sin(f))});
+    }
+    Press(points[0]);
+    for (std::size_t n = 1; n < points.size(); ++n) Release(points[n]);
+    EXPECT_EQ(m_canvas.VertexCount(), 100);
+    Move({59, 49});
+    DoubleClick({59, 49});
+    CSurface page = Page();
+    page.SelectPen(CPen::Solid(1, kFore));
+    page.SelectBrush(CBrush::Hollow());
+    page.Polygon(std::span(points).first(100));
+    ExpectStroke(page.Pixels(), Page().Pixels());
+}
+
+TEST_F(ShapeTools, ACurveIsALineAndTwoPulls) {
+    m_tools.m_nTool = kToolCurve;
+    m_tools.m_nLineWidth = 2;
+    const auto curve = [&](std::array<CPoint, 4> points) {
+        CSurface page = Page();
+        page.SelectPen(CPen::Solid(2, kFore));
+        page.Bezier(points);
+        return page.Pixels();
+    };
+    Press({5, 25});
+    Move({50, 25});
+    EXPECT_TRUE(Scratch() == curve({CPoint{5, 25}, {5, 25}, {50, 25}, {50, 25}}));
+    Release({52, 25});
+    Press({1, 1});  // where the pulls begin does not matter
+    Move({20, 5});
+    EXPECT_TRUE(Scratch() == curve({CPoint{5, 25}, {20, 5}, {20, 5}, {52, 25}}));
+    Release({20, 5});
+    EXPECT_TRUE(m_arrSteps.empty());
+    EXPECT_TRUE(Committed() == Page().Pixels());
+    Press({1, 1});
+    Move({40, 45});
+    Release({40, 45});
+    ExpectStroke(curve({CPoint{5, 25}, {20, 5}, {40, 45}, {52, 25}}), Page().Pixels());
+    EXPECT_EQ(m_canvas.VertexCount(), -1);
+}
+
+// A click is a pull at its point, a double click two.
+TEST_F(ShapeTools, ADoubleClickEndsACurve) {
+    m_tools.m_nTool = kToolCurve;
+    Drag({{5, 25}, {50, 25}});
+    DoubleClick({20, 5});
+    CSurface page = Page();
+    page.SelectPen(CPen::Solid(1, kFore));
+    page.Bezier({CPoint{5, 25}, {20, 5}, {20, 5}, {50, 25}});
+    ExpectStroke(page.Pixels(), Page().Pixels());
+    // A press of its own would have begun the next one.
+    EXPECT_FALSE(m_canvas.IsShapeOpen());
+}
+
+TEST_F(ShapeTools, AnOpenShapeThatIsGivenUpLeavesNoTrace) {
+    for (const int nTool : {kToolPolygon, kToolCurve, kToolSelectPolygon}) {
+        m_tools.m_nTool = nTool;
+        Drag({{10, 10}, {40, 12}});
+        Press({20, 30});
+        Move({30, 30});
+        EXPECT_TRUE(m_canvas.IsShapeOpen());
+        m_canvas.AbandonShape();
+        EXPECT_FALSE(Scratch() == Page().Pixels());
+        // The button is still held.
+        Move({35, 35});
+        m_canvas.Revert();
+        EXPECT_TRUE(Scratch() == Page().Pixels());
+        EXPECT_TRUE(Committed() == Page().Pixels());
+        Release({35, 35});
+        m_canvas.AbandonShape();
+        EXPECT_TRUE(m_arrSteps.empty());
+    }
+}
+
+TEST_F(ShapeTools, ABoxCountsAsAnOpenShapeBehindItsFirstPress) {
+    m_tools.m_nTool = kToolEllipse;
+    Drag({{10, 10}, {40, 30}});
+    EXPECT_EQ(m_canvas.VertexCount(), 1);
+    Drag({{20, 20}, {30, 30}});
+    EXPECT_EQ(m_canvas.Hand().m_ptVertex[0], (CPoint{10, 10}));
+}

@@ -1,0 +1,242 @@
+// The tools that act where the cursor is, each by its steps and with what Undo takes back.
+
+#include "paint/ToolBench.h"
+
+namespace {
+
+using StrokeTools = ToolBench;
+
+}  // namespace
+
+TEST_F(StrokeTools, ThePenFollowsTheCursorOnePixelWide) {
+    m_tools.m_nTool = kToolPen;
+    m_tools.m_nLineWidth = 5;
+    Drag({{5, 5}, {20, 9}, {20, 30}, {3, 31}});
+    CSurface page = Page();
+    page.SelectPen(CPen::Solid(1, kFore));
+    Line(page, {5, 5}, {20, 9});
+    Line(page, {20, 9}, {20, 30});
+    Line(page, {20, 30}, {3, 31});
+    ExpectStroke(page.Pixels(), Page().Pixels());
+    ExpectScreen(page.Pixels());
+}
+
+// The rest of the way to a release elsewhere was never committed.
+TEST_F(StrokeTools, ThePenLosesAReleaseElsewhereAndAClickLeavesNothing) {
+    m_tools.m_nTool = kToolPen;
+    Click({10, 10});
+    ExpectStroke(Page().Pixels(), Page().Pixels());
+    Press({5, 5}, kRight);
+    Move({5, 15});
+    Release({30, 15}, kRight);
+    CSurface page = Page();
+    page.SelectPen(CPen::Solid(1, kBack));
+    Line(page, {5, 5}, {5, 15});
+    ExpectStroke(page.Pixels(), Page().Pixels());
+}
+
+TEST_F(StrokeTools, TheButtonReleasedOutsideKeepsDrawing) {
+    m_tools.m_nTool = kToolPen;
+    Press({5, 5});
+    Move({5, 8});
+    Move({5, 20});  // comes back with no button held
+    EXPECT_EQ(Count(Scratch(), kFore), 15);
+    Release({5, 20});
+    Move({40, 40});
+    EXPECT_EQ(Count(Committed(), kFore), 15);
+    EXPECT_EQ(m_arrSteps.size(), 1U);
+}
+
+TEST_F(StrokeTools, AClickOfABrushLeavesItsDab) {
+    m_tools.m_nTool = kToolBrush;
+    const struct {
+        int nShape;
+        CRect rc;  // the dab's box around the cursor
+        int nPixels;
+    } kDabs[] = {
+        {0, {-3, -3, 4, 4}, 37}, {1, {-2, -2, 3, 3}, 21}, {2, {-1, -1, 2, 2}, 5},  {3, {-4, -4, 4, 4}, 64},
+        {4, {-2, -2, 3, 3}, 25}, {5, {-1, -1, 1, 1}, 4},  {6, {-4, -3, 4, 5}, 8},  {7, {-2, -1, 2, 3}, 4},
+        {8, {-1, 0, 1, 2}, 2},   {9, {-4, -4, 4, 4}, 8},  {10, {-2, -2, 2, 2}, 4}, {11, {-1, -1, 1, 1}, 2},
+    };
+    for (const auto& dab : kDabs) {
+        SCOPED_TRACE(dab.nShape);
+        Open(60, 50);
+        m_tools.m_nBrushShape = dab.nShape;
+        Click({30, 25});
+        EXPECT_EQ(Count(Committed(), kFore), dab.nPixels);
+        EXPECT_EQ(Count(Committed(), kFore, dab.rc.Offset(30, 25)), dab.nPixels);
+        // The first dab goes with the stroke.
+        ExpectStroke(Committed(), Page().Pixels());
+    }
+}
+
+TEST_F(StrokeTools, RoundAndSquareBrushesJoinTheirSamples) {
+    m_tools.m_nTool = kToolBrush;
+    for (const auto& [nShape, nWidth] : {std::pair{0, 7}, {1, 5}, {2, 3}, {3, 8}, {4, 5}, {5, 2}}) {
+        SCOPED_TRACE(nShape);
+        Open(60, 50);
+        m_tools.m_nBrushShape = nShape;
+        CSurface page = Page();
+        Press({20, 20});
+        const CPixels pressed = Scratch();
+        Move({40, 27});
+        Move({41, 40});
+        // The dab is there from the press on.
+        page.DrawPixels(pressed, 0, 0);
+        page.SelectPen(CPen::Solid(nWidth, kFore));
+        Line(page, {20, 20}, {40, 27});
+        Line(page, {40, 27}, {41, 40});
+        EXPECT_TRUE(Scratch() == page.Pixels());
+        if (nShape == 4) page.FillRect({40, 38, 44, 43}, kFore);
+        if (nShape == 3) page.FillRect({37, 36, 45, 44}, kFore);
+        if (nShape == 5) page.FillRect({40, 39, 42, 41}, kFore);
+        Release({41, 40});
+        ExpectStroke(page.Pixels(), Page().Pixels());
+    }
+}
+
+TEST_F(StrokeTools, SlantedBrushesLeaveOneMarkASample) {
+    m_tools.m_nTool = kToolBrush;
+    m_tools.m_nBrushShape = 7;
+    m_tools.m_nLineWidth = 3;
+    Press({10, 10});
+    EXPECT_EQ(Count(Scratch(), kFore), 0);
+    Move({30, 20});
+    Release({50, 40});
+    CSurface page = Page();
+    page.SelectPen(CPen::Solid(3, kFore));
+    for (const CPoint pt : {CPoint{30, 20}, {50, 40}}) Line(page, {pt.x - 2, pt.y + 2}, {pt.x + 2, pt.y - 2});
+    ExpectStroke(page.Pixels(), Page().Pixels());
+}
+
+TEST_F(StrokeTools, TheEraserLeavesTheOtherButtonsColour) {
+    m_tools.m_nTool = kToolEraser;
+    for (int nSize = 0; nSize < 4; ++nSize) {
+        for (const EMouseButton button : {kLeft, kRight}) {
+            Open(60, 50);
+            m_tools.m_nEraserSize = nSize;
+            const CColor color = button == kLeft ? kBack : kFore;
+            const int n = nSize + 1;
+            Press({15, 20}, button);
+            EXPECT_EQ(Count(Scratch(), color), 4 * n * n);
+            EXPECT_EQ(Count(Scratch(), color, {15 - n, 20 - n, 15 + n, 20 + n}), 4 * n * n);
+            Move({40, 20});
+            EXPECT_EQ(Count(Scratch(), color, {25, 0, 26, 50}), 2 * n);
+            Release({40, 20}, button);
+            EXPECT_EQ(Count(Committed(), color, {40 + n, 0, 41 + n, 50}), 2 * n);
+            ExpectStroke(Committed(), Page().Pixels());
+        }
+    }
+}
+
+TEST_F(StrokeTools, FillGoesByExactColourAndFourNeighbours) {
+    CxImage image = FlatImage(60, 50, kWhite);
+    CSurface walls(image.Pixels());
+    walls.SelectPen(CPen::Solid(1, {1, 2, 3}));
+    Line(walls, {0, 20}, {21, -1});  // a diagonal holds
+    walls.SetPixel(5, 5, {255, 255, 254});
+    image.ReplacePixels(walls.Pixels());
+    Open(image);
+    m_tools.m_nTool = kToolFill;
+    Press({2, 2}, kRight);
+    walls.SelectBrush(CBrush::Solid(kBack));
+    walls.FloodFill({2, 2}, kWhite);
+    EXPECT_EQ(walls.GetPixel(0, 19), kBack);
+    EXPECT_EQ(walls.GetPixel(1, 20), kWhite);
+    EXPECT_EQ(walls.GetPixel(5, 5), (CColor{255, 255, 254}));
+    ExpectStroke(walls.Pixels(), image.Pixels());
+    // On its own colour and beside the picture nothing changes; both take their step.
+    for (const CPoint pt : {CPoint{2, 2}, {-3, 10}, {10, 55}}) {
+        Click(pt, kRight);
+        ExpectStroke(walls.Pixels(), walls.Pixels());
+    }
+}
+
+TEST_F(StrokeTools, ThePickerFollowsTheCursorWithTheButtonsWell) {
+    Open(NumberedImage(60, 50, 7));
+    m_tools.m_nTool = kToolPicker;
+    Press({12, 30});
+    EXPECT_EQ(m_tools.m_crForeground, (CColor{12, 30, 7}));
+    Move({13, 31});
+    Move({100, 31});  // the edge beyond the last column has no colour
+    Release({13, 31});
+    Move({20, 20});
+    EXPECT_EQ(m_tools.m_crForeground, (CColor{13, 31, 7}));
+    EXPECT_EQ(m_tools.m_crBackground, kBack);
+    Press({-5, 3}, kRight);
+    EXPECT_EQ(m_tools.m_crBackground, kBack);
+    Move({-5, 3});  // kept inside
+    EXPECT_EQ(m_tools.m_crBackground, (CColor{0, 3, 7}));
+    EXPECT_EQ(m_tools.m_crForeground, (CColor{13, 31, 7}));
+    EXPECT_TRUE(m_arrSteps.empty());
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50, 7));
+}
+
+// The sequence gives the column first; dots beside the disc are drawn again and do not count.
+TEST_F(StrokeTools, TheAirbrushSpraysTwentyDotsATick) {
+    m_tools.m_nTool = kToolAirbrush;
+    Press({30, 25});
+    EXPECT_TRUE(m_bTimer);
+    m_arrRandom = {10, 10, 0, 0, 5, 5, 9, 9, 13, 2, 25, 6};  // the corner of the square misses the disc
+    for (int n = 0; n < 17; ++n) m_arrRandom.insert(m_arrRandom.end(), {4, 5});
+    Tick();
+    EXPECT_TRUE(m_arrRandom.empty());
+    CSurface page = Page();
+    for (const CPoint pt : {CPoint{30, 25}, {28, 22}, {30, 26}, {29, 25}}) page.SetPixel(pt.x, pt.y, kFore);
+    EXPECT_TRUE(Scratch() == page.Pixels());
+    EXPECT_TRUE(Committed() == Page().Pixels());
+    // The dots of the last tick are not committed by the release.
+    Release({30, 25});
+    EXPECT_FALSE(m_bTimer);
+    EXPECT_TRUE(Scratch() == page.Pixels());
+    m_tools.m_nTool = kToolLine;
+    Click({1, 1});
+    EXPECT_TRUE(Scratch() == Page().Pixels());
+    ASSERT_EQ(m_arrSteps.size(), 2U);
+    EXPECT_TRUE(m_arrSteps[0] == Page().Pixels());
+}
+
+TEST_F(StrokeTools, TheAirbrushGoesOnUntilTheCanvasSeesItsRelease) {
+    m_tools.m_nTool = kToolAirbrush;
+    m_tools.m_nSpraySize = 2;
+    Press({30, 25});
+    const auto spray = [&] {
+        for (int n = 0; n < 20; ++n) m_arrRandom.insert(m_arrRandom.end(), {n + 5, 15});
+        Tick();
+    };
+    spray();
+    EXPECT_EQ(Count(Scratch(), kFore), 20);
+    Move({30, 40});
+    spray();
+    EXPECT_EQ(Count(Scratch(), kFore, {20, 40, 40, 41}), 20);
+    EXPECT_EQ(Count(Committed(), kFore), 20);
+    // Another tool, and another mode, end a timer whose release got lost.
+    m_tools.m_nTool = kToolPen;
+    Tick();
+    EXPECT_FALSE(m_bTimer);
+    m_tools.m_nTool = kToolAirbrush;
+    Press({30, 25});
+    m_state.m_bDrawMode = false;
+    Tick();
+    EXPECT_FALSE(m_bTimer);
+}
+
+// Without memory for the step the picture stays as it is and the drag is over.
+TEST_F(StrokeTools, NothingIsPaintedThatCouldNotBeTakenBack) {
+    m_bNoMemory = true;
+    for (int nTool = kToolPen; nTool <= kToolRoundRect; ++nTool) {
+        SCOPED_TRACE(nTool);
+        m_tools.m_nTool = nTool;
+        Press({20, 20});
+        Move({30, 30});
+        Move({40, 20});
+        const bool bStroke = nTool < kToolMagnifier;
+        EXPECT_TRUE(!bStroke || !m_canvas.Hand().m_bButtonDown);
+        EXPECT_TRUE(!bStroke || Scratch() == Page().Pixels());
+        if (nTool >= kToolLine) DoubleClick({40, 20});
+        EXPECT_TRUE(Committed() == Page().Pixels());
+        EXPECT_FALSE(m_bTimer);
+        m_canvas.AbandonShape();
+        m_canvas.Revert();
+    }
+}

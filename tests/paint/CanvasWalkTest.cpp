@@ -1,0 +1,174 @@
+// Ten thousand random events and commands on the canvas.
+
+#include <random>
+
+#include "paint/CommandBench.h"
+
+namespace {
+
+class CanvasWalk : public CommandBench {
+  protected:
+    int Pick(int nBelow) { return std::uniform_int_distribution<int>(0, nBelow - 1)(m_random); }
+    CColor PickColour() {
+        // Few enough that a flood fill finds its own.
+        return CColor::FromRef(
+            static_cast<std::uint32_t>(Pick(3) * 0x7F0000 + Pick(3) * 0x7F00 + Pick(3) * 0x7F));
+    }
+    // Somewhere on the picture, in the margin or far outside.
+    CPoint PickPoint() {
+        const int nMost = Pick(10) == 0 ? 3000 : 90;
+        return {Pick(nMost) - nMost / 6, Pick(nMost) - nMost / 6};
+    }
+
+    void Act() {
+        const EMouseButton button = Pick(4) ? kLeft : kRight;
+        switch (Pick(24)) {
+            case 0:
+            case 1:
+            case 2:
+                return Mouse(EMouseAction::Press, PickPoint(), button);
+            case 3:
+            case 4:
+            case 5:
+                return Mouse(EMouseAction::Release, PickPoint(), button);
+            case 6:
+                return Mouse(EMouseAction::DoubleClick, PickPoint(), button);
+            case 7:
+                return SelectTool(1 + Pick(kToolButtonCount));
+            case 8:
+                m_tools.m_crForeground = PickColour();
+                m_tools.m_crBackground = PickColour();
+                m_tools.m_nLineWidth = 1 + Pick(5);
+                m_tools.m_nFillMode = Pick(3);
+                m_tools.m_nBrushShape = Pick(12);
+                m_tools.m_nSpraySize = Pick(3);
+                m_tools.m_nEraserSize = Pick(4);
+                return;
+            case 9:
+                if (Pick(4) == 0) Zoom(std::array{1, 2, 4, 6}[static_cast<std::size_t>(Pick(4))]);
+                return;
+            case 10:
+                return m_canvas.ScrollTo({Pick(500), Pick(500)});
+            case 11:
+                if (m_bTimer) m_canvas.OnTimer(CPaintEnvironment::kSprayTimer);
+                return;
+            case 12:
+                return Command();
+            default:
+                return Mouse(EMouseAction::Move, PickPoint());
+        }
+    }
+
+    void Command() {
+        switch (Pick(9)) {
+            case 0:
+                return m_commands.OnCopy();
+            case 1:
+                return m_commands.OnCut();
+            case 2:
+                return m_commands.OnPaste();
+            case 3:
+                if (Pick(4) == 0) m_commands.OnCrop();
+                return;
+            case 4:
+                return m_editor.OnUndo();
+            case 5:
+                return m_editor.OnRedo();
+            case 6:
+                if (Pick(10) == 0) m_editor.OnReset();
+                return;
+            case 7:
+                if (Pick(5) == 0) Open(1 + Pick(120), 1 + Pick(90));
+                return;
+            default:
+                // Another mode and back, as the switch does it.
+                if (m_canvas.IsFloating()) m_canvas.DropFloat();
+                m_editor.TransferCanvas(true);
+                m_state.m_bDrawMode = false;
+                m_canvas.OnInitialUpdate();
+                Mouse(EMouseAction::Move, PickPoint());
+                m_state.m_bDrawMode = true;
+                m_editor.TransferCanvas(false);
+                SelectTool(kToolMagnifier);
+        }
+    }
+
+    // What holds whenever no event is being handled.
+    void Invariants() {
+        m_canvas.Paint();
+        const CPaper& paper = m_canvas.Paper();
+        const CSize size{paper.Width(), paper.Height()};
+        // Both stores have the size of the working image and the same pixels outside of the box of the
+        // stroke.
+        ASSERT_EQ(m_images.m_pImgWork->GetSize(), size);
+        ASSERT_EQ(paper.Scratch().Bounds().Size(), size);
+        CSurface same = paper.Scratch();
+        const CRect rcDiffer = m_canvas.Paper().DifferBox();
+        ASSERT_EQ(rcDiffer.Intersect(same.Bounds()), rcDiffer);
+        same.DrawPart(Committed(), rcDiffer, rcDiffer.left, rcDiffer.top);
+        ASSERT_TRUE(same.Pixels() == Committed());
+        // A surface that has been drawn on since the last show is out of date on the screen until the next
+        // one; all steps show what they have drawn, so the screen is the shown store.
+        CheckScreen(paper.Shown());
+        // No picture that somebody keeps is painted on: the newest undo step is what the working image was.
+        ASSERT_LE(m_images.m_stackUndo.Count(), CUndoStack::kDepth);
+        ASSERT_LE(m_images.m_stackRedo.Count(), CUndoStack::kDepth);
+        ASSERT_EQ(m_controls.IsEnabled(kCmdUndo), !m_images.m_stackUndo.IsEmpty());
+        ASSERT_EQ(m_controls.IsEnabled(kCmdRedo), !m_images.m_stackRedo.IsEmpty());
+        CheckKept();
+        // The hand.
+        const CHand& hand = m_canvas.Hand();
+        ASSERT_TRUE(hand.m_nVertexCount >= -1 && hand.m_nVertexCount <= CHand::kMostVertices);
+        ASSERT_TRUE(m_tools.m_nTool >= 1 && m_tools.m_nTool <= kToolFloat);
+        ASSERT_NE(m_tools.m_nResumeTool, kToolFloat);
+        // A float and its tool come and go together, and no mark stands beside it.
+        ASSERT_EQ(m_canvas.IsFloating(), m_tools.m_nTool == kToolFloat);
+        ASSERT_FALSE(m_canvas.IsFloating() && m_canvas.Selection().m_bSelection);
+        ASSERT_LE(m_canvas.Selection().m_free.Points().size(), CFreeOutline::kMostPoints);
+        ASSERT_TRUE(m_canvas.IsClipReady() || !m_canvas.IsFloating());
+        ASSERT_EQ(m_nWaits, 0);
+    }
+
+    void CheckScreen(const CSurface& store) {
+        const int nZoom = m_tools.m_nZoom;
+        CSurface whole(m_canvas.ClientSize().cx, m_canvas.ClientSize().cy);
+        whole.DrawPixels(m_canvas.Surface().Pixels(), 0, 0);
+        const CPoint ptCorner = m_canvas.VisibleCorner();
+        const CPoint ptOrigin = m_canvas.Origin();
+        const CRect rcSeen = CRect{ptCorner.x, ptCorner.y, store.Width(), store.Height()};
+        whole.DrawPartEnlarged(store.Pixels(), rcSeen, ptOrigin.x, ptOrigin.y, nZoom, whole.Bounds());
+        ASSERT_TRUE(whole.Pixels() == m_canvas.Surface().Pixels());
+    }
+
+    // Every undo step keeps its pixels for as long as it is the one at its depth.
+    void CheckKept() {
+        if (m_images.m_stackUndo.IsEmpty()) return m_kept.Clear();
+        const CPixels& top = m_images.m_stackUndo.Top().pImage->Pixels();
+        if (!m_kept.SharesWith(top)) {
+            m_kept = top;
+            m_copy = top;
+            ASSERT_TRUE(m_copy.Separate());
+        }
+        ASSERT_TRUE(top == m_copy);
+    }
+
+    std::mt19937 m_random;
+    CPixels m_kept;
+    CPixels m_copy;
+};
+
+}  // namespace
+
+TEST_F(CanvasWalk, TenThousandEvents) {
+    const unsigned nSeed = std::random_device{}();
+    m_random.seed(nSeed);
+    Open(60, 50);
+    for (int nStep = 0; nStep < 10000; ++nStep) {
+        SCOPED_TRACE("seed " + std::to_string(nSeed) + ", step " + std::to_string(nStep) + ", tool " +
+                     std::to_string(m_tools.m_nTool));
+        Act();
+        m_arrBoxes.clear();
+        Invariants();
+        if (HasFailure()) return;
+    }
+}

@@ -1,0 +1,251 @@
+// Copy, Cut, Paste, Crop and the floating selection, as the states of the selection follow each other.
+
+#include "paint/CommandBench.h"
+
+namespace {
+
+constexpr CColor kWhite{255, 255, 255};
+
+class ClipboardTest : public CommandBench {
+  protected:
+    ClipboardTest() {
+        Open(60, 50);
+        m_tools.m_crBackground = {9, 200, 9};
+    }
+    // The picture with a part of it, or of another, at another place.
+    static CPixels With(const CPixels& picture, CRect rcFrom, CPoint ptTo) {
+        CSurface surface(picture);
+        surface.DrawPart(NumberedPixels(60, 50), rcFrom, ptTo.x, ptTo.y);
+        return surface.Pixels();
+    }
+    void Paste() {
+        m_commands.OnPaste();
+        EXPECT_TRUE(m_arrBoxes.empty());
+    }
+};
+
+}  // namespace
+
+TEST_F(ClipboardTest, WithoutASelectionEachCommandSaysSo) {
+    m_commands.OnCopy();
+    ExpectBox("先选择复制区域");
+    m_commands.OnCut();
+    ExpectBox("请先选择剪切区域");
+    m_commands.OnPaste();
+    ExpectBox("先选择复制区域");
+    m_commands.OnCrop();
+    ExpectBox("请先选择修改区域");
+    // The button decides as well.
+    Mark({5, 5, 20, 20});
+    m_commands.OnCopy();
+    m_controls.Enable(kCmdPaste, false);
+    m_commands.OnPaste();
+    ExpectBox("先选择复制区域");
+    EXPECT_EQ(Undos(), 0);
+    EXPECT_EQ(m_tools.m_nTool, kToolSelectRect);
+}
+
+TEST_F(ClipboardTest, CopyGivesTheShapeOnWhiteAndChangesNothing) {
+    EXPECT_EQ(Commands(), "----");
+    Mark({40, 30, 10, 8});
+    EXPECT_EQ(Commands(), "xx-x");
+    const CPixels outline = Scratch();
+    m_commands.OnCopy();
+    EXPECT_EQ(Commands(), "xxxx");
+    ASSERT_EQ(Clip().Width(), 30);
+    EXPECT_EQ(PixelAt(Clip(), 0, 0), (CColor{10, 8, 0}));
+    EXPECT_EQ(PixelAt(Clip(), 29, 21), (CColor{39, 29, 0}));
+    EXPECT_EQ(Scratch(), outline);
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50));
+    MarkTriangle({10, 10}, 20);
+    m_commands.OnCopy();
+    EXPECT_EQ(PixelAt(Clip(), 2, 2), (CColor{12, 12, 0}));
+    EXPECT_EQ(PixelAt(Clip(), 18, 18), kWhite);
+    EXPECT_EQ(Undos(), 0);
+}
+
+TEST_F(ClipboardTest, CutFillsWithTheBackgroundAndIsOneStep) {
+    Mark({10, 10, 30, 25});
+    m_commands.OnCut();
+    EXPECT_EQ(Commands(), "--x-");
+    CSurface page(NumberedPixels(60, 50));
+    page.FillRect({10, 10, 30, 25}, m_tools.m_crBackground);
+    EXPECT_EQ(Committed(), page.Pixels());
+    EXPECT_EQ(Scratch(), page.Pixels());
+    EXPECT_EQ(PixelAt(Clip(), 0, 0), (CColor{10, 10, 0}));
+    // The selection is still there for the keys.
+    m_tools.m_crBackground = {1, 1, 1};
+    m_commands.OnCut();
+    EXPECT_EQ(PixelAt(Committed(), 12, 12), (CColor{1, 1, 1}));
+    EXPECT_EQ(PixelAt(Clip(), 0, 0), (CColor{9, 200, 9}));
+    EXPECT_EQ(Undos(), 2);
+    m_editor.OnUndo();
+    m_editor.OnUndo();
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50));
+}
+
+TEST_F(ClipboardTest, AFloatIsDraggedAndMergedByAPressBesideIt) {
+    Mark({10, 10, 30, 25});
+    m_commands.OnCopy();
+    Paste();
+    EXPECT_EQ(m_tools.m_nTool, kToolFloat);
+    EXPECT_EQ(Commands(), "--x-");
+    EXPECT_TRUE(m_canvas.IsFloating());
+    EXPECT_FALSE(m_canvas.Selection().m_bSelection);
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50));
+    EXPECT_EQ(PixelAt(Scratch(), 5, 5), (CColor{15, 15, 0}));
+    Drag({{5, 5}, {20, 12}, {35, 24}});
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50));
+    EXPECT_EQ(PixelAt(Scratch(), 5, 5), (CColor{5, 5, 0}));  // what was under it is back
+    EXPECT_EQ(PixelAt(Scratch(), 40, 30), (CColor{20, 21, 0}));
+    Click({2, 2});
+    EXPECT_FALSE(m_canvas.IsFloating());
+    EXPECT_EQ(m_tools.m_nTool, kToolSelectRect);
+    const CPixels merged = With(NumberedPixels(60, 50), {10, 10, 30, 25}, {30, 19});
+    EXPECT_EQ(Committed(), merged);
+    EXPECT_EQ(Scratch(), merged);
+    EXPECT_EQ(Undos(), 1);
+    m_editor.OnUndo();
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50));
+    EXPECT_EQ(m_images.m_stackRedo.Count(), 1);
+    m_editor.OnRedo();
+    EXPECT_EQ(Committed(), merged);
+}
+
+TEST_F(ClipboardTest, AFloatComesUpAtTheVisibleCorner) {
+    Open(200, 180);
+    Mark({10, 10, 30, 25});
+    m_commands.OnCopy();
+    Zoom(6);
+    m_canvas.ScrollTo({301, 245});
+    SelectTool(kToolPen);
+    Paste();
+    EXPECT_EQ(m_canvas.Selection().m_region.Box(), (CRect{50, 40, 70, 55}));
+    EXPECT_EQ(PixelAt(Scratch(), 51, 41), (CColor{11, 11, 0}));
+    SelectTool(kToolPen);
+    EXPECT_EQ(PixelAt(Committed(), 50, 40), (CColor{10, 10, 0}));
+    EXPECT_EQ(m_tools.m_nTool, kToolPen);
+}
+
+TEST_F(ClipboardTest, ASecondPasteMergesTheFirstWhereItLies) {
+    MarkTriangle({10, 10}, 20);
+    m_commands.OnCopy();
+    Paste();
+    // The box decides: this point of it lies beside the shape.
+    Drag({{18, 18}, {48, 38}});
+    EXPECT_TRUE(m_canvas.IsFloating());
+    Paste();
+    EXPECT_TRUE(m_canvas.IsFloating());
+    EXPECT_EQ(m_tools.m_nResumeTool, kToolSelectPolygon);
+    EXPECT_EQ(PixelAt(Committed(), 32, 22), (CColor{12, 12, 0}));
+    EXPECT_EQ(PixelAt(Committed(), 48, 38), (CColor{48, 38, 0}));
+    EXPECT_EQ(PixelAt(Scratch(), 2, 2), (CColor{12, 12, 0}));
+    EXPECT_EQ(Undos(), 2);
+    // Undo merges, so that Redo has it, and then takes the second float back.
+    m_editor.OnUndo();
+    EXPECT_FALSE(m_canvas.IsFloating());
+    EXPECT_EQ(PixelAt(Committed(), 2, 2), (CColor{2, 2, 0}));
+    EXPECT_EQ(PixelAt(Committed(), 32, 22), (CColor{12, 12, 0}));
+    m_editor.OnUndo();
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50));
+}
+
+TEST_F(ClipboardTest, CropTakesTheBoxWithWhiteAroundTheShape) {
+    MarkTriangle({10, 10}, 20);
+    m_commands.OnCopy();
+    m_tools.m_nZoom = 1;
+    const CRect rc = m_canvas.Selection().m_rcSelect;
+    m_commands.OnCrop();
+    EXPECT_EQ(Commands(), "----");
+    EXPECT_EQ(m_tools.m_nTool, kToolSelectPolygon);
+    for (const CPixels& pixels :
+         {Committed(), Scratch(), m_images.m_pImgWork->Pixels(), m_images.m_pImgDisplay->Pixels()}) {
+        ASSERT_EQ((CSize{pixels.Width(), pixels.Height()}), rc.Size());
+        EXPECT_EQ(PixelAt(pixels, 2, 3), (CColor{12, 13, 0}));
+        EXPECT_EQ(PixelAt(pixels, rc.Width() - 1, rc.Height() - 1), kWhite);
+    }
+    EXPECT_EQ(m_images.DisplaySize(), rc.Size());
+    EXPECT_EQ(m_canvas.ScrollSizes(), rc.Size());
+    m_editor.OnUndo();
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50));
+    EXPECT_EQ(m_images.DisplaySize(), (CSize{60, 50}));
+    m_editor.OnRedo();
+    EXPECT_EQ(m_images.DisplaySize(), rc.Size());
+}
+
+// An empty rectangle reaches the commands by the keys; there is nothing to give, to take away or to keep.
+TEST_F(ClipboardTest, ASelectionOfNothingCostsNothing) {
+    Mark({5, 5, 20, 20});
+    m_commands.OnCopy();
+    const auto clip = m_clip;
+    Mark({7, 7, 7, 7});
+    m_commands.OnCopy();
+    ExpectBox("Unable to set clipboard data", kTextProgram);
+    m_commands.OnCut();
+    ExpectBox("Unable to set Clipboard data", kTextProgram);
+    m_commands.OnCrop();
+    ExpectBox("请先选择修改区域");
+    EXPECT_EQ(m_clip, clip);
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50));
+    // The shape of the last copy is still the mask.
+    Paste();
+    EXPECT_EQ(m_canvas.Selection().m_region.Box(), (CRect{0, 0, 15, 15}));
+}
+
+TEST_F(ClipboardTest, AnotherProgramMayHaveTheClipboardOrTakeIt) {
+    Mark({5, 5, 20, 20});
+    m_bClipboardBusy = true;
+    m_commands.OnCopy();
+    ExpectBox("Unable to set clipboard data", kTextProgram);
+    m_bClipboardBusy = false;
+    m_commands.OnCopy();
+    // Its own picture goes through the shape of the last copy.
+    m_clip = FlatImage(8, 40, {77, 0, 0}).CopyToHandle();
+    Paste();
+    SelectTool(kToolPen);
+    EXPECT_EQ(PixelAt(Committed(), 7, 14), (CColor{77, 0, 0}));
+    EXPECT_EQ(PixelAt(Committed(), 8, 14), (CColor{8, 14, 0}));
+    EXPECT_EQ(PixelAt(Committed(), 7, 15), (CColor{7, 15, 0}));
+    // No picture any more: the tool stands, with the last float's pixels.
+    m_clip.reset();
+    m_commands.OnPaste();
+    EXPECT_TRUE(m_canvas.IsFloating());
+    EXPECT_EQ(m_tools.m_nTool, kToolFloat);
+    Click({50, 40});
+    EXPECT_FALSE(m_canvas.IsFloating());
+    EXPECT_EQ(m_tools.m_nTool, kToolPen);
+}
+
+TEST_F(ClipboardTest, SelectingAToolEndsAMark) {
+    for (const int nTool : {kToolSelectRect, kToolSelectFree, kToolPen}) {
+        Mark({5, 5, 20, 20});
+        SelectTool(nTool);
+        EXPECT_FALSE(m_canvas.Selection().m_bSelection);
+        EXPECT_EQ(Scratch(), Committed());
+        EXPECT_EQ(Commands(), "----");
+    }
+}
+
+// A new press leaves the old mark in force until the new one replaces it; the outline goes.
+TEST_F(ClipboardTest, ANewPressKeepsTheOldMarkUntilItsRelease) {
+    Mark({5, 5, 20, 20});
+    Mouse(EMouseAction::Press, {30, 30});
+    Mouse(EMouseAction::Move, {40, 40});
+    EXPECT_TRUE(m_canvas.Selection().m_bSelection);
+    m_commands.OnCopy();
+    EXPECT_EQ(PixelAt(Clip(), 0, 0), (CColor{5, 5, 0}));
+    Mouse(EMouseAction::Release, {40, 40});
+    m_commands.OnCopy();
+    EXPECT_EQ(PixelAt(Clip(), 0, 0), (CColor{30, 30, 0}));
+}
+
+TEST_F(ClipboardTest, ResetAndTheMergeOfAFloatGoTogether) {
+    Mark({5, 5, 20, 20});
+    m_commands.OnCopy();
+    Paste();
+    m_editor.OnReset();
+    EXPECT_FALSE(m_canvas.IsFloating());
+    EXPECT_EQ(m_tools.m_nTool, kToolMagnifier);
+    EXPECT_EQ(Committed(), NumberedPixels(60, 50));
+    EXPECT_EQ(Undos(), 2);
+}

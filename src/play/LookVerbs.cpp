@@ -108,9 +108,12 @@ bool FindPicture(CStage& stage, const std::string& strWhich, CPixels& pixels) {
         if (pPreview != nullptr) pixels = pPreview->Pixels();
         return true;
     }
-    if (strWhich == "canvas") pixels = stage.dialog.Canvas().Surface().Pixels();
+    const CMySCrollView& canvas = stage.dialog.Canvas();
+    if (strWhich == "canvas") pixels = canvas.Surface().Pixels();
+    if (strWhich == "committed") pixels = canvas.Paper().Committed().Pixels();
+    if (strWhich == "scratch") pixels = canvas.Paper().Scratch().Pixels();
     if (strWhich == "window") pixels = ComposeWindow(stage.host, stage.platform.Bitmaps()).Pixels();
-    return strWhich == "canvas" || strWhich == "window";
+    return strWhich == "canvas" || strWhich == "committed" || strWhich == "scratch" || strWhich == "window";
 }
 
 std::string Dump(CStage& stage, const CWords& arrWords) {
@@ -135,10 +138,9 @@ constexpr CVerb kVerbs[] = {
      "Prints what the program had the system do with files since the last such line: open, bin or delete, "
      "whether the system asked, whether all was done, and the paths by their drives.",
      "shell"},
-    {"dump", "work|display|opened|preview|canvas|window PATH", 2, 2, Dump,
+    {"dump", "work|display|opened|preview|canvas|committed|scratch|window PATH", 2, 2, Dump,
      "Writes a picture as PPM, 24 bits: one of the edit images, the effect's preview, what the canvas shows, "
-     "or "
-     "the window.",
+     "the picture of DRAW, the same with the stroke in progress, or the window.",
      "dump work after.ppm"},
 };
 

@@ -72,8 +72,7 @@ constexpr CStateEntry kStates[] = {
      "Whether an effect's preview waits for CONFIRM."},
     {"float", [](const CStage& s) { return Flag(s.dialog.Canvas().IsFloating()); },
      "Whether a selection floats over the picture."},
-    // Cut is on for as long as something is selected, and never otherwise.
-    {"selection", [](const CStage& s) { return Flag(s.dialog.Controls().IsEnabled(kCmdCut)); },
+    {"selection", [](const CStage& s) { return Flag(s.dialog.Canvas().Selection().m_bSelection); },
      "Whether something is selected to cut or copy."},
     {"connected", [](const CStage& s) { return Flag(s.dialog.Link().IsConnected()); },
      "Whether the phone is connected."},

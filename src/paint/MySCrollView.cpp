@@ -134,11 +134,7 @@ CRect CMySCrollView::DrawStore(CSurface& surface, const CSurface& store, const C
                       m_ptOrigin.y + (rcFrom.top - ptCorner.y) * nZoom};
     const CRect rcTo = CRect::FromPlace(ptTo.x, ptTo.y, rcFrom.Width() * nZoom, rcFrom.Height() * nZoom)
                            .Intersect({m_ptOrigin.x, m_ptOrigin.y, surface.Width(), surface.Height()});
-    if (nZoom == 1)
-        surface.DrawPart(store.Pixels(), rcTo.Offset(rcFrom.left - ptTo.x, rcFrom.top - ptTo.y), rcTo.left,
-                         rcTo.top);
-    else
-        surface.DrawPartEnlarged(store.Pixels(), rcFrom, ptTo.x, ptTo.y, nZoom, rcTo);
+    surface.DrawEnlarged(store.Pixels(), rcFrom, ptTo.x, ptTo.y, nZoom, rcTo);
     return rcTo;
 }
 

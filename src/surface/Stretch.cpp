@@ -45,6 +45,21 @@ void BuildRow(std::uint8_t* pTo, const std::uint8_t* pFrom, const std::vector<in
     }
 }
 
+// Makes a row of nPixels pixels in which the first of the source stands nFirstRun times and the others
+// nFactor times. Whole words are faster than three bytes; a word's fourth byte is the next pixel's to
+// overwrite.
+void RepeatPixels(std::uint8_t* pTo, const std::uint8_t* pFrom, std::size_t nPixels, int nFirstRun,
+                  int nFactor) {
+    const std::uint8_t* const pLast = pTo + 3 * (nPixels - 1);
+    for (int nRun = nFirstRun; pTo < pLast; nRun = nFactor, pFrom += 3) {
+        std::uint8_t word[4];
+        std::memcpy(word, pFrom, 4);
+        for (; nRun > 0 && pTo < pLast; --nRun, pTo += 3) std::memcpy(pTo, word, 4);
+        if (nRun > 0) break;
+    }
+    std::memcpy(pTo, pFrom, 3);
+}
+
 }  // namespace
 
 void CSurface::Stretch(const CPixels& pixels, const CBlock& blockFrom, const CBlock& blockTo,
@@ -70,11 +85,37 @@ void CSurface::Stretch(const CPixels& pixels, const CBlock& blockFrom, const CBl
     }
 }
 
-void CSurface::DrawPartEnlarged(const CPixels& pixels, const CRect& rcSource, int x, int y, int nFactor,
-                                const CRect& rcClip) {
-    const std::int64_t nWidth = std::int64_t{rcSource.right} - rcSource.left;
-    const std::int64_t nHeight = std::int64_t{rcSource.bottom} - rcSource.top;
-    if (nWidth <= 0 || nHeight <= 0) return;
-    Stretch(pixels, {rcSource.left, rcSource.top, nWidth, nHeight},
-            {x, y, nWidth * nFactor, nHeight * nFactor}, rcClip);
+void CSurface::DrawEnlarged(const CPixels& pixels, const CRect& rcSource, int x, int y, int nFactor,
+                            const CRect& rcClip) {
+    const CRect rcPart = rcSource.Intersect(CRect::FromPlace(0, 0, pixels.Width(), pixels.Height()));
+    const CRect rcIn = rcClip.Intersect(Bounds());
+    // Where the source's column or row n begins, cut at the clip before it has to fit into an int.
+    const auto Place = [nFactor](int n, int nFirst, int nStart, int nClipFrom, int nClipTo) {
+        const std::int64_t nPlace = nStart + (std::int64_t{n} - nFirst) * nFactor;
+        return static_cast<int>(std::clamp<std::int64_t>(nPlace, nClipFrom, nClipTo));
+    };
+    if (rcPart.IsEmpty() || rcIn.IsEmpty()) return;
+    const CRect rcTo{Place(rcPart.left, rcSource.left, x, rcIn.left, rcIn.right),
+                     Place(rcPart.top, rcSource.top, y, rcIn.top, rcIn.bottom),
+                     Place(rcPart.right, rcSource.left, x, rcIn.left, rcIn.right),
+                     Place(rcPart.bottom, rcSource.top, y, rcIn.top, rcIn.bottom)};
+    const CPixelView view = Open(rcTo);
+    if (view.pBits == nullptr) return;
+    const std::int64_t nSkip = std::int64_t{rcTo.left} - x;
+    const auto nColumn = static_cast<std::ptrdiff_t>(rcSource.left + nSkip / nFactor);
+    const auto nFirstRun = static_cast<int>(nFactor - nSkip % nFactor);
+    const auto nPixels = static_cast<std::size_t>(rcTo.Width());
+    std::int64_t nBuilt = -1;
+    for (int row = rcTo.top; row < rcTo.bottom; ++row) {
+        const std::int64_t nFrom = rcSource.top + (std::int64_t{row} - y) / nFactor;
+        std::uint8_t* const pTo = view.Row(row) + std::ptrdiff_t{3} * rcTo.left;
+        const std::uint8_t* const pFrom = pixels.Row(static_cast<int>(nFrom)).data() + 3 * nColumn;
+        if (nFactor == 1)
+            std::memcpy(pTo, pFrom, 3 * nPixels);
+        else if (nFrom == nBuilt)
+            std::memcpy(pTo, pTo - view.Stride(), 3 * nPixels);
+        else
+            RepeatPixels(pTo, pFrom, nPixels, nFirstRun, nFactor);
+        nBuilt = nFrom;
+    }
 }

@@ -87,18 +87,3 @@ void CSurface::DrawPart(const CPixels& pixels, const CRect& rcSource, int x, int
                     pixels.Row(static_cast<int>(row - dy)).data() + 3 * (rcTo.left - dx),
                     std::size_t{3} * static_cast<std::size_t>(rcTo.Width()));
 }
-
-void CSurface::DrawEnlarged(const CPixels& pixels, int x, int y, int nFactor, const CRect& rcClip) {
-    const CRect rcTo = CRect::FromPlace(x, y, pixels.Width() * nFactor, pixels.Height() * nFactor)
-                           .Intersect(Bounds())
-                           .Intersect(rcClip);
-    if (nFactor == 1) return DrawPart(pixels, rcTo.Offset(-x, -y), rcTo.left, rcTo.top);
-    const CPixelView view = Open(rcTo);
-    if (view.pBits == nullptr) return;
-    for (int row = rcTo.top; row < rcTo.bottom; ++row) {
-        const auto from = pixels.Row((row - y) / nFactor);
-        std::uint8_t* pTo = view.Row(row) + std::ptrdiff_t{3} * rcTo.left;
-        for (int column = rcTo.left; column < rcTo.right; ++column, pTo += 3)
-            std::memcpy(pTo, from.data() + std::ptrdiff_t{3} * ((column - x) / nFactor), 3);
-    }
-}

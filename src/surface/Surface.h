@@ -100,20 +100,14 @@ class CSurface {
     void DrawPixels(const CPixels& pixels, int x, int y);
     // The part rcSource of the pixels, its top left corner at (x, y).
     void DrawPart(const CPixels& pixels, const CRect& rcSource, int x, int y);
-    // Every pixel becomes nFactor by nFactor pixels; nFactor from 1 on.
-    void DrawEnlarged(const CPixels& pixels, int x, int y, int nFactor) {
-        DrawEnlarged(pixels, x, y, nFactor, Bounds());
-    }
-    // The same inside rcClip only.
-    void DrawEnlarged(const CPixels& pixels, int x, int y, int nFactor, const CRect& rcClip);
+    // The part rcSource of the pixels, each of them nFactor by nFactor pixels large, its top left corner at
+    // (x, y); draws only inside rcClip. nFactor from 1 on.
+    void DrawEnlarged(const CPixels& pixels, const CRect& rcSource, int x, int y, int nFactor,
+                      const CRect& rcClip);
     // Stretches the block from onto the block to: by whole factors each pixel becomes a block of that size,
     // otherwise the nearest pixel is taken. Blocks of opposite directions mirror. Draws only inside rcClip;
     // parts of the source beyond the pixels' edges draw nothing.
     void Stretch(const CPixels& pixels, const CBlock& blockFrom, const CBlock& blockTo, const CRect& rcClip);
-    // The part rcSource, every pixel nFactor by nFactor pixels large, its top left corner at (x, y), inside
-    // rcClip.
-    void DrawPartEnlarged(const CPixels& pixels, const CRect& rcSource, int x, int y, int nFactor,
-                          const CRect& rcClip);
 
   private:
     CRaster Raster() { return {m_pixels, m_rcDirty}; }

@@ -33,7 +33,8 @@ void CClientArea::DrawPicture(const CPixels& pixels, int x, int y, int nFactor) 
     const CRect rcPlace = CRect::FromPlace(x, y, pixels.Width() / nPerClient, pixels.Height() / nPerClient);
     const CRect rcTo = rcPlace.Intersect(Drawable());
     if (rcTo.IsEmpty()) return;
-    m_surface.DrawEnlarged(pixels, x * m_nDensity, y * m_nDensity, nFactor, Scale(rcTo, m_nDensity));
+    m_surface.DrawEnlarged(pixels, CRect::FromPlace(0, 0, pixels.Width(), pixels.Height()), x * m_nDensity,
+                           y * m_nDensity, nFactor, Scale(rcTo, m_nDensity));
     m_rcDamage = m_rcDamage.Union(rcTo);
 }
 

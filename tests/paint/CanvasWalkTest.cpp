@@ -136,7 +136,7 @@ class CanvasWalk : public CommandBench {
         const CPoint ptCorner = m_canvas.VisibleCorner();
         const CPoint ptOrigin = m_canvas.Origin();
         const CRect rcSeen = CRect{ptCorner.x, ptCorner.y, store.Width(), store.Height()};
-        whole.DrawPartEnlarged(store.Pixels(), rcSeen, ptOrigin.x, ptOrigin.y, nZoom, whole.Bounds());
+        whole.DrawEnlarged(store.Pixels(), rcSeen, ptOrigin.x, ptOrigin.y, nZoom, whole.Bounds());
         ASSERT_TRUE(whole.Pixels() == m_canvas.Surface().Pixels());
     }
 

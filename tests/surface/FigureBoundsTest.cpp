@@ -15,7 +15,7 @@ using CCall = std::function<void(CSurface&)>;
 constexpr int kCalls = 13;
 constexpr int kBezier = 6;
 constexpr int kDrawPart = 9;
-constexpr int kDrawPartEnlarged = 10;
+constexpr int kDrawEnlarged = 10;
 
 // One call with random places.
 CCall RandomCall(CRandom& random, const std::function<int()>& place, int nKind) {
@@ -62,8 +62,8 @@ CCall RandomCall(CRandom& random, const std::function<int()>& place, int nKind) 
             case kDrawPart:
                 surface.DrawPart(NumberedPixels(12, 9, 7), rc, n[4], n[5]);
                 break;
-            case kDrawPartEnlarged:
-                surface.DrawPartEnlarged(NumberedPixels(12, 9, 7), rc, n[4], n[5], 3, surface.Bounds());
+            case kDrawEnlarged:
+                surface.DrawEnlarged(NumberedPixels(12, 9, 7), rc, n[4], n[5], 3, surface.Bounds());
                 break;
             case 11:
                 surface.FillRegion(CRegion::MakeRectangle(rc), kInk);
@@ -90,7 +90,7 @@ TEST(FigureBounds, ACutFigureIsAPartOfTheWhole) {
     for (int nRound = 0; nRound < 2600; ++nRound) {
         const int nKind = nRound % kCalls;
         // The source of a copy would not move along.
-        if (nKind == kDrawPart || nKind == kDrawPartEnlarged) continue;
+        if (nKind == kDrawPart || nKind == kDrawEnlarged) continue;
         // How a curve is flattened hangs on where it lies, so it stays.
         const int nOffset = nKind == kBezier ? 0 : 60;
         CRandom same = random;
@@ -187,11 +187,10 @@ TEST(FigureBounds, StretchedBlocksAreReplicatedPixels) {
         ASSERT_EQ(stretched.Pixels(), expected.Pixels()) << nRound;
         if (nSignX < 0 || nSignY < 0) continue;
         CSurface enlarged = White(30, 30);
-        enlarged.DrawPartEnlarged(
-            pixels,
-            CRect::FromPlace(static_cast<int>(from.x), static_cast<int>(from.y),
-                             static_cast<int>(from.nWidth), static_cast<int>(from.nHeight)),
-            static_cast<int>(to.x), static_cast<int>(to.y), nFactor, rcClip);
+        enlarged.DrawEnlarged(pixels,
+                              CRect::FromPlace(static_cast<int>(from.x), static_cast<int>(from.y),
+                                               static_cast<int>(from.nWidth), static_cast<int>(from.nHeight)),
+                              static_cast<int>(to.x), static_cast<int>(to.y), nFactor, rcClip);
         ASSERT_EQ(enlarged.Pixels(), expected.Pixels()) << nRound;
     }
 }

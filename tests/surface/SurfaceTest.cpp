@@ -61,7 +61,6 @@ TEST(Surface, CopiesOfPartsAgreeWithAPixelByPixelCopy) {
         const CRect rcSource{pick(-3, 9), pick(-3, 7), pick(-3, 12), pick(-3, 10)};
         const int x0 = pick(-12, 14);
         const int y0 = pick(-12, 12);
-        const int nFactor = pick(1, 3);
         CSurface part(12, 10);
         part.DrawPart(pixels, rcSource, x0, y0);
         ExpectPixels(part, [&](int x, int y) {
@@ -69,12 +68,19 @@ TEST(Surface, CopiesOfPartsAgreeWithAPixelByPixelCopy) {
             const bool bIn = rcSource.Contains(pt) && CRect{0, 0, 9, 7}.Contains(pt);
             return bIn ? PixelAt(pixels, pt.x, pt.y) : kBlack;
         });
+        const int nFactor = pick(1, 6);
+        const CRect rcClip{pick(-3, 9), pick(-3, 7), pick(3, 15), pick(3, 13)};
         CSurface enlarged(12, 10);
-        enlarged.DrawEnlarged(pixels, x0, y0, nFactor);
+        enlarged.DrawEnlarged(pixels, rcSource, x0, y0, nFactor, rcClip);
+        CRect rcDrawn;
         ExpectPixels(enlarged, [&](int x, int y) {
-            const bool bIn = CRect::FromPlace(x0, y0, 9 * nFactor, 7 * nFactor).Contains({x, y});
-            return bIn ? PixelAt(pixels, (x - x0) / nFactor, (y - y0) / nFactor) : kBlack;
+            if (x < x0 || y < y0 || !rcClip.Contains({x, y})) return kBlack;
+            const CPoint pt{rcSource.left + (x - x0) / nFactor, rcSource.top + (y - y0) / nFactor};
+            if (!rcSource.Contains(pt) || !CRect{0, 0, 9, 7}.Contains(pt)) return kBlack;
+            rcDrawn = rcDrawn.Union({x, y, x + 1, y + 1});
+            return PixelAt(pixels, pt.x, pt.y);
         });
+        EXPECT_EQ(enlarged.TakeDirty(), rcDrawn);
         if (HasFatalFailure()) return;
     }
 }

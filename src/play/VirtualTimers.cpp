@@ -6,7 +6,7 @@
 
 void CVirtualTimers::SetTimer(CTimerTarget& target, int nTimer, int nMilliseconds) {
     KillTimer(target, nTimer);
-    const int nPeriod = std::max(0, nMilliseconds);
+    const int nPeriod = std::max(nMilliseconds, kLeastPeriod);
     m_arrTimers.push_back({&target, nTimer, nPeriod, m_nNow + nPeriod, m_nNextOrder++});
 }
 
@@ -36,7 +36,7 @@ bool CVirtualTimers::FireUntil(std::int64_t nEnd) {
     // The target may kill this timer or set others: nothing of the list is touched behind the call.
     CTimerTarget& target = *it->pTarget;
     const int nTimer = it->nTimer;
-    it->nDue += std::max(1, it->nPeriod);
+    it->nDue += it->nPeriod;
     target.OnTimer(nTimer);
     if (m_fnTicked) m_fnTicked();
     return true;

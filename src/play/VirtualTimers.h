@@ -10,7 +10,6 @@
 // the order in which they are due, those due at the same time in the order in which they were set.
 class CVirtualTimers : public CTimers {
   public:
-    // A timer of 0 milliseconds ticks at once and from then on every millisecond.
     void SetTimer(CTimerTarget& target, int nTimer, int nMilliseconds) override;
     void KillTimer(CTimerTarget& target, int nTimer) override;
     // What a window does to its timers when it goes.

@@ -1,5 +1,7 @@
 #include "qt/QtTimers.h"
 
+#include <algorithm>
+
 void CQtTimers::CDeleteLater::operator()(QTimer* pTimer) const {
     pTimer->stop();
     pTimer->disconnect();
@@ -9,7 +11,7 @@ void CQtTimers::CDeleteLater::operator()(QTimer* pTimer) const {
 void CQtTimers::SetTimer(CTimerTarget& target, int nTimer, int nMilliseconds) {
     std::unique_ptr<QTimer, CDeleteLater> pTimer(std::make_unique<QTimer>().release());
     pTimer->setTimerType(Qt::PreciseTimer);
-    pTimer->setInterval(nMilliseconds);
+    pTimer->setInterval(std::max(nMilliseconds, kLeastPeriod));
     QObject::connect(pTimer.get(), &QTimer::timeout, pTimer.get(),
                      [&target, nTimer] { target.OnTimer(nTimer); });
     pTimer->start();

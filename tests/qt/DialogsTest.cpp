@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QElapsedTimer>
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
@@ -84,6 +85,19 @@ TEST(Timers, RunUntilKilledAndStartAnew) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return arrTicks.size() == 3; }, 2000));
     QTest::qWait(30);
     EXPECT_EQ(arrTicks, (std::vector{3, 4, 3}));
+}
+
+// An idle program does not run its timers faster than the shortest period, a first tick at once included.
+TEST(Timers, KeepTheShortestPeriod) {
+    CTestPlatform test;
+    CTestDialog dialog(kDialog);
+    int nTicks = 0;
+    dialog.m_fnTimer = [&](int) { ++nTicks; };
+    QElapsedTimer clock;
+    clock.start();
+    test.platform.timers.SetTimer(dialog, 1, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return nTicks >= 15; }, 5000));
+    EXPECT_GE(clock.elapsed(), 14 * CTimers::kLeastPeriod);
 }
 
 TEST(Timers, EndWithTheirDialog) {

@@ -78,7 +78,8 @@ void EffectAlone(benchmark::State& state) {
     const int nEffect = static_cast<int>(state.range(0));
     const CEffectRow& row = RowOf(nEffect);
     const int nLevel = CEffectFlow::LevelOf(row.nMin, row.nMax, TellingPosition(nEffect));
-    CImageEffect engine;
+    CRandomSequence random;
+    CImageEffect engine(random);
     for (auto _ : state) {
         CxImage image(picture);
         engine.ApplyEffect(image, nEffect, nLevel, false, image.GetWidth());

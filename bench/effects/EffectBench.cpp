@@ -71,7 +71,8 @@ void Run(benchmark::State& state, const CEffectBenchRow& row, bool bPlain) {
     const double fPass = PlainPassTime();
     std::optional<CPlainLoops> plain;
     if (bPlain) plain.emplace();
-    CImageEffect engine;
+    CRandomSequence random;
+    CImageEffect engine(random);
     double fLeast = 1e9;
     for (auto _ : state) {
         const double fStart = Now();

@@ -3,8 +3,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <random>
-
 #include "paint/MySCrollView.h"
 
 namespace {
@@ -13,9 +11,10 @@ constexpr CSize kPicture{3200, 2400};
 constexpr CSize kSixteenTimes{12800, 9600};
 
 // A canvas in DRAW with the history of one step that a stroke begins with.
-class CBenchCanvas : private CCanvasHost, private CPaintHost, private CRandomSource, private CTimers {
+class CBenchCanvas : private CCanvasHost, private CPaintHost, private CTimers {
   public:
-    explicit CBenchCanvas(CSize size) : m_canvas({m_state, m_images, m_tools, *this, *this, *this, *this}) {
+    explicit CBenchCanvas(CSize size)
+        : m_canvas({m_state, m_images, m_tools, *this, *this, *this, m_random}) {
         CPixels pixels;
         pixels.CreateFilled(size.cx, size.cy, {255, 255, 255});
         CxImage image;
@@ -51,15 +50,14 @@ class CBenchCanvas : private CCanvasHost, private CPaintHost, private CRandomSou
     }
     void EnableSelectionCommands(bool /*bEnable*/) override {}
     void PickColor(bool /*bForeground*/, CColor /*color*/) override {}
-    int Next() override { return static_cast<int>(m_random() >> 1); }
     void SetTimer(CTimerTarget& /*target*/, int /*nTimer*/, int /*nMilliseconds*/) override {}
     void KillTimer(CTimerTarget& /*target*/, int /*nTimer*/) override {}
 
     CEditState m_state;
     CWorkingImages m_images;
     CToolState m_tools;
+    CRandomSequence m_random;
     CMySCrollView m_canvas;
-    std::mt19937 m_random;
 };
 
 CBenchCanvas& Canvas(bool bLarge) {

@@ -22,8 +22,8 @@ CMainDlg::CMainDlg(const CPlatform& platform)
       m_skin(m_state, Controls(), platform.timers, *this, *this),
       m_thum(platform.drives, {Controls(), platform.folders, platform.shell, platform.boxes, platform.timers,
                                platform.wait, platform.bitmaps, *this}),
-      m_effects(
-          {m_state, m_images, Controls(), m_canvas, *this, *this, platform.wait, platform.boxes, m_editor}),
+      m_effects({m_state, m_images, Controls(), m_canvas, *this, *this, platform.wait, platform.boxes,
+                 m_editor, m_random}),
       m_modes({m_state, m_images, Controls(), m_canvas, m_tools, m_editor, m_lines, m_thum, m_effects,
                m_textArt, m_link, platform.wait}) {}
 

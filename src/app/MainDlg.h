@@ -4,7 +4,6 @@
 
 #include "app/MainSkin.h"
 #include "app/ModeSwitch.h"
-#include "app/ProcessRandom.h"
 #include "app/StatusLines.h"
 #include "browse/ThumPanel.h"
 #include "compose/FrameFlow.h"
@@ -44,6 +43,8 @@ class CMainDlg : public CDialog,
     CMySCrollView& Canvas() { return m_canvas; }
     CThumPanel& Thum() { return m_thum; }
     CEffectFlow& Effects() { return m_effects; }
+    // Starts the random numbers of effects and airbrush anew, for runs that can be repeated.
+    void Seed(std::uint32_t nSeed) { m_random.Seed(nSeed); }
 
     // A double click on a picture file in the file list.
     void OpenFileByName(const std::string& strFolder, const std::string& strName);
@@ -118,7 +119,8 @@ class CMainDlg : public CDialog,
     CEditState m_state;
     CWorkingImages m_images;
     CToolState m_toolState;
-    CProcessRandom m_random;
+    // The one sequence of the process: effects and airbrush draw from it in turn, and only Seed seeds it.
+    CRandomSequence m_random;
     CMySCrollView m_canvas;
     CToolController m_tools;
     CEditor m_editor;

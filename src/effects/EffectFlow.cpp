@@ -37,7 +37,8 @@ const CEffectRow& RowOf(int nEffect) {
 
 }  // namespace
 
-CEffectFlow::CEffectFlow(const CEnvironment& env) : m_env(env), m_list(env.controls, kEffectList) {}
+CEffectFlow::CEffectFlow(const CEnvironment& env)
+    : m_env(env), m_engine(env.random), m_list(env.controls, kEffectList) {}
 
 void CEffectFlow::Init() {
     std::vector<std::string> arrCells;

@@ -35,6 +35,7 @@ class CEffectFlow {
         CWaitCursor& wait;
         CMessageBoxes& boxes;
         CEditor& editor;
+        CRandomSequence& random;
     };
     explicit CEffectFlow(const CEnvironment& env);
 
@@ -55,8 +56,6 @@ class CEffectFlow {
     void OnConfirm();
     void OnCancel();
 
-    // Starts the random numbers of the effects anew; for repeatable runs.
-    void Seed(std::uint32_t nSeed) { m_engine.Seed(nSeed); }
     int Effect() const { return m_nEffectIndex; }
     int Level() const { return m_nEffectLevel; }
     // The preview as shown; null if there is none.

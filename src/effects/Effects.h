@@ -1,7 +1,7 @@
 #pragma once
 
-#include "effects/RandomSequence.h"
 #include "image/Image.h"
+#include "image/RandomSequence.h"
 
 // One call of an effect. src and dst have the same size, at least 1 by 1, and are different memory; the
 // effect writes every pixel of dst. Both have 64 bytes behind their last pixel that may be touched. Rows are

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-#include "effects/RandomSequence.h"
+#include "image/RandomSequence.h"
 
 // Gives the numbers that a random sequence has given before, from the last one backwards, batch by batch.
 // Going back, a word is a difference of two that lie far behind it, so whole vectors of them are made at a

@@ -30,7 +30,7 @@ class CMySCrollView : public CScrollView, public CCanvasPort, public CToolCanvas
         CCanvasHost& host;
         CPaintHost& paint;
         CTimers& timers;
-        CRandomSource& random;
+        CRandomSequence& random;
     };
     explicit CMySCrollView(const CEnvironment& env);
 

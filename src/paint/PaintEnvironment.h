@@ -1,9 +1,9 @@
 #pragma once
 
+#include "image/RandomSequence.h"
 #include "paint/Hand.h"
 #include "paint/PaintHost.h"
 #include "paint/Paper.h"
-#include "paint/RandomSource.h"
 #include "paint/Selection.h"
 #include "paint/ToolState.h"
 #include "window/Timers.h"
@@ -18,7 +18,7 @@ struct CPaintEnvironment {
     const CToolState& options;
     CSelection& selection;
     CPaintHost& host;
-    CRandomSource& random;
+    CRandomSequence& random;
     CTimers& timers;
     CTimerTarget& canvas;
 

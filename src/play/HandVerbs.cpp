@@ -160,7 +160,7 @@ std::string Tick(CStage& stage, const CWords& arrWords) {
 std::string Seed(CStage& stage, const CWords& arrWords) {
     const std::optional<int> nSeed = ParseNumber(arrWords[0]);
     if (!nSeed || *nSeed < 0) return NotA(arrWords[0], "seed");
-    stage.dialog.Effects().Seed(static_cast<std::uint32_t>(*nSeed));
+    stage.dialog.Seed(static_cast<std::uint32_t>(*nSeed));
     return {};
 }
 
@@ -179,8 +179,8 @@ constexpr CVerb kVerbs[] = {
      "Moves the slider of the effect's level. Its top, the highest level, is the lowest position.",
      "slider -20"},
     {"seed", "N", 1, 1, Seed,
-     "Starts the random numbers of the effects anew, so that a run can be repeated. The program starts with "
-     "those of seed 1.",
+     "Starts the random numbers of the effects and of the airbrush anew, so that a run can be repeated. The "
+     "program starts with those of seed 1.",
      "seed 7"},
     {"check", "ID", 1, 1, Check, "Clicks a check box or a radio button.", "check 1188"},
     {"text", "ID STRING", 2, 2, Text,

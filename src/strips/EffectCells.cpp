@@ -90,7 +90,8 @@ QImage RenderContactSheet(const CxImage& image) {
         const int x = kGap + nEffect % kColumns * (kPicture.width() + kGap);
         const int y = kGap + nEffect / kColumns * (kPicture.height() + kGap + kCaption);
         CxImage work = ToEngine(base);
-        CImageEffect engine;
+        CRandomSequence random;
+        CImageEffect engine(random);
         const int nLevel = CEffectSamples::LevelOf(nEffect);
         if (!engine.ApplyEffect(work, nEffect, nLevel, false, base.width() * 2)) return {};
         painter.drawImage(x + (kPicture.width() - base.width()) / 2, y, FromEngine(work));

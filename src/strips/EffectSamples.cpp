@@ -120,8 +120,9 @@ std::optional<QImage> CEffectSamples::Render(int nEffect, QSize size) {
     const QImage part = pPhotograph->copy(PlaceOf(*look.pPart, pPhotograph->size(), size))
                             .scaled(sizeWork, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     CxImage image = ToEngine(part);
-    // An engine of its own: random effects come out the same whatever was rendered before.
-    CImageEffect engine;
+    // Random numbers of its own: random effects come out the same whatever was rendered before.
+    CRandomSequence random;
+    CImageEffect engine(random);
     if (!engine.ApplyEffect(image, nEffect, look.nLevel, false, look.nRefWidth)) return std::nullopt;
     return FromEngine(image).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

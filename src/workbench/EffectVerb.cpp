@@ -75,8 +75,9 @@ CVerbResult RunEffectVerb(std::span<const std::string> words) {
     if (!picture.strError.empty()) return CannotBeDone(job.strIn + " " + picture.strError);
     CxImage image;
     image.CreateFromHBITMAP(std::move(picture.pixels));
-    CImageEffect engine;
-    if (job.nSeed) engine.Seed(*job.nSeed);
+    CRandomSequence random;
+    if (job.nSeed) random.Seed(*job.nSeed);
+    CImageEffect engine(random);
     const int nFullWidth = job.nFullWidth > 0 ? job.nFullWidth : image.GetWidth();
     if (!engine.ApplyEffect(image, job.nEffect, job.nLevel, false, nFullWidth))
         return CannotBeDone("there is no memory for " + job.strIn);

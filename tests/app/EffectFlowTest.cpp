@@ -16,8 +16,8 @@ class EffectFlowTest : public Workshop {
     void Choose(int nEffect) { EXPECT_EQ(m_host.SelectRow(kEffectList, nEffect), ""); }
     void Slide(int nPos) { EXPECT_EQ(m_host.MoveSlider(kEffectSlider, nPos), ""); }
     void Seed(unsigned nSeed) {
-        m_dialog.Effects().Seed(nSeed);
-        m_engine.Seed(nSeed);
+        m_dialog.Seed(nSeed);
+        m_random.Seed(nSeed);
     }
     // The position of a level on the slider as it is now.
     int PositionOf(int nLevel) {
@@ -60,7 +60,8 @@ class EffectFlowTest : public Workshop {
     }
     CColor WindowPixel(int x, int y) { return m_dialog.Client().Surface().GetPixel(x, y); }
 
-    CImageEffect m_engine;
+    CRandomSequence m_random;
+    CImageEffect m_engine{m_random};
 };
 
 }  // namespace

@@ -18,7 +18,9 @@ CxImage NoiseImage(int nWidth, int nHeight, unsigned nSeed) {
     return image;
 }
 
-CxImage Applied(CxImage image, int nEffect, int nLevel, CImageEffect engine = {}) {
+CxImage Applied(CxImage image, int nEffect, int nLevel) {
+    CRandomSequence random;
+    CImageEffect engine(random);
     EXPECT_TRUE(engine.ApplyEffect(image, nEffect, nLevel, false, image.GetWidth()));
     return image;
 }
@@ -60,7 +62,8 @@ TEST(Engine, LeavesThePictureForNumbersThatAreNoEffect) {
     for (const int nNumber : {-1, 31, INT_MIN, INT_MAX})
         EXPECT_EQ(Applied(src, nNumber, 50).Pixels(), src.Pixels()) << nNumber;
     CxImage empty;
-    EXPECT_TRUE(CImageEffect().ApplyEffect(empty, kNegative, 0, true, 0));
+    CRandomSequence random;
+    EXPECT_TRUE(CImageEffect(random).ApplyEffect(empty, kNegative, 0, true, 0));
     EXPECT_FALSE(empty.IsValid());
 }
 
@@ -80,7 +83,8 @@ TEST(Engine, KeepsAlphaAndLeavesEveryCopyAlone) {
 
 TEST(Engine, KnowsTheFullWidthFromTheLastPreview) {
     const CxImage src = NoiseImage(60, 50, 4);
-    CImageEffect engine;
+    CRandomSequence random;
+    CImageEffect engine(random);
     CxImage preview = src;
     EXPECT_TRUE(engine.ApplyEffect(preview, kLaminate, 4, false, 240));  // blocks of 10 pixels
     CxImage full = src;
@@ -95,7 +99,7 @@ TEST(Engine, KnowsTheFullWidthFromTheLastPreview) {
     EXPECT_TRUE(engine.ApplyEffect(own, kLaminate, 1, false, 60));
     for (const int nRefWidth : {0, -5}) {
         CxImage other = src;
-        EXPECT_TRUE(CImageEffect().ApplyEffect(other, kLaminate, 1, false, nRefWidth));
+        EXPECT_TRUE(CImageEffect(random).ApplyEffect(other, kLaminate, 1, false, nRefWidth));
         EXPECT_EQ(other.Pixels(), own.Pixels()) << nRefWidth;
     }
 }
@@ -103,13 +107,14 @@ TEST(Engine, KnowsTheFullWidthFromTheLastPreview) {
 TEST(Engine, GoesOnInItsRandomNumbersUntilItIsSeeded) {
     const CxImage src = NoiseImage(60, 50, 5);
     for (const int nNumber : {kOilPainting, kTile}) {
-        CImageEffect engine;
+        CRandomSequence random;
+        CImageEffect engine(random);
         CxImage first = src;
         CxImage second = src;
         CxImage third = src;
         engine.ApplyEffect(first, nNumber, 5, false, 200);
         engine.ApplyEffect(second, nNumber, 5, true, 200);
-        engine.Seed(1);
+        random.Seed(1);
         engine.ApplyEffect(third, nNumber, 5, true, 200);
         EXPECT_NE(first.Pixels(), second.Pixels()) << nNumber;
         EXPECT_EQ(first.Pixels(), third.Pixels()) << nNumber;

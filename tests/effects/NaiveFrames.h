@@ -1,7 +1,7 @@
 #pragma once
 
-#include "effects/RandomSequence.h"
 #include "image/Image.h"
+#include "image/RandomSequence.h"
 
 // The picture and frame effects in their plainest form: whole planes, one pixel at a time, one value after
 // the other as the effect tells it. Slow, and the measure of the fast ones.

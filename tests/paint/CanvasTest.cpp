@@ -8,14 +8,13 @@ namespace {
 constexpr CColor kGround = CMySCrollView::kGround;
 constexpr CColor kFrame{0, 0, 0};
 
-class Canvas : public testing::Test, public CCanvasHost, public CPaintHost, CRandomSource, CTimers {
+class Canvas : public testing::Test, public CCanvasHost, public CPaintHost, CTimers {
   protected:
-    Canvas() : m_canvas({m_state, m_images, m_tools, *this, *this, *this, *this}) {}
+    Canvas() : m_canvas({m_state, m_images, m_tools, *this, *this, *this, m_random}) {}
 
     bool BeginChange() override { return true; }
     void EnableSelectionCommands(bool) override {}
     void PickColor(bool, CColor) override {}
-    int Next() override { return 0; }
     void SetTimer(CTimerTarget&, int, int) override {}
     void KillTimer(CTimerTarget&, int) override {}
 
@@ -57,6 +56,7 @@ class Canvas : public testing::Test, public CCanvasHost, public CPaintHost, CRan
     CEditState m_state;
     CWorkingImages m_images;
     CToolState m_tools;
+    CRandomSequence m_random;
     CMySCrollView m_canvas;
     int m_nPainted = 0;
     int m_nMenus = 0;

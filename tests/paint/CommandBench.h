@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,7 +16,6 @@
 class CommandBench : public testing::Test,
                      private CCanvasHost,
                      private CPaintHost,
-                     private CRandomSource,
                      private CTimers,
                      private CToolPort,
                      private CEditorHost,
@@ -30,7 +28,7 @@ class CommandBench : public testing::Test,
 
     CommandBench()
         : m_controls(kMainDialog.arrControls),
-          m_canvas({m_state, m_images, m_tools, *this, *this, *this, *this}),
+          m_canvas({m_state, m_images, m_tools, *this, *this, *this, m_random}),
           m_editor({m_state, m_images, m_controls, m_canvas, *this, *this, *this, *this}),
           m_commands({m_state, m_images, m_controls, m_canvas, m_tools, m_editor, *this, *this, *this}) {}
 
@@ -113,6 +111,7 @@ class CommandBench : public testing::Test,
     CWorkingImages m_images;
     CControlSet m_controls;
     CToolState m_tools;
+    CRandomSequence m_random;
     CMySCrollView m_canvas;
     CEditor m_editor;
     CClipboardCommands m_commands;
@@ -131,7 +130,6 @@ class CommandBench : public testing::Test,
     void PickColor(bool bForeground, CColor color) override {
         (bForeground ? m_tools.m_crForeground : m_tools.m_crBackground) = color;
     }
-    int Next() override { return std::rand(); }
     void SetTimer(CTimerTarget& /*target*/, int /*nTimer*/, int /*nMilliseconds*/) override {
         m_bTimer = true;
     }

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -11,11 +9,7 @@
 #include "support/Pictures.h"
 
 // A canvas in DRAW with a white picture, and around it a program that only remembers what it was asked.
-class ToolBench : public testing::Test,
-                  private CCanvasHost,
-                  private CPaintHost,
-                  private CRandomSource,
-                  private CTimers {
+class ToolBench : public testing::Test, private CCanvasHost, private CPaintHost, private CTimers {
   protected:
     static constexpr CColor kWhite{255, 255, 255};
     static constexpr CColor kFore{200, 10, 20};
@@ -23,7 +17,7 @@ class ToolBench : public testing::Test,
     static constexpr EMouseButton kLeft = EMouseButton::Left;
     static constexpr EMouseButton kRight = EMouseButton::Right;
 
-    ToolBench() : m_canvas({m_state, m_images, m_tools, *this, *this, *this, *this}) {
+    ToolBench() : m_canvas({m_state, m_images, m_tools, *this, *this, *this, m_random}) {
         m_tools.m_crForeground = kFore;
         m_tools.m_crBackground = kBack;
         Open(60, 50);
@@ -119,16 +113,14 @@ class ToolBench : public testing::Test,
     CEditState m_state;
     CWorkingImages m_images;
     CToolState m_tools;
+    CRandomSequence m_random;
     CMySCrollView m_canvas;
     std::vector<CPixels> m_arrSteps;  // the picture at each snapshot
     bool m_bNoMemory = false;
     bool m_bSelectionCommands = false;
     bool m_bTimer = false;
-    std::deque<int> m_arrRandom;  // what the sequence gives first
 
   private:
-    std::minstd_rand m_random;
-
     void OnCanvasPainted() override {}
     void OnPictureMenu() override {}
     bool BeginChange() override {
@@ -139,12 +131,6 @@ class ToolBench : public testing::Test,
     void EnableSelectionCommands(bool bEnable) override { m_bSelectionCommands = bEnable; }
     void PickColor(bool bForeground, CColor color) override {
         (bForeground ? m_tools.m_crForeground : m_tools.m_crBackground) = color;
-    }
-    int Next() override {
-        if (m_arrRandom.empty()) return static_cast<int>(m_random() >> 1);
-        const int n = m_arrRandom.front();
-        m_arrRandom.pop_front();
-        return n;
     }
     void SetTimer(CTimerTarget& /*target*/, int nTimer, int nMilliseconds) override {
         EXPECT_EQ(nTimer, 1);

@@ -38,8 +38,9 @@ class Workbench : public testing::Test {
 CPixels Expected(const CPixels& src, int nEffect, int nLevel, int nRefWidth, std::uint32_t nSeed) {
     CxImage image;
     image.CreateFromHBITMAP(src);
-    CImageEffect engine;
-    engine.Seed(nSeed);
+    CRandomSequence random;
+    random.Seed(nSeed);
+    CImageEffect engine(random);
     engine.ApplyEffect(image, nEffect, nLevel, false, nRefWidth);
     return image.Pixels();
 }

@@ -1,4 +1,4 @@
-#include "effects/RandomSequence.h"
+#include "image/RandomSequence.h"
 
 #include <algorithm>
 #include <bit>

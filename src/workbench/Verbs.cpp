@@ -11,6 +11,21 @@ constexpr CVerb kVerbs[] = {
      "    --full-width N   the picture is a preview of one N pixels wide; else it is the full picture\n"
      "    --seed N         where the random numbers start; 1 as in the program without it\n",
      RunEffectVerb},
+    {"figures", "CASES OUT",
+     "    Draws the figures of a text file, each on a small white picture, and writes every case with its\n"
+     "    answer and its rows of pixels: . white, P the pen's colour, B the brush's. Answers and rows that\n"
+     "    stand in CASES are passed over. A case is one line, ID KIND W H PW BRUSH and what the kind takes;\n"
+     "    PW is the pen's width, 0 for none, BRUSH is hollow, solid or none. Boxes are l t r b.\n"
+     "      LINE x0 y0 x1 y1    POLYLINE n x y ...    POLYGON n x y ...    BEZIER four points\n"
+     "      RECT box            ELLIPSE box           ROUNDRECT box ew eh  FILLRECT box\n"
+     "      FLOOD x y C k shapes       LINE, RECT or ELLIPSE k times, then a fill of the colour C: W, P, B,\n"
+     "                                 or A for the one found there\n"
+     "      DOTTED STYLE BK GROUND SHAPE ...   dot, dash, dashdot or dashdotdot; opaque or transparent;\n"
+     "                                 white or brush; LINE, RECT, ELLIPSE, POLYLINE n ... or LINETO n ...\n"
+     "      RGNPOLY n x y ...   RGNELL box   RGNRECT box        FILLRGN POLY n ..., ELL box or RECT box\n"
+     "      STRETCH sw sh ROWS dx dy dw dh sx sy sW sH   a picture of sw by sh, rows parted by /, of which\n"
+     "                                 the block sx sy sW sH is stretched onto the block dx dy dw dh\n",
+     RunFiguresVerb},
 };
 
 }  // namespace

@@ -25,5 +25,6 @@ std::span<const CVerb> AllVerbs();
 std::optional<long long> ParseNumber(const std::string& strWord, long long nMin, long long nMax);
 
 CVerbResult RunEffectVerb(std::span<const std::string> words);
+CVerbResult RunFiguresVerb(std::span<const std::string> words);
 // Lines that name the effects with their numbers and levels.
 std::string EffectList();

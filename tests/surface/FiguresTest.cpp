@@ -82,25 +82,27 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair("RGNRECT", 8), std::pair("FILLRGN", 15), std::pair("STRETCH", 17)),
     [](const auto& kind) { return std::string(kind.param.first); });
 
-// The file's own text comes back, from it as it stands and from its case lines alone.
-TEST(FiguresCommand, WritesTheFormatThatItReads) {
-    const CTempFolder folder;
+// The file's own text comes back, from it as it stands and from case lines alone.
+TEST(FiguresText, IsTheFormatThatIsRead) {
+    const auto Drawn = [](const std::string& strCases) {
+        std::istringstream in(strCases);
+        std::ostringstream out;
+        std::string strError;
+        EXPECT_TRUE(DrawFigures(in, out, strError)) << strError;
+        return out.str();
+    };
     const std::string strFile = ReadBytes(FileName());
+    EXPECT_TRUE(Drawn(strFile) == strFile);
     std::string strCases = "# comment\r\n\n";
-    for (const auto& [strKind, vectors] : Vectors()) strCases += vectors.front().strCase + "\r\n";
     std::string strExpected;
-    for (const auto& [strKind, vectors] : Vectors())
+    for (const auto& [strKind, vectors] : Vectors()) {
+        strCases += vectors.front().strCase + "\r\n";
         strExpected += vectors.front().strCase + "\n" + vectors.front().strText;
-    const std::string strAnswer = folder.Path("answer.txt");
-    const std::string whole[] = {FileName(), strAnswer};
-    EXPECT_EQ(RunFigures(whole), 0);
-    EXPECT_TRUE(ReadBytes(strAnswer) == strFile);
-    const std::string alone[] = {folder.Write("cases.txt", strCases), strAnswer};
-    EXPECT_EQ(RunFigures(alone), 0);
-    EXPECT_EQ(ReadBytes(strAnswer), strExpected);
+    }
+    EXPECT_EQ(Drawn(strCases), strExpected);
 }
 
-TEST(FiguresCommand, SaysWhichLineIsNoCase) {
+TEST(FiguresText, SaysWhichLineIsNoCase) {
     for (const char* const szLine :
          {"A LINE 9 9 1 hollow 1 2 3", "A LINE 9 9 1 hollow 1 2 3 x", "A LINE 9 9 1 hollow 1 2 3 4 5",
           "A LINE 0 9 1 hollow 1 2 3 4", "A LINE 100000 100000 1 hollow 1 2 3 4",

@@ -120,10 +120,37 @@ TEST_F(Workbench, TellsAFileThatCannotBeUsed) {
     EXPECT_EQ(PixelAt(Written("out.ppm"), 2, 1), (CColor{255 - 'x', 255 - 'x', 255 - 'x'}));
 }
 
-TEST_F(Workbench, HelpNamesEveryEffect) {
+TEST_F(Workbench, HelpNamesEveryVerbAndEffect) {
     EXPECT_EQ(Run({"--help"}), kDone);
     for (const CEffectRow& row : kEffects) EXPECT_NE(m_strOut.find(row.szLabel), std::string::npos);
     EXPECT_NE(m_strOut.find("effect ID LEVEL IN.ppm OUT.ppm [--full-width N] [--seed N]"), std::string::npos);
+    EXPECT_NE(m_strOut.find("figures CASES OUT"), std::string::npos);
+}
+
+TEST_F(Workbench, DrawsFiguresFromText) {
+    m_folder.Write("cases",
+                   "# A comment, and a row that is no case\r\n...\nL1 LINE 4 2 1 hollow 0 0 3 0\n= ret 9\n"
+                   "R1 RECT 4 3 1 solid 0 0 4 3\n\nE1 RGNRECT 3 2 0 none 1 0 3 1");
+    ASSERT_EQ(Run({"figures", "@cases", "@out"}), kDone) << m_strError;
+    EXPECT_EQ(ReadBytes(m_folder.Path("out")),
+              "L1 LINE 4 2 1 hollow 0 0 3 0\n= ret 1\nPPP.\n....\n"
+              "R1 RECT 4 3 1 solid 0 0 4 3\n= ret 1\nPPPP\nPBBP\nPPPP\n"
+              "E1 RGNRECT 3 2 0 none 1 0 3 1\n= box 2 1 0 3 1\n.BB\n...\n");
+    // What it has written are cases again, with the same figures.
+    ASSERT_EQ(Run({"figures", "@out", "@again"}), kDone) << m_strError;
+    EXPECT_EQ(ReadBytes(m_folder.Path("again")), ReadBytes(m_folder.Path("out")));
+
+    m_folder.Write("cases", "L1 LINE 4 2 1 hollow 0 0 3 0\nL2 LINE 4 2 1 hollow 0 0 3");
+    EXPECT_EQ(Run({"figures", "@cases", "@none"}), kCannotBeDone);
+    EXPECT_EQ(m_strError,
+              "workbench: " + m_folder.Path("cases") + " line 2: unknown kind, or wrong arguments\n");
+    EXPECT_EQ(Run({"figures", "@no", "@none"}), kCannotBeDone);
+    EXPECT_EQ(m_strError, "workbench: " + m_folder.Path("no") + " cannot be read\n");
+    EXPECT_EQ(Run({"figures", "@out", "@no/none"}), kCannotBeDone);
+    EXPECT_EQ(m_strError, "workbench: " + m_folder.Path("no/none") + " cannot be written\n");
+    EXPECT_EQ(Run({"figures", "@cases"}), kWrongCall);
+    EXPECT_EQ(m_strError, "workbench: it is figures CASES OUT\n");
+    EXPECT_EQ(m_folder.Names(), (std::set<std::string>{"again", "cases", "out"}));
 }
 
 // The program itself hands its words on and gives the status back.

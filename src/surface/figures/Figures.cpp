@@ -1,8 +1,6 @@
 #include "surface/figures/Figures.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iostream>
 #include <sstream>
 #include <vector>
 
@@ -242,25 +240,4 @@ bool DrawFigures(std::istream& in, std::ostream& out, std::string& strError) {
         out << strLine << '\n' << figure->Text();
     }
     return true;
-}
-
-int RunFigures(std::span<const std::string> words) {
-    if (words.size() != 2) {
-        std::cerr << "figures CASES OUT\n";
-        return 2;
-    }
-    std::ifstream in(words[0]);
-    if (!in) {
-        std::cerr << words[0] << ": cannot be read\n";
-        return 1;
-    }
-    std::ofstream out(words[1]);
-    std::string strError;
-    if (!DrawFigures(in, out, strError)) {
-        std::cerr << words[0] << ": " << strError << '\n';
-        return 1;
-    }
-    if (out.flush()) return 0;
-    std::cerr << words[1] << ": cannot be written\n";
-    return 1;
 }

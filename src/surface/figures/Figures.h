@@ -18,9 +18,8 @@
 //     LINE x0 y0 x1 y1            POLYLINE n x y ...           POLYGON n x y ...
 //     RECT l t r b                ELLIPSE l t r b              ROUNDRECT l t r b ew eh
 //     BEZIER four points          FILLRECT l t r b
-//     FLOOD x y C k shapes        k shapes LINE, RECT or ELLIPSE with four numbers, then a fill from x y of
-//     the
-//                                 colour C: W white, P pen, B brush, A what is found there
+//     FLOOD x y C k shapes        k shapes LINE, RECT or ELLIPSE with four numbers, then a fill from x
+//                                 y of the colour C: W white, P pen, B brush, A what is found there
 //     DOTTED STYLE BK GROUND SHAPE ...
 //                                 style dot, dash, dashdot, dashdotdot; BK opaque or transparent; ground
 //                                 white or brush; shape LINE, RECT, ELLIPSE, POLYLINE n ..., LINETO n ...
@@ -48,7 +47,3 @@ bool IsFigureCase(const std::string& strLine);
 // Draws the cases of a file, whose pictures are passed over, and writes each with its result. False, and the
 // line and the reason in strError, at the first that is no case.
 bool DrawFigures(std::istream& in, std::ostream& out, std::string& strError);
-
-// The command "figures CASES OUT": words[0] and [1] are the two files. Says what went wrong on the standard
-// error and returns the exit code.
-int RunFigures(std::span<const std::string> words);

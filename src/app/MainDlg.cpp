@@ -10,7 +10,7 @@ CMainDlg::CMainDlg(const CPlatform& platform)
     : CDialog(kMainDialog),
       m_platform(platform),
       m_canvas({m_state, m_images, m_toolState, *this, *this, platform.timers, m_random}),
-      m_tools(m_toolState, Controls(), m_canvas),
+      m_tools({m_state, m_toolState, Controls(), m_canvas, platform.colors, platform.text, *this}),
       m_editor({m_state, m_images, Controls(), m_canvas, m_tools, *this, platform.boxes, platform.wait}),
       m_clipboard({m_state, m_images, Controls(), m_canvas, m_toolState, m_editor, platform.boxes,
                    platform.wait, platform.clipboard}),
@@ -96,10 +96,6 @@ void CMainDlg::OnCanvasPainted() {
 void CMainDlg::RepaintPreview() {
     m_skin.PaintPreviewBox(Client(), CEffectFlow::kPreviewBox);
     Present();
-}
-
-void CMainDlg::PickColor(bool bForeground, CColor color) {
-    (bForeground ? m_toolState.m_crForeground : m_toolState.m_crBackground) = color;
 }
 
 void CMainDlg::OnPrint() {

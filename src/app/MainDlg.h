@@ -27,6 +27,7 @@ class CMainDlg : public CDialog,
                  private CEditorHost,
                  private CCanvasHost,
                  private CPaintHost,
+                 private CToolHost,
                  private CSkinHost,
                  private CBrowseHost,
                  private CEffectHost,
@@ -87,10 +88,16 @@ class CMainDlg : public CDialog,
     void OnCanvasPainted() override;
     void OnPictureMenu() override;
 
-    // CPaintHost
+    // CPaintHost; of the selection commands the tools' buttons tell as well
     bool BeginChange() override { return m_editor.BeginChange(); }
     void EnableSelectionCommands(bool bEnable) override { m_clipboard.EnableSelectionCommands(bEnable); }
-    void PickColor(bool bForeground, CColor color) override;
+    void PickColor(bool bForeground, CColor color) override { m_tools.PickColor(bForeground, color); }
+
+    // CToolHost
+    CClientArea& PanelArea() override { return Client(); }
+    void PresentPanel() override { Present(); }
+    void RepaintWindow() override { Invalidate(); }
+    void SetHelp(int nCode) override { m_lines.SetHelp(nCode); }
 
     // CBrowseHost
     void ShowFileInfo(const std::string& strName, EFileInfo kind) override {
@@ -105,7 +112,7 @@ class CMainDlg : public CDialog,
     // CSkinHost
     CColor TextColor() const override { return m_textArt.TextColor(); }
     bool IsListPressed() const override { return m_thum.List().IsPressed(); }
-    void PaintToolPanel(CClientArea& /*client*/) override {}
+    void PaintToolPanel(CClientArea& /*client*/) override { m_tools.OnPaintPanel(); }
     void PaintEffectPreview(CClientArea& client) override { m_effects.PaintPreview(client); }
 
     // CEffectHost

@@ -9,9 +9,6 @@
 namespace {
 
 constexpr CRect kVersionPlate{38, 676, 50, 690};
-// The colour wells of DRAW. The foreground well lies on top.
-constexpr CRect kForegroundWell{211, 490, 241, 520};
-constexpr CRect kBackgroundWell{225, 504, 255, 534};
 
 }  // namespace
 
@@ -24,10 +21,7 @@ void CMainDlg::OnMouse(const CMouseEvent& event) {
     }
     if (!m_state.m_bDrawMode) return;
     if (event.action == EMouseAction::Move) {
-        if (kForegroundWell.Contains(event.pt))
-            m_lines.SetHelp(kHelpForeground);
-        else if (kBackgroundWell.Contains(event.pt))
-            m_lines.SetHelp(kHelpBackground);
+        if (const int nHelp = m_tools.HelpAt(event.pt); nHelp != 0) m_lines.SetHelp(nHelp);
     }
     if (event.action == EMouseAction::Release && event.button == EMouseButton::Right) m_canvas.AbandonShape();
     if (event.action == EMouseAction::DoubleClick) m_tools.OnWellDoubleClick(event);

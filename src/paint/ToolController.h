@@ -1,37 +1,102 @@
 #pragma once
 
-#include "editor/CanvasPort.h"
+#include <array>
+
+#include "editor/EditState.h"
+#include "paint/ColorWell.h"
 #include "paint/ToolCanvas.h"
+#include "paint/ToolHost.h"
+#include "paint/ToolItem.h"
+#include "paint/ToolPanel.h"
 #include "paint/ToolState.h"
+#include "window/Choosers.h"
 #include "window/ControlSet.h"
 #include "window/Events.h"
 
-// Which paint tool is current and with which option.
+// The option last chosen, per tool. Lasts for the whole run. Line and curve are one choice: both always hold
+// the same.
+struct CToolOptions {
+    int m_nOptLine = 0;
+    int m_nOptCurve = 0;
+    int m_nOptPolygon = 0;
+    int m_nOptRect = 0;
+    int m_nOptRoundRect = 0;
+    int m_nOptEllipse = 0;
+    int m_nOptZoom = 0;
+    int m_nOptSpray = 0;
+    int m_nOptBrush = 0;
+    int m_nOptEraser = 0;
+};
+
+// Which paint tool is current and with which options and colours: the tool buttons, the option panel below
+// them and the colour wells.
 class CToolController : public CToolPort {
   public:
     // All of these outlive the controller.
-    CToolController(CToolState& state, CControlSet& controls, CToolCanvas& canvas)
-        : m_state(state), m_controls(controls), m_canvas(canvas) {}
+    struct CEnvironment {
+        const CEditState& state;
+        CToolState& tools;
+        CControlSet& controls;
+        CToolCanvas& canvas;
+        CColorDialogs& colors;
+        CTextRasterizer& text;
+        CToolHost& host;
+    };
+    explicit CToolController(const CEnvironment& env);
+    CToolController(const CToolController&) = delete;
+    CToolController& operator=(const CToolController&) = delete;
 
-    const CToolState& State() const { return m_state; }
+    const CToolState& State() const { return m_env.tools; }
+    const CToolOptions& Options() const { return m_options; }
+    // The panel that was brought up last: the number, less one, of the tool that was selected last by its
+    // button. A switch of the mode does not touch it.
+    int Panel() const { return m_nPanel; }
 
-    int CurrentTool() const override { return m_state.m_nTool; }
-    void SetCurrentTool(int nTool) override { m_state.m_nTool = nTool; }
+    int CurrentTool() const override { return m_env.tools.m_nTool; }
+    void SetCurrentTool(int nTool) override { m_env.tools.m_nTool = nTool; }
     void EnterTool() override;
     void ResetZoom() override;
     void FocusCurrentTool() override;
 
-    // A click of a tool's button, or of the colour button.
-    void OnToolButton(int /*nTool*/) {}
-    void OnPaintColor() {}
+    // A click of a tool's button. Also for the tool that is current already: selections and floats end.
+    void OnToolButton(int nTool);
+    // A click of the colour button.
+    void OnPaintColor() { ChooseColor(true); }
     // A left press in the main window beside its controls; true if it fell into the current tool's options.
-    bool OnPanelPress(CPoint /*pt*/) { return false; }
-    // A double click there, which may fall on the colour wells.
-    void OnWellDoubleClick(const CMouseEvent& /*event*/) {}
+    bool OnPanelPress(CPoint pt);
+    // A double click there: in the box around the colour wells the left button chooses the foreground colour,
+    // the right one the background colour.
+    void OnWellDoubleClick(const CMouseEvent& event);
+    // The help of the colour well at a point of the main window; 0 beside them.
+    int HelpAt(CPoint pt) const;
+
+    // The colour picker's find: the well shows it at once.
+    void PickColor(bool bForeground, CColor color);
+
+    // At the end of every paint of the main window in DRAW, which has covered the panel. This settles the
+    // tool as well: the panel's tool is selected again.
+    void OnPaintPanel();
 
   private:
-    CToolState& m_state;
-    CControlSet& m_controls;
-    CToolCanvas& m_canvas;
-    int m_nOptZoom = 0;  // the magnifier's option, 0 to 3
+    COptionGrid* GridOf(int nTool);
+    void ClearToolPanel();
+    void DrawPanel(int nTool);
+    void DrawWells();
+    void Remember(int nOption);
+    void TakeOption();
+    void ChooseColor(bool bForeground);
+    void SetColor(bool bForeground, CColor color);
+
+    CEnvironment m_env;
+    CToolPanel m_toolPanel;
+    CToolOptions m_options;
+    int m_nPanel = 0;
+    // Both in the order of the tools. The grid of the line is the curve's as well.
+    std::array<COptionGrid, kToolButtonCount> m_arrOptionGrid;
+    std::array<CToolItem, kToolButtonCount> m_arrToolItem;
+    CToolItem* m_pCurItem = m_arrToolItem.data();
+    // In the order in which they are drawn.
+    CColorWell m_wellBackdrop;
+    CColorWell m_wellBackground;
+    CColorWell m_wellForeground;
 };

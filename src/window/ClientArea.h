@@ -1,7 +1,10 @@
 #pragma once
 
+#include <string>
+
 #include "image/Color.h"
 #include "image/Geometry.h"
+#include "image/TextRasterizer.h"
 #include "surface/Surface.h"
 #include "window/Bitmaps.h"
 
@@ -28,6 +31,15 @@ class CClientArea {
     // Copies the surface with its top left corner at (x, y); at density 2 every pixel becomes two by two.
     void DrawSurface(const CSurface& surface, int x, int y);
 
+    // Figures, in the area's own density: at density 2 edges are finer, and lines are two pixels wide. Boxes
+    // leave out their right and bottom edge, a line its last point.
+    void DrawBox(const CRect& rc, CColor crOutline, CColor crInside);
+    void DrawEllipse(const CRect& rc, CColor color);
+    void DrawLine(CPoint ptFrom, CPoint ptTo, CColor color);
+    // One line of text with its cell's top left corner at the point, on a ground as large as the cell.
+    void DrawTextLine(CTextRasterizer& rasterizer, const CTextFont& font, const std::string& strText,
+                      CPoint pt, CColor crText, CColor crGround);
+
     // Keeps all drawing inside the box until it is set anew; an empty box ends that.
     void SetClip(const CRect& rcClip) { m_rcClip = rcClip; }
 
@@ -37,6 +49,7 @@ class CClientArea {
   private:
     void DrawPicture(const CPixels& pixels, int x, int y, int nFactor);
     CRect Drawable() const;
+    CSurface CopyOfPart(const CRect& rc) const;
 
     CSize m_size;
     int m_nDensity = 1;

@@ -1,0 +1,26 @@
+#include "paint/SprayGlyphs.h"
+
+#include <array>
+
+namespace {
+
+// Pictures of the skin: the clouds from small to large.
+constexpr std::array kClouds = {168, 169, 175};
+constexpr std::array kSelectedClouds = {177, 176, 174};
+
+}  // namespace
+
+std::vector<CRect> CSprayGlyphs::Layout(const CRect& rcPanel) const {
+    const int nLeft = rcPanel.left + 3;
+    return {{nLeft, rcPanel.top + 5, rcPanel.right, rcPanel.top + 20},
+            {nLeft, rcPanel.top + 25, rcPanel.right + 3, rcPanel.top + 45},
+            {nLeft, rcPanel.top + 50, rcPanel.right + 3, rcPanel.top + 70}};
+}
+
+void CSprayGlyphs::DrawNormal(CClientArea& client, const CRect& rc, int nOption) const {
+    client.DrawBitmap(kClouds[static_cast<std::size_t>(nOption)], rc.left, rc.top);
+}
+
+void CSprayGlyphs::DrawSelected(CClientArea& client, const CRect& rc, int nOption) const {
+    client.DrawBitmap(kSelectedClouds[static_cast<std::size_t>(nOption)], rc.left, rc.top);
+}

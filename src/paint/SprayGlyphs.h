@@ -1,0 +1,11 @@
+#pragma once
+
+#include "paint/OptionGlyphs.h"
+
+// Three clouds of dots.
+class CSprayGlyphs : public COptionGlyphs {
+  public:
+    std::vector<CRect> Layout(const CRect& rcPanel) const override;
+    void DrawNormal(CClientArea& client, const CRect& rc, int nOption) const override;
+    void DrawSelected(CClientArea& client, const CRect& rc, int nOption) const override;
+};

@@ -50,6 +50,9 @@ void CPerson::Click(int nId) {
         m_strFault = QStringLiteral("control %1 cannot be clicked").arg(nId);
         return;
     }
+    // A window system does that by itself with a click; the offscreen one does not, and without it no control
+    // gets the focus behind a dialog of the toolkit's own.
+    if (!pWidget->isActiveWindow()) pWidget->activateWindow();
     Hover(nId);
     QTest::mouseClick(pWidget, Qt::LeftButton);
 }

@@ -1,6 +1,7 @@
 #include "play/States.h"
 
 #include <array>
+#include <cstdio>
 
 #include "resources/Ids.h"
 
@@ -49,6 +50,17 @@ std::string Preview(const CStage& stage) {
     return pPreview == nullptr ? "none" : Pair(pPreview->GetSize());
 }
 
+std::string Hex(CColor color) {
+    std::array<char, 8> buffer{};
+    std::snprintf(buffer.data(), buffer.size(), "%02X%02X%02X", color.r, color.g, color.b);
+    return buffer.data();
+}
+
+std::string Colors(const CStage& stage) {
+    const CToolState& tools = stage.dialog.Tools().State();
+    return Hex(tools.m_crForeground) + " " + Hex(tools.m_crBackground);
+}
+
 constexpr CStateEntry kStates[] = {
     {"mode", Mode, "The active mode and its name."},
     {"undo", [](const CStage& s) { return std::to_string(s.dialog.Images().m_stackUndo.Count()); },
@@ -59,9 +71,12 @@ constexpr CStateEntry kStates[] = {
     {"work", Work, "Width and height of the working image, or none."},
     {"image", Image, "Whether a picture is open; if so, width and height of it as it is shown."},
     {"tool", [](const CStage& s) { return std::to_string(s.dialog.Tools().CurrentTool()); },
-     "The paint tool, 1 to 16."},
+     "The paint tool, 1 to 16; 17 while a selection floats."},
     {"zoom", [](const CStage& s) { return std::to_string(s.dialog.Tools().State().m_nZoom); },
      "The zoom of DRAW: 1, 2, 4 or 6."},
+    {"panel", [](const CStage& s) { return std::to_string(s.dialog.Tools().Panel() + 1); },
+     "The tool whose options the panel of DRAW shows."},
+    {"colors", Colors, "Foreground and background colour of DRAW."},
     {"frame", [](const CStage& s) { return Flag(s.dialog.Images().m_bFrameOn); },
      "Whether a frame lies on the picture."},
     {"effect", [](const CStage& s) { return std::to_string(s.dialog.Effects().Effect()); },

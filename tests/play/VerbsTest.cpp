@@ -4,11 +4,12 @@
 // Every verb once, with what it does.
 
 TEST_F(ScriptTest, StartsInTheFirstModeWithoutAPicture) {
-    EXPECT_EQ(
-        Print("state\nboxes"),
-        "mode 0 THUM\nundo 0\nredo 0\ndisp 0 0\nwork none\nimage 0\ntool 1\nzoom 1\nframe 0\n"
-        "effect 0\nlevel 0\npreview none\npending 0\nfloat 0\nselection 0\nconnected 0\nsizerule image\ntree \"\"\nlist 0 0 \"\"\nselected 0\nbanded "
-        "0\npath \"\"\nname \"\"\nfocus 0\nboxes 0\n");
+    EXPECT_EQ(Print("state\nboxes"),
+              "mode 0 THUM\nundo 0\nredo 0\ndisp 0 0\nwork none\nimage 0\ntool 1\nzoom 1\npanel 1\ncolors "
+              "000000 FFFFFF\nframe 0\n"
+              "effect 0\nlevel 0\npreview none\npending 0\nfloat 0\nselection 0\nconnected 0\nsizerule "
+              "image\ntree \"\"\nlist 0 0 \"\"\nselected 0\nbanded "
+              "0\npath \"\"\nname \"\"\nfocus 0\nboxes 0\n");
 }
 
 TEST_F(ScriptTest, OpensByAQuotedChinesePathAndDumpsThePixels) {

@@ -87,7 +87,8 @@ class PanelBench : public testing::Test,
     CTextMask Rasterize(const CTextFont& font, const std::string& strText) override {
         m_arrFonts.push_back(font);
         CTextMask mask{static_cast<int>(strText.size()) * font.nHeight / 2, font.nHeight, {}};
-        mask.coverage.assign(static_cast<std::size_t>(mask.nWidth * mask.nHeight), 255);
+        mask.coverage.assign(static_cast<std::size_t>(mask.nWidth) * static_cast<std::size_t>(mask.nHeight),
+                             255);
         return mask;
     }
     const CxImage* Find(const std::string& strName, int nDensity) override {

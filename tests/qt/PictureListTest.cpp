@@ -113,6 +113,13 @@ TEST_F(PictureList, ARowWithoutPictureIsEmptyAndFewerRowsGo) {
     EXPECT_EQ(PictureAt(136 + 30), 231);
     EXPECT_EQ(Look().pixel(90, 204 + 30), kGround);
     EXPECT_FALSE(View()->verticalScrollBar()->isVisible());
+    // A selection fills nothing in, whether the list can be used or not.
+    for (const bool bEnabled : {true, false}) {
+        m_shown.dialog.Controls().Enable(1041, bEnabled);
+        m_shown.dialog.Controls().Select(1041, 1);
+        EXPECT_EQ(Look().pixel(90, 68 + 30), kGround) << bEnabled;
+        EXPECT_EQ(PictureAt(30), 229) << "no picture is greyed";
+    }
 }
 
 TEST_F(PictureList, KeysMoveFromTheRowWithTheRim) {

@@ -111,6 +111,21 @@ void CPictureListWidget::keyPressEvent(QKeyEvent* pEvent) {
     QListView::keyPressEvent(pEvent);
 }
 
+// Only the left button takes a row.
+void CPictureListWidget::mousePressEvent(QMouseEvent* pEvent) {
+    if (pEvent->button() == Qt::LeftButton) QListView::mousePressEvent(pEvent);
+}
+void CPictureListWidget::mouseDoubleClickEvent(QMouseEvent* pEvent) {
+    if (pEvent->button() == Qt::LeftButton) QListView::mouseDoubleClickEvent(pEvent);
+}
+
+// The base lets a row go when Ctrl is held, and would then tell it as a new choice at the next click.
+QItemSelectionModel::SelectionFlags CPictureListWidget::selectionCommand(const QModelIndex& index,
+                                                                         const QEvent* pEvent) const {
+    const QItemSelectionModel::SelectionFlags flags = QListView::selectionCommand(index, pEvent);
+    return flags.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : flags;
+}
+
 // A press takes a row; what the hand does until it lets go changes nothing.
 void CPictureListWidget::mouseMoveEvent(QMouseEvent* /*pEvent*/) {}
 

@@ -139,6 +139,27 @@ TEST_F(PictureList, KeysMoveFromTheRowWithTheRim) {
     EXPECT_EQ(focused.copy(0, 0, 189, 204), Look().copy(0, 0, 189, 204));
 }
 
+TEST_F(PictureList, OnlyThePlainLeftButtonAndKeysCountAndARowStaysChosen) {
+    const auto click = [this](Qt::MouseButton button, Qt::KeyboardModifiers keys, int nRow) {
+        QTest::mouseClick(View()->viewport(), button, keys, {60, 68 * nRow + 5});
+        return TakeNotices();
+    };
+    EXPECT_TRUE(click(Qt::RightButton, {}, 1).empty());
+    EXPECT_TRUE(click(Qt::MiddleButton, {}, 1).empty());
+    EXPECT_EQ(Selected(), -1);
+    click(Qt::LeftButton, {}, 1);
+    // Ctrl takes no row back, so that the same row is no news afterwards.
+    EXPECT_EQ(click(Qt::LeftButton, Qt::ControlModifier, 1), (CNotices{{1041, ENotice::Clicked}}));
+    EXPECT_EQ(View()->selectionModel()->selectedIndexes().size(), 1);
+    EXPECT_EQ(click(Qt::LeftButton, {}, 1), (CNotices{{1041, ENotice::Clicked}}));
+    QTest::keyClick(View(), Qt::Key_Space, Qt::ControlModifier);
+    QTest::keyClick(View(), Qt::Key_Space);
+    EXPECT_TRUE(TakeNotices().empty());
+    EXPECT_EQ(View()->selectionModel()->selectedIndexes().size(), 1);
+    QTest::keyClick(View(), Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(Selected(), 2) << "there is no rim without a choice";
+}
+
 TEST_F(PictureList, TheFocusGivenAgainPaintsNothing) {
     m_shown.dialog.Controls().SetFocus(1041);
     QCoreApplication::processEvents();

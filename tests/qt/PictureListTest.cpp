@@ -128,10 +128,14 @@ TEST_F(PictureList, KeysMoveFromTheRowWithTheRim) {
     EXPECT_EQ(Selected(), 0) << "the first key takes the first row";
     QTest::keyClick(View(), Qt::Key_Down);
     EXPECT_EQ(Selected(), 1);
+    QTest::keyClick(View(), Qt::Key_Right);
+    EXPECT_EQ(Selected(), 2);
+    QTest::keyClick(View(), Qt::Key_Left);
+    EXPECT_EQ(Selected(), 1);
     QTest::keyClick(View(), Qt::Key_End);
     EXPECT_EQ(Selected(), 30);
     EXPECT_EQ(PictureAt(272 - 30), 229 + 30) << "and is scrolled to";
-    EXPECT_EQ(TakeNotices(), CNotices(3, {1041, ENotice::SelectionChanged}));
+    EXPECT_EQ(TakeNotices(), CNotices(5, {1041, ENotice::SelectionChanged}));
     // The rim is drawn on the row, and only while the list has the focus.
     const QImage focused = Look();
     m_shown.dialog.Controls().SetFocus(42);

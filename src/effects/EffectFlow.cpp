@@ -168,7 +168,6 @@ void CEffectFlow::OnConfirm() {
     m_env.images.RebuildDisplay();
     EndPreview();
     m_env.controls.Enable(kCmdRedo, false);
-    m_env.canvas.Repaint();
 }
 
 void CEffectFlow::OnCancel() {

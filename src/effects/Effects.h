@@ -3,9 +3,9 @@
 #include "image/Image.h"
 #include "image/RandomSequence.h"
 
-// One call of an effect. src and dst have the same size, at least 1 by 1, and are different memory; the
-// effect writes every pixel of dst. Both have 64 bytes behind their last pixel that may be touched. Rows are
-// counted from the top.
+// One call of an effect. src and dst have the same size, at least 1 by 1, and are different memory but for
+// effects that say otherwise; the effect writes every pixel of dst. It may throw std::bad_alloc. Both have 64
+// bytes behind their last pixel that may be touched. Rows are counted from the top.
 struct CEffectCall {
     CConstPixelView src;
     CPixelView dst;

@@ -57,6 +57,8 @@ class CPixels {
         return pBits != nullptr ? CPixelView{pBits, m_nWidth, m_nHeight} : CPixelView{};
     }
 
+    // True if other pixels stand on the same memory, so that a write would separate.
+    bool IsShared() const { return m_bytes.IsShared(); }
     // True if both stand on the same memory.
     bool SharesWith(const CPixels& other) const { return m_bytes.SharesWith(other.m_bytes); }
     // True if both have the same size and the same colours.

@@ -32,6 +32,7 @@ class CSharedBytes {
     const std::uint8_t* Data() const { return m_pBlock.get(); }
     // Separates first. Null if that failed or if there are no bytes.
     std::uint8_t* MutableData();
+    bool IsShared() const { return m_pBlock.use_count() > 1; }
     bool SharesWith(const CSharedBytes& other) const { return !IsEmpty() && m_pBlock == other.m_pBlock; }
 
   private:

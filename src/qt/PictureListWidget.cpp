@@ -18,7 +18,7 @@ constexpr int kWheelNotch = 120;  // what a wheel reports for one click
 
 bool MovesRow(int nKey) {
     return nKey == Qt::Key_Up || nKey == Qt::Key_Down || nKey == Qt::Key_PageUp || nKey == Qt::Key_PageDown ||
-           nKey == Qt::Key_Home || nKey == Qt::Key_End;
+           nKey == Qt::Key_Left || nKey == Qt::Key_Right || nKey == Qt::Key_Home || nKey == Qt::Key_End;
 }
 
 }  // namespace
@@ -109,6 +109,28 @@ void CPictureListWidget::keyPressEvent(QKeyEvent* pEvent) {
     if (MovesRow(pEvent->key()) && currentIndex().isValid() && !selectionModel()->hasSelection())
         return selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
     QListView::keyPressEvent(pEvent);
+}
+
+// The keys to the sides move too, as in every list of one column.
+QModelIndex CPictureListWidget::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action == MoveLeft) action = MoveUp;
+    if (action == MoveRight) action = MoveDown;
+    return QListView::moveCursor(action, modifiers);
+}
+
+// Only the left button takes a row.
+void CPictureListWidget::mousePressEvent(QMouseEvent* pEvent) {
+    if (pEvent->button() == Qt::LeftButton) QListView::mousePressEvent(pEvent);
+}
+void CPictureListWidget::mouseDoubleClickEvent(QMouseEvent* pEvent) {
+    if (pEvent->button() == Qt::LeftButton) QListView::mouseDoubleClickEvent(pEvent);
+}
+
+// The base lets a row go when Ctrl is held, and would then tell it as a new choice at the next click.
+QItemSelectionModel::SelectionFlags CPictureListWidget::selectionCommand(const QModelIndex& index,
+                                                                         const QEvent* pEvent) const {
+    const QItemSelectionModel::SelectionFlags flags = QListView::selectionCommand(index, pEvent);
+    return flags.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : flags;
 }
 
 // A press takes a row; what the hand does until it lets go changes nothing.

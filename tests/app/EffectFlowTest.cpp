@@ -339,3 +339,31 @@ TEST_F(EffectFlowTest, ANewPictureDropsThePreviewOfTheOld) {
     Choose(kNegative);
     EXPECT_EQ(Preview(), Engine(SmallWork({158, 122}), kNegative, 0, false));
 }
+
+// What swaps a frame would not know of the effect; it also must not know of one that was only looked at.
+TEST_F(EffectFlowTest, AFrameCanNoLongerBeSwappedBehindAPreview) {
+    OpenNumbered(60, 40);
+    for (const int nButton : {kConfirm, kCancel}) {
+        bool& bFrameOn = const_cast<CWorkingImages&>(Images()).m_bFrameOn;
+        bFrameOn = true;
+        Choose(nButton == kConfirm ? kNegative : kArt);
+        EXPECT_TRUE(bFrameOn);
+        Click(nButton);
+        EXPECT_FALSE(bFrameOn) << nButton;
+    }
+}
+
+// What takes its time says so; a slider under the hand and CANCEL do not.
+TEST_F(EffectFlowTest, TheWaitCursorComesWithAChoiceAndWithConfirm) {
+    OpenNumbered(60, 40);
+    const auto Waits = [&](const auto& fnStep) {
+        const int nBefore = m_platform.WaitCount();
+        fnStep();
+        return m_platform.WaitCount() > nBefore;
+    };
+    EXPECT_TRUE(Waits([&] { Choose(kBrightness); }));
+    EXPECT_FALSE(Waits([&] { Slide(-30); }));
+    EXPECT_TRUE(Waits([&] { Click(kConfirm); }));
+    Choose(kContrast);
+    EXPECT_FALSE(Waits([&] { Click(kCancel); }));
+}

@@ -81,6 +81,18 @@ TEST(Engine, KeepsAlphaAndLeavesEveryCopyAlone) {
     }
 }
 
+TEST(Engine, InvertsAPictureThatNobodySharesWhereItStands) {
+    const CxImage src = NoiseImage(37, 11, 4);
+    CxImage image = src;
+    std::ranges::copy(src.Pixels().Bytes(), image.MutableBytes().begin());
+    const std::uint8_t* const pBits = image.Pixels().View().pBits;
+    ASSERT_NE(pBits, src.Pixels().View().pBits);
+    ASSERT_TRUE(CImageEffect().ApplyEffect(image, kNegative, 0, true, 0));
+    EXPECT_EQ(image.Pixels().View().pBits, pBits);
+    EXPECT_EQ(image.Pixels(), Applied(src, kNegative, 0).Pixels());
+    EXPECT_NE(image.Pixels(), src.Pixels());
+}
+
 TEST(Engine, KnowsTheFullWidthFromTheLastPreview) {
     const CxImage src = NoiseImage(60, 50, 4);
     CRandomSequence random;

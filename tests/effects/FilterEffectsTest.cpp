@@ -183,18 +183,74 @@ TEST(FilterValues, BacklightOfAFlatPicture) {
     EXPECT_EQ(Applied(Backlight, Flat(40, 30, Grey(100)), 0), Flat(40, 30, Grey(124)));
 }
 
+// Two greys side by side, with other greys in columns that the histograms leave out.
+CPixels TwoGreys(int nLeft, int nRight, std::initializer_list<int> unseen) {
+    CPixels src = Flat(64, 64, Grey(nLeft));
+    for (int y = 0; y < 64; ++y)
+        for (int x = 32; x < 64; ++x) src.MutableView().Set(x, y, Grey(nRight));
+    int x = 1;
+    for (const int n : unseen) {
+        src.MutableView().Set(x, 0, Grey(n));
+        x += 2;
+    }
+    return src;
+}
+
+// Half the samples at 20: the split is 20 and goes to 60, and 10 is the end of what stays.
+TEST(FilterValues, BacklightOfTwoGreys) {
+    const CPixels dst = Applied(Backlight, TwoGreys(20, 200, {0, 10, 15, 255}), 0);
+    EXPECT_EQ(PixelAt(dst, 0, 0), Grey(60));
+    EXPECT_EQ(PixelAt(dst, 63, 0), Grey(209));  // 60 + 212 * 180 / 256
+    EXPECT_EQ(PixelAt(dst, 1, 0), Grey(0));
+    EXPECT_EQ(PixelAt(dst, 3, 0), Grey(10));
+    EXPECT_EQ(PixelAt(dst, 5, 0), Grey(47));   // stretched to 35, bent by 25 * 25 / 50
+    EXPECT_EQ(PixelAt(dst, 7, 0), Grey(254));  // 60 + 212 * 235 / 256
+}
+
+// Dark and narrow: 30 to 60 becomes 15 + 28 to (60 + 600) / 4 + 28.
+TEST(FilterValues, LowLightRepairOfTwoDarkGreys) {
+    const CPixels dst = Applied(LowLightRepair, TwoGreys(30, 60, {0, 45, 255}), 0);
+    EXPECT_EQ(PixelAt(dst, 0, 0), Grey(43));
+    EXPECT_EQ(PixelAt(dst, 63, 0), Grey(193));
+    EXPECT_EQ(PixelAt(dst, 1, 0), Grey(43));
+    EXPECT_EQ(PixelAt(dst, 3, 0), Grey(118));
+    EXPECT_EQ(PixelAt(dst, 5, 0), Grey(193));
+}
+
+// Light and narrow: 180 to 200 becomes 170 to 210; light and wide: 64 to 200 becomes 8 to 255.
+TEST(FilterValues, LowLightRepairOfLightGreys) {
+    const CPixels narrow = Applied(LowLightRepair, TwoGreys(180, 200, {190}), 0);
+    EXPECT_EQ(PixelAt(narrow, 0, 0), Grey(170));
+    EXPECT_EQ(PixelAt(narrow, 1, 0), Grey(190));
+    EXPECT_EQ(PixelAt(narrow, 63, 0), Grey(210));
+    const CPixels wide = Applied(LowLightRepair, TwoGreys(64, 200, {132}), 0);
+    EXPECT_EQ(PixelAt(wide, 0, 0), Grey(8));
+    EXPECT_EQ(PixelAt(wide, 1, 0), Grey(131));  // 8 + (232 * 68) / 128
+    EXPECT_EQ(PixelAt(wide, 63, 0), Grey(255));
+}
+
 TEST(FilterValues, LowLightRepairLeavesAFlatPictureAlone) {
     for (const int n : {0, 3, 128, 255}) {
         EXPECT_EQ(Applied(LowLightRepair, Flat(100, 80, Grey(n)), 0), Flat(100, 80, Grey(n))) << n;
     }
 }
 
+// The outermost pixels keep their luminance, so they show what becomes of the chroma alone.
 TEST(FilterValues, Haze2LeavesStrongChromaAlone) {
+    const auto edge = [](CColor cr) { return PixelAt(Applied(Haze2, Flat(9, 9, cr), 50), 0, 0); };
     // U is 212 or more, V about 120: had only V counted, it would have been widened.
     const CColor blue = {40, 40, 255};
     ASSERT_GE(CxImage::RGBtoYUV(blue).g, 212);
-    const CColor edge = PixelAt(Applied(Haze2, Flat(9, 9, blue), 50), 0, 0);
-    EXPECT_EQ(edge, CxImage::YUVtoRGB(CxImage::RGBtoYUV(blue)));
+    EXPECT_EQ(edge(blue), CxImage::YUVtoRGB(CxImage::RGBtoYUV(blue)));
+    // The same at the other end, with V.
+    const CColor green = {0, 255, 120};
+    ASSERT_EQ(CxImage::RGBtoYUV(green), (CColor{163, 103, 11}));
+    EXPECT_EQ(edge(green), CxImage::YUVtoRGB({163, 103, 11}));
+    ASSERT_EQ(CxImage::RGBtoYUV({150, 100, 90}), (CColor{113, 115, 154}));
+    EXPECT_EQ(edge({150, 100, 90}), CxImage::YUVtoRGB({113, 112, 162}));
+    // 255 is neither left alone nor widened.
+    ASSERT_EQ(CxImage::RGBtoYUV({0, 0, 255}), (CColor{29, 255, 107}));
+    EXPECT_EQ(edge({0, 0, 255}), CxImage::YUVtoRGB({29, 0, 101}));
 }
 
 TEST(FilterValues, EngraveOfAFlatPicture) {

@@ -113,6 +113,13 @@ TEST_F(PictureList, ARowWithoutPictureIsEmptyAndFewerRowsGo) {
     EXPECT_EQ(PictureAt(136 + 30), 231);
     EXPECT_EQ(Look().pixel(90, 204 + 30), kGround);
     EXPECT_FALSE(View()->verticalScrollBar()->isVisible());
+    // A selection fills nothing in, whether the list can be used or not.
+    for (const bool bEnabled : {true, false}) {
+        m_shown.dialog.Controls().Enable(1041, bEnabled);
+        m_shown.dialog.Controls().Select(1041, 1);
+        EXPECT_EQ(Look().pixel(90, 68 + 30), kGround) << bEnabled;
+        EXPECT_EQ(PictureAt(30), 229) << "no picture is greyed";
+    }
 }
 
 TEST_F(PictureList, KeysMoveFromTheRowWithTheRim) {
@@ -121,15 +128,40 @@ TEST_F(PictureList, KeysMoveFromTheRowWithTheRim) {
     EXPECT_EQ(Selected(), 0) << "the first key takes the first row";
     QTest::keyClick(View(), Qt::Key_Down);
     EXPECT_EQ(Selected(), 1);
+    QTest::keyClick(View(), Qt::Key_Right);
+    EXPECT_EQ(Selected(), 2);
+    QTest::keyClick(View(), Qt::Key_Left);
+    EXPECT_EQ(Selected(), 1);
     QTest::keyClick(View(), Qt::Key_End);
     EXPECT_EQ(Selected(), 30);
     EXPECT_EQ(PictureAt(272 - 30), 229 + 30) << "and is scrolled to";
-    EXPECT_EQ(TakeNotices(), CNotices(3, {1041, ENotice::SelectionChanged}));
+    EXPECT_EQ(TakeNotices(), CNotices(5, {1041, ENotice::SelectionChanged}));
     // The rim is drawn on the row, and only while the list has the focus.
     const QImage focused = Look();
     m_shown.dialog.Controls().SetFocus(42);
     EXPECT_NE(focused.copy(0, 204, 189, 68), Look().copy(0, 204, 189, 68));
     EXPECT_EQ(focused.copy(0, 0, 189, 204), Look().copy(0, 0, 189, 204));
+}
+
+TEST_F(PictureList, OnlyThePlainLeftButtonAndKeysCountAndARowStaysChosen) {
+    const auto click = [this](Qt::MouseButton button, Qt::KeyboardModifiers keys, int nRow) {
+        QTest::mouseClick(View()->viewport(), button, keys, {60, 68 * nRow + 5});
+        return TakeNotices();
+    };
+    EXPECT_TRUE(click(Qt::RightButton, {}, 1).empty());
+    EXPECT_TRUE(click(Qt::MiddleButton, {}, 1).empty());
+    EXPECT_EQ(Selected(), -1);
+    click(Qt::LeftButton, {}, 1);
+    // Ctrl takes no row back, so that the same row is no news afterwards.
+    EXPECT_EQ(click(Qt::LeftButton, Qt::ControlModifier, 1), (CNotices{{1041, ENotice::Clicked}}));
+    EXPECT_EQ(View()->selectionModel()->selectedIndexes().size(), 1);
+    EXPECT_EQ(click(Qt::LeftButton, {}, 1), (CNotices{{1041, ENotice::Clicked}}));
+    QTest::keyClick(View(), Qt::Key_Space, Qt::ControlModifier);
+    QTest::keyClick(View(), Qt::Key_Space);
+    EXPECT_TRUE(TakeNotices().empty());
+    EXPECT_EQ(View()->selectionModel()->selectedIndexes().size(), 1);
+    QTest::keyClick(View(), Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(Selected(), 2) << "there is no rim without a choice";
 }
 
 TEST_F(PictureList, TheFocusGivenAgainPaintsNothing) {

@@ -25,7 +25,8 @@ CScrollViewWidget::CScrollViewWidget(CScrollView& view, CMouseRouter& router, QW
       m_barHorizontal(Qt::Horizontal, this),
       m_barVertical(Qt::Vertical, this) {
     setMouseTracking(true);
-    setFocusPolicy(Qt::ClickFocus);
+    // In DRAW the focus marks the current tool's button; the hand on the picture leaves it there.
+    setFocusPolicy(Qt::NoFocus);
     setStyleSheet(kScrollBarStyle);
     for (QScrollBar* pBar : {&m_barHorizontal, &m_barVertical}) {
         pBar->setAttribute(Qt::WA_NoMousePropagation);

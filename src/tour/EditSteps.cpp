@@ -112,7 +112,7 @@ void AddModes(CSteps& steps) {
         Tab("draw", "DRAW: tools, and the picture at its own size", kTabDraw, [](CPerson& person) {
             if (!ShowsPhotograph(person) || !person.IsSeen(kToolFirst))
                 return QStringLiteral("no picture or no panel");
-            return CheckKeys(person, {kCmdSave, kCmdTurnLeft}, {kCmdSize, kCmdCut, kCmdPaste});
+            return CheckKeys(person, {kCmdSave, kCmdTurnLeft, kCmdPaste}, {kCmdSize, kCmdCut, kCmdCopy});
         }));
     steps.push_back({"draw-help", "the mouse over a tool: the help line tells what it does",
                      [](CPerson& person) { person.Hover(1178); },

@@ -1,5 +1,6 @@
 #include "tour/Steps.h"
 
+#include "tour/DrawSteps.h"
 #include "tour/EffectSteps.h"
 #include "tour/StepTools.h"
 
@@ -9,6 +10,7 @@ std::vector<CTourStep> MakeSteps(const CTourFiles& files) {
     AddBrowse(steps, files);
     AddEmptyModes(steps);
     AddNew(steps);
+    AddDraw(steps);
     AddOpenFromList(steps, files);
     AddSize(steps);
     AddShape(steps);

@@ -1,7 +1,6 @@
 // The paint panel in the main window: tool buttons, options, colour wells, and what a mode switch leaves.
 
-#include "app/Workshop.h"
-#include "resources/ToolTable.h"
+#include "app/PaintWorkshop.h"
 
 namespace {
 
@@ -27,39 +26,8 @@ constexpr COption kOptions[] = {
     {kToolEllipse, {205, 406}, 2},   {kToolRoundRect, {205, 406}, 2}, {kToolRoundRect, {205, 362}, 0}};
 constexpr CPoint kBesideOptions{240, 419};  // in the panel
 
-class PaintPanelTest : public Workshop {
+class PaintPanelTest : public PaintWorkshop {
   protected:
-    const CToolState& Tools() const { return m_dialog.Tools().State(); }
-    CMySCrollView& Canvas() { return m_dialog.Canvas(); }
-    void Tool(int nTool) { Click(FindToolButton(nTool)); }
-    void Window(EMouseAction action, CPoint pt, EMouseButton button = EMouseButton::Left) {
-        EXPECT_EQ(m_host.MouseOnWindow(action, button, pt), "");
-    }
-    void PressWindow(CPoint pt) {
-        Window(EMouseAction::Press, pt);
-        Window(EMouseAction::Release, pt);
-    }
-    // As a hand does it: a whole click comes first.
-    void DoubleClickWindow(CPoint pt, EMouseButton button) {
-        for (const EMouseAction action :
-             {EMouseAction::Press, EMouseAction::Release, EMouseAction::DoubleClick, EMouseAction::Release})
-            Window(action, pt, button);
-    }
-    // On the canvas, in picture pixels at zoom 1.
-    void Mouse(EMouseAction action, CPoint pt, EMouseButton button = EMouseButton::Left) {
-        const CPoint ptOrigin = Canvas().Origin();
-        if (action == EMouseAction::Move) button = EMouseButton::None;
-        EXPECT_EQ(m_host.MouseOnView(kCanvas, action, button, {pt.x + ptOrigin.x, pt.y + ptOrigin.y}), "");
-    }
-    void Drag(CPoint ptFrom, CPoint ptTo) {
-        Mouse(EMouseAction::Press, ptFrom);
-        Mouse(EMouseAction::Move, ptTo);
-        Mouse(EMouseAction::Release, ptTo);
-    }
-    void OpenInDraw(int nWidth, int nHeight) {
-        OpenNumbered(nWidth, nHeight);
-        GoTo(kModeDraw);
-    }
     int SettingOf(int nTool) const {
         switch (nTool) {
             case kToolBrush:

@@ -1,0 +1,228 @@
+// Painting in the main window: what becomes of it on every way out of DRAW and under every command.
+
+#include <functional>
+
+#include "app/PaintWorkshop.h"
+
+namespace {
+
+constexpr CColor kInk{0, 0, 0};
+constexpr CSize kPicture{40, 30};
+
+class DrawTest : public PaintWorkshop {
+  protected:
+    void Stroke() {
+        Tool(kToolPen);
+        Drag({5, 8}, {15, 8});
+    }
+    // A copy of (20, 10) to (30, 20) floats in the corner; the tool is one without options.
+    void FloatUp() {
+        Tool(kToolSelectRect);
+        Drag({20, 10}, {30, 20});
+        Click(kCmdCopy);
+        Click(kCmdPaste);
+        ASSERT_TRUE(Canvas().IsFloating());
+    }
+    void OpenPolygon() {
+        Tool(kToolPolygon);
+        Drag({5, 20}, {25, 20});
+        ASSERT_TRUE(Canvas().IsShapeOpen());
+    }
+    static CPixels WithStroke() {
+        CPixels pixels = NumberedPixels(kPicture.cx, kPicture.cy);
+        for (int x = 5; x < 15; ++x) pixels.MutableView().Set(x, 8, kInk);
+        return pixels;
+    }
+    static CPixels WithFloat() {
+        CPixels pixels = NumberedPixels(kPicture.cx, kPicture.cy);
+        for (int y = 0; y < 10; ++y)
+            for (int x = 0; x < 10; ++x)
+                pixels.MutableView().Set(x, y, PixelAt(NumberedPixels(40, 30), x + 20, y + 10));
+        return pixels;
+    }
+    // As a fresh start; the clipboard stays.
+    void OpenAgain() {
+        OpenNumbered(kPicture.cx, kPicture.cy);
+        GoTo(kModeDraw);
+    }
+    const CPixels& Work() const { return Images().m_pImgWork->Pixels(); }
+    void ExpectNothingOpen() {
+        EXPECT_FALSE(Canvas().IsFloating() || Canvas().IsShapeOpen());
+        EXPECT_NE(Tools().m_nTool, kToolFloat);
+    }
+};
+
+}  // namespace
+
+// Paint goes along to EFFECT, FONT and STICK, a float is merged on the way, and an open shape leaves nothing.
+TEST_F(DrawTest, WhatIsPaintedGoesAlongToThePictureModes) {
+    for (const int nMode : {kModeEffect, kModeFont, kModeStick}) {
+        SCOPED_TRACE(nMode);
+        OpenAgain();
+        Stroke();
+        GoTo(nMode);
+        EXPECT_EQ(Work(), WithStroke());
+        EXPECT_EQ(Undos(), 1);
+        Click(kCmdUndo);
+        EXPECT_EQ(Work(), NumberedPixels(kPicture.cx, kPicture.cy));
+
+        OpenAgain();
+        FloatUp();
+        GoTo(nMode);
+        EXPECT_EQ(Work(), WithFloat());
+        ExpectNothingOpen();
+
+        OpenAgain();
+        OpenPolygon();
+        GoTo(nMode);
+        EXPECT_EQ(Work(), NumberedPixels(kPicture.cx, kPicture.cy));
+        EXPECT_EQ(Undos(), 0);
+        GoTo(kModeDraw);
+        EXPECT_TRUE(Canvas().Paper().Scratch().Pixels() == Work());
+    }
+}
+
+// On the way to THUM nothing is fetched: the working image is what it was before the last stroke.
+TEST_F(DrawTest, TheLastStrokeIsLostOnTheWayToTheList) {
+    OpenAgain();
+    Stroke();
+    Tool(kToolPen);
+    Drag({5, 20}, {15, 20});
+    GoTo(kModeThum);
+    EXPECT_EQ(Work(), WithStroke());
+    GoTo(kModeDraw);
+    EXPECT_EQ(Canvas().CommittedPixels(), WithStroke());
+    EXPECT_EQ(Undos(), 2);
+}
+
+// Every command takes the last stroke along and the float with it, and gives an open shape up.
+TEST_F(DrawTest, EveryCommandBeginsWithThePictureAsItIsPainted) {
+    const auto flipped = [](const CPixels& pixels) { return NaiveFlip(pixels, true); };
+    const auto turned = [](const CPixels& pixels) { return NaiveTurn(pixels, true); };
+    const auto same = [](const CPixels& pixels) { return pixels; };
+    const struct {
+        int nCommand;
+        std::function<CPixels(const CPixels&)> fnChange;
+    } commands[] = {{kCmdFlipVertical, flipped}, {kCmdTurnRight, turned}, {kCmdSave, same}};
+    for (const auto& command : commands) {
+        SCOPED_TRACE(command.nCommand);
+        const auto run = [&] {
+            if (command.nCommand == kCmdSave) m_platform.AnswerSave(m_folder.Path("painted.png"));
+            Click(command.nCommand);
+            if (command.nCommand == kCmdSave) {
+                EXPECT_EQ(CxImage(m_folder.Path("painted.png"), ImageType::kPng).Pixels(), Work());
+            }
+            ExpectNothingOpen();
+            EXPECT_EQ(Canvas().CommittedPixels(), Work());
+        };
+        OpenAgain();
+        Stroke();
+        run();
+        EXPECT_EQ(Work(), command.fnChange(WithStroke()));
+        OpenAgain();
+        FloatUp();
+        run();
+        EXPECT_EQ(Work(), command.fnChange(WithFloat()));
+        OpenAgain();
+        OpenPolygon();
+        run();
+        EXPECT_EQ(Work(), command.fnChange(NumberedPixels(kPicture.cx, kPicture.cy)));
+    }
+}
+
+TEST_F(DrawTest, UndoTakesAFloatBackAndRedoBringsItMerged) {
+    OpenAgain();
+    Stroke();
+    FloatUp();
+    Click(kCmdUndo);
+    ExpectNothingOpen();
+    EXPECT_EQ(Work(), WithStroke());
+    EXPECT_EQ(Canvas().CommittedPixels(), WithStroke());
+    Click(kCmdUndo);
+    EXPECT_EQ(Work(), NumberedPixels(kPicture.cx, kPicture.cy));
+    Click(kCmdRedo);
+    EXPECT_EQ(Work(), WithStroke());
+    OpenPolygon();
+    Click(kCmdReset);
+    ExpectNothingOpen();
+    EXPECT_EQ(Canvas().CommittedPixels(), NumberedPixels(kPicture.cx, kPicture.cy));
+    Click(kCmdUndo);
+    EXPECT_EQ(Canvas().CommittedPixels(), WithStroke());
+}
+
+TEST_F(DrawTest, ANewPictureLeavesNothingOfTheOldOneOpen) {
+    for (const bool bNew : {true, false}) {
+        for (const bool bFloat : {true, false}) {
+            OpenAgain();
+            if (bFloat)
+                FloatUp();
+            else
+                OpenPolygon();
+            if (bNew)
+                Click(kCmdNew);
+            else
+                OpenNumbered(20, 25, 9);
+            ExpectNothingOpen();
+            const CPixels before = Work();
+            GoTo(kModeDraw);
+            Tool(kToolPolygon);
+            GoTo(kModeEffect);
+            EXPECT_EQ(Work(), before);
+        }
+    }
+}
+
+// At a zoom and scrolled: the float comes up where the eye is, and Crop leaves tool and zoom alone.
+TEST_F(DrawTest, PasteAndCropAtAZoom) {
+    OpenNumbered(600, 500);
+    GoTo(kModeDraw);
+    Tool(kToolSelectRect);
+    Drag({20, 10}, {30, 20});
+    Click(kCmdCopy);
+    Tool(kToolMagnifier);
+    PressWindow({205, 373});
+    ASSERT_EQ(Tools().m_nZoom, 2);
+    Canvas().ScrollTo({301, 205});
+    Tool(kToolPen);
+    Click(kCmdPaste);
+    EXPECT_EQ(Canvas().Selection().m_region.Box(), (CRect{150, 102, 160, 112}));
+    Tool(kToolPen);
+    EXPECT_EQ(PixelAt(Canvas().CommittedPixels(), 150, 102), PixelAt(NumberedPixels(600, 500), 20, 10));
+    Click(kCmdUndo);
+
+    Tool(kToolMagnifier);
+    PressWindow({205, 373});
+    Tool(kToolSelectRect);
+    Canvas().ScrollTo({0, 0});
+    const CPoint ptOrigin = Canvas().Origin();
+    const auto at = [&](int x, int y) { return CPoint{2 * x - ptOrigin.x, 2 * y - ptOrigin.y}; };
+    Drag(at(40, 50), at(100, 80));
+    Click(kCmdCrop);
+    EXPECT_EQ(Work().Width(), 60);
+    EXPECT_EQ(Work().Height(), 30);
+    EXPECT_EQ(PixelAt(Work(), 0, 0), PixelAt(NumberedPixels(600, 500), 40, 50));
+    EXPECT_EQ(Tools().m_nZoom, 2);
+    EXPECT_EQ(Tools().m_nTool, kToolSelectRect);
+    for (const int nId : {kCmdCut, kCmdCopy, kCmdCrop, kCmdPaste}) EXPECT_FALSE(Controls().IsEnabled(nId));
+    Click(kCmdUndo);
+    EXPECT_EQ(Work(), NumberedPixels(600, 500));
+    EXPECT_EQ(Images().DisplaySize(), (CSize{600, 500}));
+}
+
+// Ctrl with X, C and V do in DRAW what their keys do, and only there.
+TEST_F(DrawTest, TheClipboardByKeys) {
+    OpenAgain();
+    Tool(kToolSelectRect);
+    Drag({20, 10}, {30, 20});
+    EXPECT_TRUE(CtrlKey('C'));
+    EXPECT_TRUE(CtrlKey('X'));
+    EXPECT_EQ(PixelAt(Canvas().CommittedPixels(), 25, 15), (CColor{255, 255, 255}));
+    EXPECT_TRUE(CtrlKey('V'));
+    EXPECT_TRUE(Canvas().IsFloating());
+    // What was cut last is white; it was cut behind the copy.
+    EXPECT_EQ(PixelAt(Canvas().Paper().Scratch().Pixels(), 5, 5), PixelAt(NumberedPixels(40, 30), 25, 15));
+    GoTo(kModeStick);
+    EXPECT_FALSE(CtrlKey('V'));
+    EXPECT_FALSE(CtrlKey('C'));
+    EXPECT_EQ(Undos(), 2);
+}

@@ -87,7 +87,8 @@ TEST(Engine, InvertsAPictureThatNobodySharesWhereItStands) {
     std::ranges::copy(src.Pixels().Bytes(), image.MutableBytes().begin());
     const std::uint8_t* const pBits = image.Pixels().View().pBits;
     ASSERT_NE(pBits, src.Pixels().View().pBits);
-    ASSERT_TRUE(CImageEffect().ApplyEffect(image, kNegative, 0, true, 0));
+    CRandomSequence random;
+    ASSERT_TRUE(CImageEffect(random).ApplyEffect(image, kNegative, 0, true, 0));
     EXPECT_EQ(image.Pixels().View().pBits, pBits);
     EXPECT_EQ(image.Pixels(), Applied(src, kNegative, 0).Pixels());
     EXPECT_NE(image.Pixels(), src.Pixels());

@@ -40,20 +40,56 @@ void PlainPass(benchmark::State& state) {
 }
 BENCHMARK(PlainPass)->Unit(benchmark::kMillisecond);
 
-// All of the picture; what stands in the way is drawn by the argument: nothing, a net of thin lines with
-// gaps, or dots.
-void FloodFill(benchmark::State& state) {
+// What stands in the way of a fill: nothing; a net of thin lines with gaps; dots on a tenth and on four
+// tenths of the pixels, the second about as many as a fill can still get through; a maze of ways one pixel
+// wide; ways one pixel wide that go all the way down and up, or to and fro, as one; squares of one pixel.
+enum class Ground { kPlain, kNet, kDots, kManyDots, kMaze, kDownAndUp, kToAndFro, kChecker };
+
+// From each pixel of a grid one wall goes to the right or down.
+CSurface Maze() {
     CSurface ground = Paper(kTwelveMegapixels);
     std::minstd_rand random(1);
+    for (int y = 1; y < ground.Height(); y += 2)
+        for (int x = 1; x < ground.Width(); x += 2) {
+            ground.SetPixel(x, y, {});
+            const bool bRight = random() % 2 == 0;
+            ground.SetPixel(x + (bRight ? 1 : 0), y + (bRight ? 0 : 1), {});
+        }
+    return ground;
+}
+
+CSurface MakeGround(Ground kind) {
+    if (kind == Ground::kMaze) return Maze();
+    CSurface ground = Paper(kTwelveMegapixels);
+    const int nWidth = ground.Width();
+    const int nHeight = ground.Height();
+    std::minstd_rand random(1);
+    const auto Place = [&] {
+        const auto x = static_cast<int>(random() % 4000);
+        return CPoint{x, static_cast<int>(random() % 3000)};
+    };
     ground.SelectPen(CPen::Dotted(PenStyle::kDash, {}));
     ground.SetTransparentGaps(true);
-    for (int i = 0; state.range(0) == 1 && i < 1000; ++i) {
-        ground.MoveTo({static_cast<int>(random() % 4000), static_cast<int>(random() % 3000)});
-        ground.LineTo({static_cast<int>(random() % 4000), static_cast<int>(random() % 3000)});
+    for (int i = 0; kind == Ground::kNet && i < 1000; ++i) {
+        ground.MoveTo(Place());
+        ground.LineTo(Place());
     }
-    for (int i = 0; state.range(0) == 2 && i < 1200000; ++i)
-        ground.SetPixel(static_cast<int>(random() % 4000), static_cast<int>(random() % 3000), {});
-    ground.SetPixel(5, 5, kPaper);
+    const unsigned nDots = kind == Ground::kDots ? 10 : 40;
+    const bool bDots = kind == Ground::kDots || kind == Ground::kManyDots;
+    for (int y = 0; y < nHeight; ++y)
+        for (int x = 0; x < nWidth; ++x)
+            if (kind == Ground::kChecker ? (x + y) % 2 != 0 : bDots && random() / 16 % 100 < nDots)
+                ground.SetPixel(x, y, {});
+    for (int x = 1; kind == Ground::kDownAndUp && x < nWidth; x += 2)
+        ground.FillRect({x, x / 2 % 2, x + 1, nHeight - 1 + x / 2 % 2}, {});
+    for (int y = 1; kind == Ground::kToAndFro && y < nHeight; y += 2)
+        ground.FillRect({y / 2 % 2, y, nWidth - 1 + y / 2 % 2, y + 1}, {});
+    return ground;
+}
+
+void FloodFill(benchmark::State& state, Ground kind) {
+    CSurface ground = MakeGround(kind);
+    ground.SetPixel(4, 4, kPaper);
     for (auto _ : state) {
         state.PauseTiming();
         CPixels pixels = ground.Pixels();
@@ -61,10 +97,30 @@ void FloodFill(benchmark::State& state) {
         CSurface surface(std::move(pixels));
         surface.SelectBrush(CBrush::Solid(kInk));
         state.ResumeTiming();
-        benchmark::DoNotOptimize(surface.FloodFill({5, 5}, surface.GetPixel(5, 5)));
+        benchmark::DoNotOptimize(surface.FloodFill({4, 4}, surface.GetPixel(4, 4)));
     }
 }
-BENCHMARK(FloodFill)->ArgName("ground")->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, plain, Ground::kPlain)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, net, Ground::kNet)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, dots, Ground::kDots)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, many_dots, Ground::kManyDots)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, maze, Ground::kMaze)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, down_and_up, Ground::kDownAndUp)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, to_and_fro, Ground::kToAndFro)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, checker, Ground::kChecker)->Unit(benchmark::kMillisecond);
+
+// A box of 100 by 100 on a small and on a large picture.
+void FloodFillSmall(benchmark::State& state) {
+    CSurface surface = Paper(SizeOf(state));
+    surface.FrameRect({500, 500, 602, 602}, {});
+    CColor color = kInk;
+    for (auto _ : state) {
+        surface.SelectBrush(CBrush::Solid(color));
+        color = surface.GetPixel(550, 550);
+        benchmark::DoNotOptimize(surface.FloodFill({550, 550}, color));
+    }
+}
+BENCHMARK(FloodFillSmall)->Apply(Sizes);
 
 // One pass of a pen over 20 pixels and its copy to a second surface.
 void PenMove(benchmark::State& state, int nWidth) {

@@ -1,137 +1,184 @@
 #include <algorithm>
-#include <array>
 #include <bit>
-#include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <vector>
 
-#include "surface/PixelRun.h"
+#include "surface/PixelBits.h"
 #include "surface/Surface.h"
 
 namespace {
 
-// The fill of one connected area. Each run of pixels is painted when it is found and then waits until the
-// rows above and below it have been looked at; as a painted pixel no longer has the old colour, no run is
-// found twice. So at most one entry waits for two pixels of the picture.
+constexpr int kBits = CPixelBits::kPixels;
+
+// The runs of set bits in nOpen that hold a bit of nSeeds, which is a part of it.
+std::uint64_t WholeRuns(std::uint64_t nSeeds, std::uint64_t nOpen) {
+    if (((nSeeds << 1 | nSeeds >> 1) & nOpen & ~nSeeds) == 0) return nSeeds;
+    // Upwards by the carry of an addition, downwards by doubled steps.
+    std::uint64_t n = (((nOpen + nSeeds) ^ nOpen) & nOpen) | nSeeds;
+    for (int nStep = 1; nStep < kBits; nStep *= 2) {
+        n |= nOpen & n >> nStep;
+        nOpen &= nOpen >> nStep;
+    }
+    return n;
+}
+
+// The fill of one connected area, on bits: a pixel has one that tells whether it is open, which is to say
+// that it has the old colour and has not been reached, and one that tells whether it has been reached. Words
+// of 64 pixels are looked at when a neighbour is reached, so that a small area costs what it covers. From a
+// word the fill goes straight on, up or down, and leaves behind what it could have reached else. It takes
+// three bits for each pixel of the rows that it comes near.
 class CFlood {
   public:
-    CFlood(CPixelView view, CColor crOld, CColor crNew) : m_view(view), m_crNew(crNew) {
-        std::uint8_t block[3 * kBlock];
-        PaintRun(block, kBlock, crOld);
-        std::memcpy(m_words.data(), block, sizeof block);
-        std::memcpy(&m_nOld, block, 3);
+    CFlood(CPixelView view, CColor crOld, CColor crNew, CPoint ptStart)
+        : m_view(view),
+          m_bits(crOld, crNew),
+          m_nWords((view.nWidth + kBits - 1) / kBits),
+          m_beside(static_cast<std::size_t>(m_nWords) + 2),
+          m_ptStart(ptStart),
+          m_arrRows(static_cast<std::size_t>(view.nHeight) + 2) {
+        m_arrRows.front() = m_arrRows.back() = m_beside.data();
     }
 
-    void Run(CPoint pt) {
-        Take(pt.y, pt.x, {pt.y, 0, 0});
-        while (!m_waiting.empty()) {
-            const CSeed seed = m_waiting.back();
-            m_waiting.pop_back();
-            if (seed.run.nRow > 0) LookBeside(seed, seed.run.nRow - 1);
-            if (seed.run.nRow + 1 < m_view.nHeight) LookBeside(seed, seed.run.nRow + 1);
+    // Finds the area. The first pixel has the old colour.
+    void Spread() {
+        const int nWord = m_ptStart.x / kBits + 1;
+        const std::uint64_t nSeed = std::uint64_t{1} << m_ptStart.x % kBits;
+        Leave(Reach(m_ptStart.y), {m_ptStart.y, nWord, -1}, nSeed);
+        while (!m_arrStops.empty()) {
+            const CStop stop = m_arrStops.back();
+            m_arrStops.pop_back();
+            Follow(stop);
         }
     }
 
-    const CRect& Box() const { return m_rcBox; }
+    // Paints what has been found and returns the box around it.
+    CRect Paint() {
+        CRect rc{m_view.nWidth, m_nTop, 0, m_nBottom + 1};
+        for (int y = m_nTop; y <= m_nBottom; ++y) {
+            const CWord* const pWords = Reach(y);
+            std::uint8_t* const pRow = m_view.Row(y);
+            for (int nWord = m_nFirst; nWord <= m_nLast; ++nWord) {
+                const CWord& word = pWords[nWord];
+                if (word.nReached == 0 || word.IsUnknown()) continue;
+                m_bits.Paint(pRow + 3 * std::ptrdiff_t{kBits} * (nWord - 1), word.nReached);
+                rc.left = std::min(rc.left, (nWord - 1) * kBits + std::countr_zero(word.nReached));
+                rc.right = std::max(rc.right, nWord * kBits - std::countl_zero(word.nReached));
+            }
+        }
+        return rc;
+    }
 
   private:
-    struct CRowRun {
-        int nRow;
-        int nLeft;
-        int nRight;
+    // No pixel is both open and reached, but for a word that nobody has looked at.
+    struct CWord {
+        bool IsUnknown() const { return (nOpen & nReached) != 0; }
+        std::uint64_t nOpen = 0;
+        std::uint64_t nReached = 0;
+        // Those that have been reached from beside, and may be open.
+        std::uint64_t nWaiting = 0;
     };
-    // A run, and the one above or below it from which it was found: that one needs no second look.
-    struct CSeed {
-        CRowRun run;
-        CRowRun from;
+    // Words of a row that are looked at together.
+    static constexpr int kTogether = 8;
+    static constexpr std::uint64_t kEnds = std::uint64_t{1} << (kBits - 1) | 1;
+    static constexpr CWord kUnknown{~std::uint64_t{0}, ~std::uint64_t{0}, 0};
+    using CRow = std::vector<CWord>;
+    // A word with pixels that wait, and which way to go on from there: 1 down, -1 up.
+    struct CStop {
+        int y;
+        int nWord : 30;
+        int nStep : 2;
     };
-    // Eight pixels are three whole words.
-    static constexpr int kBlock = 8;
-    static constexpr int kWords = 3;
-    static constexpr bool kLittle = std::endian::native == std::endian::little;
 
-    static const std::uint8_t* At(const std::uint8_t* pRow, int x) { return pRow + std::ptrdiff_t{3} * x; }
-    // Reads one byte more than the pixel, which behind the last one may be read as well (CPixels).
-    bool IsOld(const std::uint8_t* p) const {
-        static constexpr std::uint8_t kPixel[4] = {255, 255, 255, 0};
-        std::uint32_t n = 0;
-        std::uint32_t nMask = 0;
-        std::memcpy(&n, p, 4);
-        std::memcpy(&nMask, kPixel, 4);
-        return (n & nMask) == m_nOld;
+    // The words of a row, or of the one above the first or below the last. They count from 1; there is one
+    // more at each end, in which nothing is open.
+    CWord* Reach(int y) {
+        CWord*& pRow = m_arrRows[PlaceOf(y)];
+        if (pRow == nullptr) pRow = AddRow();
+        return pRow;
+    }
+    static std::size_t PlaceOf(int y) {
+        const int nPlace = y + 1;
+        return static_cast<std::size_t>(nPlace);
+    }
+    CWord* AddRow() {
+        CRow& row = m_arrReached.emplace_back(m_beside.size(), kUnknown);
+        row.front() = row.back() = {};
+        return row.data();
     }
 
-    // The first column from x on that has another colour; x has the old one. Whole blocks are compared, also
-    // over the row's end: what lies there is cut off again.
-    int End(const std::uint8_t* pRow, int x) const {
-        for (; x < m_view.nWidth; x += kBlock) {
-            const std::uint8_t* const p = At(pRow, x);
-            for (int n = 0; n < kWords; ++n) {
-                const std::uint64_t nDifference = Difference(p, n);
-                if (nDifference == 0) continue;
-                const int nBits = kLittle ? std::countr_zero(nDifference) : std::countl_zero(nDifference);
-                return std::min(x + (8 * n + nBits / 8) / 3, m_view.nWidth);
+    // The open pixels of a word. Whoever looks at one looks at its neighbours as well: memory is faster along
+    // a row.
+    std::uint64_t Open(CWord* pRow, int y, int nWord) {
+        if (pRow[nWord].IsUnknown()) {
+            const int nFirst = (nWord - 1) / kTogether * kTogether + 1;
+            for (int n = nFirst; n < nFirst + kTogether && n <= m_nWords; ++n) {
+                const int x = (n - 1) * kBits;
+                pRow[n] = {m_bits.Find(m_view.Row(y) + std::ptrdiff_t{3} * x, m_view.nWidth - x), 0, 0};
             }
         }
-        return m_view.nWidth;
+        return pRow[nWord].nOpen;
     }
 
-    // The first column of the run that ends before x.
-    int Begin(const std::uint8_t* pRow, int x) const {
-        for (; x >= kBlock; x -= kBlock) {
-            const std::uint8_t* const p = At(pRow, x - kBlock);
-            for (int n = kWords - 1; n >= 0; --n) {
-                const std::uint64_t nDifference = Difference(p, n);
-                if (nDifference == 0) continue;
-                const int nBits = kLittle ? std::countl_zero(nDifference) : std::countr_zero(nDifference);
-                return x - kBlock + (8 * n + 7 - nBits / 8) / 3 + 1;
-            }
+    // Reaches the runs of open pixels that hold one that waits, and from there on row for row.
+    void Follow(const CStop& stop) {
+        const int nWord = stop.nWord;
+        const int nStep = stop.nStep;
+        CWord* pRow = Reach(stop.y);
+        CWord* pBack = Reach(stop.y - nStep);
+        int y = stop.y;
+        // What the row behind has brought here: as long as no run goes on beside it, nothing behind is new.
+        std::uint64_t nKnown = 0;
+        for (std::uint64_t nSeeds = pRow[nWord].nWaiting & pRow[nWord].nOpen; nSeeds != 0; y += nStep) {
+            CWord& word = pRow[nWord];
+            const std::uint64_t nRuns = WholeRuns(nSeeds | (word.nWaiting & word.nOpen), word.nOpen);
+            word.nOpen ^= nRuns;
+            word.nReached |= nRuns;
+            word.nWaiting = 0;
+            if ((nRuns & kEnds) != 0) LeaveBeside(pRow, {y, nWord, nStep}, nRuns);
+            if (nRuns != nKnown) Leave(pBack, {y - nStep, nWord, -nStep}, nRuns);
+            pBack = pRow;
+            pRow = Reach(y + nStep);
+            nSeeds = nKnown = nRuns & Open(pRow, y + nStep, nWord);
         }
-        while (x > 0 && IsOld(At(pRow, x - 1))) --x;
-        return x;
+        if (y == stop.y) return;
+        m_nFirst = std::min(m_nFirst, nWord);
+        m_nLast = std::max(m_nLast, nWord);
+        m_nTop = std::min({m_nTop, stop.y, y - nStep});
+        m_nBottom = std::max({m_nBottom, stop.y, y - nStep});
     }
 
-    // How word n of the block at p differs from the old colour.
-    std::uint64_t Difference(const std::uint8_t* p, int n) const {
-        std::uint64_t nWord = 0;
-        std::memcpy(&nWord, p + std::ptrdiff_t{8} * n, 8);
-        return nWord ^ m_words[static_cast<std::size_t>(n)];
+    // Lets the pixels beside these wait that lie in the next words.
+    void LeaveBeside(CWord* pRow, const CStop& stop, std::uint64_t nPixels) {
+        if ((nPixels & 1) != 0)
+            Leave(pRow, {stop.y, stop.nWord - 1, stop.nStep}, std::uint64_t{1} << (kBits - 1));
+        if (nPixels >> (kBits - 1) != 0) Leave(pRow, {stop.y, stop.nWord + 1, stop.nStep}, 1);
     }
 
-    void LookBeside(const CSeed& seed, int nRow) {
-        if (nRow != seed.from.nRow) return Look(nRow, seed.run.nLeft, seed.run.nRight, seed.run);
-        Look(nRow, seed.run.nLeft, std::min(seed.run.nRight, seed.from.nLeft), seed.run);
-        Look(nRow, std::max(seed.run.nLeft, seed.from.nRight), seed.run.nRight, seed.run);
-    }
-
-    // Takes the runs of a row that touch the columns nLeft .. nRight - 1.
-    void Look(int nRow, int nLeft, int nRight, const CRowRun& from) {
-        const std::uint8_t* const pRow = m_view.Row(nRow);
-        for (int x = nLeft; x < nRight; ++x)
-            if (IsOld(At(pRow, x))) x = Take(nRow, x, from);
-    }
-
-    // Takes the run that holds column x, and returns the column behind it, which is none of the run.
-    int Take(int nRow, int x, const CRowRun& from) {
-        std::uint8_t* const pRow = m_view.Row(nRow);
-        const int nLeft = Begin(pRow, x);
-        const int nRight = End(pRow, x);
-        PaintRun(pRow + std::ptrdiff_t{3} * nLeft, static_cast<std::size_t>(nRight - nLeft), m_crNew);
-        m_rcBox = {std::min(m_rcBox.left, nLeft), std::min(m_rcBox.top, nRow),
-                   std::max(m_rcBox.right, nRight), std::max(m_rcBox.bottom, nRow + 1)};
-        m_waiting.push_back({{nRow, nLeft, nRight}, from});
-        return nRight;
+    // Lets those of the pixels wait that are open.
+    void Leave(CWord* pRow, const CStop& stop, std::uint64_t nPixels) {
+        const std::uint64_t nOpen = Open(pRow, stop.y, stop.nWord);
+        if ((nPixels & nOpen) == 0) return;
+        CWord& word = pRow[stop.nWord];
+        if ((word.nWaiting & nOpen) == 0) m_arrStops.push_back(stop);
+        word.nWaiting |= nPixels;
     }
 
     CPixelView m_view;
-    CColor m_crNew;
-    // The old colour: a block of it, and one pixel.
-    std::array<std::uint64_t, kWords> m_words{};
-    std::uint32_t m_nOld = 0;
-    std::vector<CSeed> m_waiting;
-    CRect m_rcBox{std::numeric_limits<int>::max(), std::numeric_limits<int>::max(), 0, 0};
+    CPixelBits m_bits;
+    int m_nWords;
+    // Above the first row and below the last one.
+    CRow m_beside;
+    CPoint m_ptStart;
+    // Each row's words, from the row above the first on; null if nothing has come near.
+    std::vector<CWord*> m_arrRows;
+    std::vector<CRow> m_arrReached;
+    std::vector<CStop> m_arrStops;
+    // The rows and words that hold what has been reached.
+    int m_nTop = std::numeric_limits<int>::max();
+    int m_nBottom = 0;
+    int m_nFirst = std::numeric_limits<int>::max();
+    int m_nLast = 0;
 };
 
 }  // namespace
@@ -141,8 +188,8 @@ bool CSurface::FloodFill(CPoint pt, CColor crOld) {
     if (m_brush.bHollow || m_brush.color == crOld) return true;
     const CPixelView view = m_pixels.MutableView();
     if (view.pBits == nullptr) return false;
-    CFlood flood(view, crOld, m_brush.color);
-    flood.Run(pt);
-    m_rcDirty = m_rcDirty.Union(flood.Box());
+    CFlood flood(view, crOld, m_brush.color, pt);
+    flood.Spread();
+    m_rcDirty = m_rcDirty.Union(flood.Paint());
     return true;
 }

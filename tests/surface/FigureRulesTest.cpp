@@ -178,37 +178,3 @@ TEST(FigureRules, ACurveStaysBesideItsExactPointsAndHasNoGaps) {
                     << testing::PrintToString(points);
     }
 }
-
-TEST(FigureRules, AFloodReachesWhatANaiveOneReaches) {
-    CRandom random;
-    SCOPED_TRACE(random.nSeed);
-    for (int nRound = 0; nRound < 1500; ++nRound) {
-        const int nWidth = random.Pick(1, 40);
-        const int nHeight = random.Pick(1, 30);
-        const int nDots = random.Pick(0, 60);
-        CSurface surface = White(nWidth, nHeight);
-        for (int y = 0; y < nHeight; ++y)
-            for (int x = 0; x < nWidth; ++x)
-                // Colours that differ from the old one in one channel only.
-                if (random.Pick(0, 99) < nDots)
-                    surface.SetPixel(x, y, random.Pick(0, 1) ? kInk : CColor{255, 255, 254});
-        const CPoint pt{random.Pick(-1, nWidth), random.Pick(-1, nHeight)};
-        const CSurface before = surface;
-        CSurface expected = surface;
-        std::vector<CPoint> waiting = {pt};
-        const bool bHit = before.Bounds().Contains(pt) && before.GetPixel(pt.x, pt.y) == kWhite;
-        while (bHit && !waiting.empty()) {
-            const CPoint ptNext = waiting.back();
-            waiting.pop_back();
-            if (!before.Bounds().Contains(ptNext) || expected.GetPixel(ptNext.x, ptNext.y) != kWhite)
-                continue;
-            expected.SetPixel(ptNext.x, ptNext.y, kPaint);
-            for (const CPoint& ptStep : {CPoint{1, 0}, {-1, 0}, {0, 1}, {0, -1}})
-                waiting.push_back({ptNext.x + ptStep.x, ptNext.y + ptStep.y});
-        }
-        surface.SelectBrush(CBrush::Solid(kPaint));
-        EXPECT_EQ(surface.FloodFill(pt, kWhite), bHit);
-        ASSERT_EQ(surface.Pixels(), expected.Pixels()) << testing::PrintToString(pt);
-        EXPECT_EQ(surface.Pixels().SharesWith(before.Pixels()), !bHit);
-    }
-}

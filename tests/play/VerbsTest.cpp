@@ -141,3 +141,26 @@ TEST_F(ScriptTest, AnEffectFromTheListToThePicture) {
     EXPECT_EQ(PixelsOf("one.ppm"), PixelsOf("two.ppm")) << "one seed, one picture";
     EXPECT_NE(PixelsOf("one.ppm"), PixelsOf("a.png"));
 }
+
+// Airbrush and effects draw from one sequence.
+TEST_F(ScriptTest, OneSeedRepeatsAirbrushAndEffects) {
+    const std::string strSpray = "mouse press left 300 250\ntick 30\nmouse release left 300 250\n";
+    const auto spray = [&](const std::string& strSeed, const std::string& strName) {
+        return "seed " + strSeed + "\n" + strSpray + "dump scratch " + strName + ".ppm\nkey ctrl+z\n";
+    };
+    EXPECT_EQ(Print("command 1027\nmode 1\ncommand 1180\n" + spray("7", "one") + spray("8", "other") +
+                    spray("7", "again") + "state undo"),
+              "undo 0\n");
+    EXPECT_EQ(PixelsOf("one.ppm"), PixelsOf("again.ppm"));
+    EXPECT_NE(PixelsOf("one.ppm"), PixelsOf("other.ppm"));
+    // What was sprayed before an effect is missing from the effect's numbers.
+    MakePicture("a.png", 200, 120);
+    const auto tile = [&](const std::string& strBetween, const std::string& strName) {
+        return "open a.png\nmode 1\ncommand 1180\nseed 7\n" + strBetween +
+               "mode 2\nopen a.png\nselect 1041 23\nslider 6\ndump preview " + strName +
+               ".ppm\nselect 1041 4\ncommand 1029\n";
+    };
+    Print(tile("", "tile") + tile(strSpray, "later") + tile("", "same"));
+    EXPECT_EQ(PixelsOf("tile.ppm"), PixelsOf("same.ppm"));
+    EXPECT_NE(PixelsOf("tile.ppm"), PixelsOf("later.ppm"));
+}

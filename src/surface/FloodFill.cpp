@@ -2,6 +2,7 @@
 #include <bit>
 #include <cstdint>
 #include <limits>
+#include <new>
 #include <vector>
 
 #include "surface/PixelBits.h"
@@ -188,8 +189,12 @@ bool CSurface::FloodFill(CPoint pt, CColor crOld) {
     if (m_brush.bHollow || m_brush.color == crOld) return true;
     const CPixelView view = m_pixels.MutableView();
     if (view.pBits == nullptr) return false;
-    CFlood flood(view, crOld, m_brush.color, pt);
-    flood.Spread();
-    m_rcDirty = m_rcDirty.Union(flood.Paint());
+    try {
+        CFlood flood(view, crOld, m_brush.color, pt);
+        flood.Spread();
+        m_rcDirty = m_rcDirty.Union(flood.Paint());
+    } catch (const std::bad_alloc&) {
+        return false;  // nothing has been painted yet
+    }
     return true;
 }

@@ -88,7 +88,7 @@ class CSurface {
 
     // The brush over every pixel that has exactly the colour crOld and hangs together with pt through such
     // pixels to the left, right, above and below. False, and nothing changes, if pt lies outside or has
-    // another colour.
+    // another colour, or if memory is short.
     bool FloodFill(CPoint pt, CColor crOld);
 
     // Neither pen nor brush takes part.

@@ -50,7 +50,7 @@ QString CheckMark(const CPerson& person, int nTool) {
 
 // A tool with an option of its panel, then what the hand does with it.
 CTourStep Tool(int nTool, const char* szName, const char* szTells, std::initializer_list<QPoint> options,
-               std::function<void(CPencil&)> fnDraw, CTourCheck fnCheck) {
+               const std::function<void(CPencil&)>& fnDraw, const CTourCheck& fnCheck) {
     const std::vector<QPoint> arrOptions(options);
     return {QString(szName), QString(szTells),
             [=](CPerson& person) {

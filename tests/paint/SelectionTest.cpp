@@ -1,5 +1,6 @@
 // The three selection tools and the region that a command makes of their marks.
 
+#include <array>
 #include <cmath>
 #include <random>
 
@@ -193,8 +194,8 @@ TEST_F(SelectionTest, AFloatIsDrawnThroughItsRegion) {
     const auto pick = [&](int nBelow) { return std::uniform_int_distribution<int>(0, nBelow - 1)(random); };
     for (int n = 0; n < 200; ++n) {
         CSelection selection;
-        std::vector<CPoint> points;
-        for (int i = 0; i < 7; ++i) points.push_back({pick(40), pick(40)});
+        std::array<CPoint, 7> points;
+        for (CPoint& pt : points) pt = {pick(40), pick(40)};
         selection.m_region = CRegion::MakePolygon(points);
         selection.m_imgFloat = NumberedImage(1 + pick(50), 1 + pick(50), 77);
         selection.MoveTo({pick(70) - 20, pick(60) - 20});

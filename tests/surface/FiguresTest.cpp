@@ -51,7 +51,8 @@ std::string SideBySide(const std::string& strDrawn, const std::string& strExpect
     std::istringstream expected(strExpected);
     std::string strResult = "drawn, and as it should be:\n";
     for (std::string strLeft, strRight; std::getline(drawn, strLeft) && std::getline(expected, strRight);)
-        strResult += strLeft + "   " + strRight + (strLeft == strRight ? "\n" : "   <\n");
+        strResult.append(strLeft).append("   ").append(strRight).append(strLeft == strRight ? "\n"
+                                                                                            : "   <\n");
     return strResult;
 }
 

@@ -87,7 +87,7 @@ void AddColor(std::vector<CTourStep>& steps, const char* szName, const char* szT
 }
 
 void ClickWells(CPerson& person, Qt::MouseButton button) {
-    QTest::mouseDClick(person.MainWindow()->windowHandle(), button, Qt::NoModifier, kWells);
+    QTest::mouseDClick(person.MainWindow(), button, Qt::NoModifier, kWells);
 }
 
 constexpr QPoint kForegroundWell{226, 505};

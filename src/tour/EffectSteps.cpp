@@ -63,12 +63,12 @@ QPoint ThumbAt(const CPerson& person, int nPos) {
 // Takes the thumb and brings it to the position by several moves of the mouse.
 void DragTo(CPerson& person, int nPos) {
     constexpr int kMoves = 6;
-    QWindow* pWindow = person.MainWindow()->windowHandle();
-    const QPoint ptFrom = ThumbAt(person, SliderOf(person).nPos);
-    const QPoint ptTo = ThumbAt(person, nPos);
-    QTest::mousePress(pWindow, Qt::LeftButton, Qt::NoModifier, ptFrom);
-    for (int i = 1; i <= kMoves; ++i) QTest::mouseMove(pWindow, ptFrom + (ptTo - ptFrom) * i / kMoves);
-    QTest::mouseRelease(pWindow, Qt::LeftButton, Qt::NoModifier, ptTo);
+    QWidget* pSlider = WidgetOf(person, kEffectSlider);
+    const QPoint ptFrom = pSlider->mapFrom(pSlider->window(), ThumbAt(person, SliderOf(person).nPos));
+    const QPoint ptTo = pSlider->mapFrom(pSlider->window(), ThumbAt(person, nPos));
+    QTest::mousePress(pSlider, Qt::LeftButton, Qt::NoModifier, ptFrom);
+    for (int i = 1; i <= kMoves; ++i) QTest::mouseMove(pSlider, ptFrom + (ptTo - ptFrom) * i / kMoves);
+    QTest::mouseRelease(pSlider, Qt::LeftButton, Qt::NoModifier, ptTo);
 }
 
 // The commands that a preview turns off, and those that it brings.

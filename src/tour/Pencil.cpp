@@ -16,21 +16,24 @@ QPoint Corner(QSize sizeCanvas, QSize sizePage) {
 
 }  // namespace
 
-QPoint CPencil::InWindow(QPoint pt) const {
-    const QWidget* pCanvas = m_person.MainWindow()->WidgetOf(kCanvas);
-    return pCanvas->mapTo(pCanvas->window(), pt + Corner(pCanvas->size(), m_sizePage));
+QWidget* CPencil::Canvas() const {
+    return m_person.MainWindow()->WidgetOf(kCanvas);
+}
+
+QPoint CPencil::OnCanvas(QPoint pt) const {
+    return pt + Corner(Canvas()->size(), m_sizePage);
 }
 
 void CPencil::Press(QPoint pt, Qt::MouseButton button) {
-    QTest::mousePress(m_person.MainWindow()->windowHandle(), button, Qt::NoModifier, InWindow(pt));
+    QTest::mousePress(Canvas(), button, Qt::NoModifier, OnCanvas(pt));
 }
 
 void CPencil::Move(QPoint pt) {
-    QTest::mouseMove(m_person.MainWindow()->windowHandle(), InWindow(pt));
+    QTest::mouseMove(Canvas(), OnCanvas(pt));
 }
 
 void CPencil::Release(QPoint pt, Qt::MouseButton button) {
-    QTest::mouseRelease(m_person.MainWindow()->windowHandle(), button, Qt::NoModifier, InWindow(pt));
+    QTest::mouseRelease(Canvas(), button, Qt::NoModifier, OnCanvas(pt));
 }
 
 void CPencil::Stroke(std::initializer_list<QPoint> points, Qt::MouseButton button) {
@@ -46,7 +49,7 @@ void CPencil::Stroke(std::initializer_list<QPoint> points, Qt::MouseButton butto
 }
 
 void CPencil::DoubleClick(QPoint pt) {
-    QTest::mouseDClick(m_person.MainWindow()->windowHandle(), Qt::LeftButton, Qt::NoModifier, InWindow(pt));
+    QTest::mouseDClick(Canvas(), Qt::LeftButton, Qt::NoModifier, OnCanvas(pt));
 }
 
 QColor CPencil::ColorAt(QPoint pt) const {

@@ -7,7 +7,9 @@
 
 #include "tour/Person.h"
 
-// The hand on a page that stands whole in the middle of the canvas. Points are the page's pixels.
+// The hand on a page that stands whole in the middle of the canvas. Points are the page's pixels. The canvas
+// has dealt with each event when the call returns; events that went through the window could still be on
+// their way when the next step begins.
 class CPencil {
   public:
     CPencil(CPerson& person, QSize sizePage) : m_person(person), m_sizePage(sizePage) {}
@@ -24,7 +26,8 @@ class CPencil {
     QColor ColorAt(QPoint pt) const;
 
   private:
-    QPoint InWindow(QPoint pt) const;
+    QWidget* Canvas() const;
+    QPoint OnCanvas(QPoint pt) const;
 
     CPerson& m_person;
     QSize m_sizePage;

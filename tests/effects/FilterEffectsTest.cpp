@@ -59,22 +59,6 @@ CPixels MakePicture(int nWidth, int nHeight, EKind kind, unsigned nSeed) {
     return pixels;
 }
 
-// Where the first difference stands, or nothing.
-std::string Difference(const CPixels& a, const CPixels& b) {
-    if (a == b) return {};
-    for (int y = 0; y < a.Height(); ++y)
-        for (int x = 0; x < a.Width(); ++x) {
-            const CColor p = PixelAt(a, x, y);
-            const CColor q = PixelAt(b, x, y);
-            if (p == q) continue;
-            std::ostringstream text;
-            text << "at " << x << "," << y << ": (" << +p.r << " " << +p.g << " " << +p.b << ") and (" << +q.r
-                 << " " << +q.g << " " << +q.b << ")";
-            return text.str();
-        }
-    return "different sizes";
-}
-
 struct CFilter {
     const char* szName;
     CFastForm fast;

@@ -57,20 +57,6 @@ CPixels FlatPicture(int nWidth, int nHeight, CColor cr) {
     return pixels;
 }
 
-// Where the first difference stands, or nothing.
-std::string Difference(const CPixels& a, const CPixels& b) {
-    if (a == b) return {};
-    for (int y = 0; y < a.Height(); ++y)
-        for (int x = 0; x < a.Width(); ++x) {
-            const CColor p = PixelAt(a, x, y);
-            const CColor q = PixelAt(b, x, y);
-            if (p == q) continue;
-            return "at " + std::to_string(x) + "," + std::to_string(y) + ": " + std::to_string(p.ToRef()) +
-                   " and " + std::to_string(q.ToRef());
-        }
-    return "different sizes";
-}
-
 CPixels MaskPicture() {
     CPixels mask;
     mask.Create(CVignetteMask::kWidth, CVignetteMask::kHeight);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <ostream>
+#include <sstream>
+#include <string>
 
 #include "image/Image.h"
 
@@ -36,6 +38,22 @@ inline CxImage FlatImage(int nWidth, int nHeight, CColor color) {
 // Column and row counted from the top left corner.
 inline CColor PixelAt(const CPixels& pixels, int x, int y) {
     return pixels.View().Get(x, y);
+}
+
+// Where the first difference stands, and both colours there; or nothing.
+inline std::string Difference(const CPixels& a, const CPixels& b) {
+    if (a.Width() != b.Width() || a.Height() != b.Height()) return "different sizes";
+    for (int y = 0; y < a.Height(); ++y)
+        for (int x = 0; x < a.Width(); ++x) {
+            const CColor p = PixelAt(a, x, y);
+            const CColor q = PixelAt(b, x, y);
+            if (p == q) continue;
+            std::ostringstream text;
+            text << "at " << x << "," << y << ": (" << +p.r << " " << +p.g << " " << +p.b << ") and (" << +q.r
+                 << " " << +q.g << " " << +q.b << ")";
+            return text.str();
+        }
+    return {};
 }
 
 // The nearest-pixel scaling, pixel by pixel, rows counted from the bottom.

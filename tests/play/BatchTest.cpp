@@ -71,6 +71,20 @@ TEST_F(ProgramTest, PlaysTheBrowse) {
     EXPECT_EQ(CxImage("photos/ZEFA肖像/竖的.jpg", ImageType::kJpeg).GetSize(), (CSize{300, 400}));
 }
 
+// Every paint tool, the selections and the clipboard, against pictures that were looked at.
+TEST_F(ProgramTest, PlaysThePaint) {
+    const std::string strPaint = FOTARIUM_SOURCE_DIR "/tests/play/";
+    ASSERT_TRUE(FlatImage(160, 120, {255, 255, 255}).Save("white.png", ImageType::kPng));
+    EXPECT_EQ(Run("--strict '" + strPaint + "paint.play'"), 0) << ReadBytes("err.txt");
+    EXPECT_EQ(ReadBytes("out.txt"), ReadBytes(strPaint + "paint.expected"));
+    EXPECT_EQ(ReadBytes("err.txt"), "");
+    for (const char* szName : {"painted", "floating", "cropped"}) {
+        const CPixels expected = PixelsOf(strPaint + szName + ".png");
+        ASSERT_FALSE(expected.IsEmpty());
+        EXPECT_EQ(Difference(PixelsOf(std::string(szName) + ".ppm"), expected), "") << szName;
+    }
+}
+
 TEST_F(ProgramTest, ExitStatus) {
     m_folder.Write("bad.txt", "state mode\nmode 9\n");
     EXPECT_EQ(Run("bad.txt"), 1);

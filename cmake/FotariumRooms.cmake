@@ -35,8 +35,8 @@ function(fotarium_test NAME)
   target_include_directories(test_${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(test_${NAME} PRIVATE fotarium_flags ${ARG_LINK} GTest::gtest_main)
   target_compile_definitions(test_${NAME} PRIVATE FOTARIUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-  gtest_discover_tests(test_${NAME} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TEST_FILTER "${ARG_FILTER}"
-    DISCOVERY_TIMEOUT 60)
+  gtest_discover_tests(test_${NAME} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 240
+    TEST_FILTER "${ARG_FILTER}" DISCOVERY_TIMEOUT 60)
 endfunction()
 
 # fotarium_bench(NAME [LINK libraries...]): one Google Benchmark program of the files in bench/NAME/.

@@ -18,14 +18,16 @@ void CAirbrushTool::Aim(CPoint pt) {
 }
 
 // Dots that miss the disc do not count; of each dot the column is drawn from the sequence before the row.
+// They fall around the disc's own middle: another tool's press may have put m_ptStart elsewhere while the
+// timer went on, and around there none might ever hit.
 void CAirbrushTool::Tick() {
     const int nSide = m_rcSpray.Width();
     if (nSide == 0) return;
     const CRegion region = CRegion::MakeEllipse(m_rcSpray);
     Paper().Commit();
     for (int nDots = 0; nDots < kDotsPerTick;) {
-        const int x = Hand().m_ptStart.x + m_env.random.Next() % nSide - nSide / 2;
-        const int y = Hand().m_ptStart.y + m_env.random.Next() % nSide - nSide / 2;
+        const int x = m_rcSpray.left + m_env.random.Next() % nSide;
+        const int y = m_rcSpray.top + m_env.random.Next() % nSide;
         if (!region.Contains({x, y})) continue;
         Scratch().SetPixel(x, y, Hand().m_crPrimary);
         ++nDots;

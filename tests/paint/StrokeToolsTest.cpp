@@ -230,7 +230,16 @@ TEST_F(StrokeTools, TheAirbrushGoesOnUntilTheCanvasSeesItsRelease) {
         EXPECT_TRUE(Scratch() == page.Pixels());
         EXPECT_TRUE(Committed() == before);
     }
-    // Another tool, and another mode, end a timer whose release got lost.
+    // Another tool, and another mode, end a timer whose release got lost. Until its next tick the disc stays
+    // where it was, wherever that tool has gone.
+    m_tools.m_nTool = kToolPen;
+    Press({2, 3});
+    Release({2, 3});
+    m_tools.m_nTool = kToolAirbrush;
+    page = CSurface(Committed());
+    SprayDots(page, random, {60, 50});
+    Tick();
+    EXPECT_TRUE(Scratch() == page.Pixels());
     m_tools.m_nTool = kToolPen;
     Tick();
     EXPECT_FALSE(m_bTimer);

@@ -12,22 +12,26 @@ if(FOTARIUM_SANITIZE)
   target_link_options(fotarium_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# fotarium_room(NAME [LINK libraries...] [PRIVATE libraries...]): the static library of the room src/NAME/. What is
-# private does not reach the rooms above: neither headers nor compiler flags.
-function(fotarium_room NAME)
+# Rooms are named by their folder, engines/effects for one; targets by its last part, room_effects.
+
+# fotarium_room(FOLDER [LINK libraries...] [PRIVATE libraries...]): the static library of the room src/FOLDER/. What
+# is private does not reach the rooms above: neither headers nor compiler flags.
+function(fotarium_room FOLDER)
   cmake_parse_arguments(ARG "" "" "LINK;PRIVATE" ${ARGN})
-  file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.h)
+  get_filename_component(NAME ${FOLDER} NAME)
+  file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${FOLDER}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${FOLDER}/*.h)
   add_library(room_${NAME} STATIC ${SOURCES})
   set_target_properties(room_${NAME} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(room_${NAME} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(room_${NAME} PRIVATE fotarium_flags ${ARG_PRIVATE} PUBLIC ${ARG_LINK})
 endfunction()
 
-# fotarium_test(NAME [LINK libraries...] [FILTER tests]): one GoogleTest program of the files in tests/NAME/. With a
+# fotarium_test(FOLDER [LINK libraries...] [FILTER tests]): one GoogleTest program of the files in tests/FOLDER/. With a
 # filter, ctest runs only what passes it, one by one; the rest is for an add_test of its own.
-function(fotarium_test NAME)
+function(fotarium_test FOLDER)
   cmake_parse_arguments(ARG "" "FILTER" "LINK" ${ARGN})
-  file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.h)
+  get_filename_component(NAME ${FOLDER} NAME)
+  file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${FOLDER}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${FOLDER}/*.h)
   if(NOT SOURCES)
     return()
   endif()
@@ -39,10 +43,11 @@ function(fotarium_test NAME)
     TEST_FILTER "${ARG_FILTER}" DISCOVERY_TIMEOUT 60)
 endfunction()
 
-# fotarium_bench(NAME [LINK libraries...]): one Google Benchmark program of the files in bench/NAME/.
-function(fotarium_bench NAME)
+# fotarium_bench(FOLDER [LINK libraries...]): one Google Benchmark program of the files in bench/FOLDER/.
+function(fotarium_bench FOLDER)
   cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
-  file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${NAME}/*.h)
+  get_filename_component(NAME ${FOLDER} NAME)
+  file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${FOLDER}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${FOLDER}/*.h)
   if(NOT SOURCES)
     return()
   endif()

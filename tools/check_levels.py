@@ -4,7 +4,8 @@
 check_levels.py [ROOT]   prints each breach as FILE:LINE: WHAT, and exits 1 if there is one.
 
 A room may use the rooms of lower levels and, inside its level, those in brackets behind its name. A room whose
-level is a dash stands apart: it may use just those in brackets, and no room may use it.
+level is a dash stands apart: it may use just those in brackets, and no room may use it. A room may lie in a folder of
+several (src/engines/effects/); the last part of its folder is its name. The map names just the rooms that there are.
 """
 
 import re
@@ -18,14 +19,15 @@ QT_PLACES = re.compile(r"(src|tests)/(qt|tour|strips)/|src/resources/([^/]+/)*to
 QT_HEADER = re.compile(r"(Qt\w+/)?(Q[A-Za-z]\w*|q\w+\.h|qt?\w+/q\w+\.h)$")
 
 ROW = re.compile(r"\|\s*(\d+|[-–—])\s*\|([^|]*`src/[^|]*)\|")
-ROOM = re.compile(r"`src/(\w+)/`(?:\s*\(([^)]*)\))?")
+ROOM = re.compile(r"`src/([\w/]+)/`(?:\s*\(([^)]*)\))?")
 INCLUDE = re.compile(r'\s*#\s*include\s*([<"])([^>"]+)[>"]')
-ROOM_CALL = re.compile(r"fotarium_room\s*\(\s*(\w+)([^)]*)\)")
+ROOM_CALL = re.compile(r"fotarium_room\s*\(\s*([\w/]+)([^)]*)\)")
 LINK_CALL = re.compile(r"target_link_libraries\s*\(\s*room_(\w+)([^)]*)\)")
 
 
 @dataclass
 class Room:
+    folder: str  # below src/
     level: int | None  # None: stands apart
     beside: list[str]  # the rooms in brackets
 
@@ -38,19 +40,27 @@ def read_map(path):
         if not row:
             continue
         level = int(row[1]) if row[1].isdigit() else None
-        for name, brackets in ROOM.findall(row[2]):
+        for folder, brackets in ROOM.findall(row[2]):
+            name = folder.rpartition("/")[2]
             beside = re.findall(r"\w+", brackets)
             for other in beside:
                 # Naming only rooms that stand above keeps the use of rooms free of circles.
                 if other not in rooms or (level is not None and not is_at_most(rooms[other], level)):
                     faults.append((number, f"room {name} names {other}, which is no room of its level or a lower "
                                            f"one further up in the table"))
-            rooms[name] = Room(level, beside)
+            rooms[name] = Room(folder, level, beside)
+            if not (path.parent / folder).is_dir():
+                faults.append((number, f"there is no room src/{folder}/"))
     return rooms, faults
 
 
 def is_at_most(room, level):
     return room.level is not None and room.level <= level
+
+
+def room_of(rooms, place):
+    """The room that a path below src/ leads to; None if to none."""
+    return next((name for name, room in rooms.items() if place.startswith(room.folder + "/")), None)
 
 
 def may_use(rooms, user, used):
@@ -66,18 +76,18 @@ def check_includes(rooms, root, path, lines):
     """Yields (line number, what) for each include that the map forbids."""
     place = path.relative_to(root).as_posix()
     top, _, rest = place.partition("/")
-    room = rest.split("/")[0] if top == "src" else None
+    room = room_of(rooms, rest) if top == "src" else None
     for number, line in enumerate(lines, 1):
         include = INCLUDE.match(line)
         if not include:
             continue
         bracket, name = include.groups()
-        first = name.split("/")[0] if "/" in name else None
+        used = room_of(rooms, name)
         if QT_HEADER.match(name):
             if not QT_PLACES.match(place):
                 yield number, f"includes the Qt header {name}"
-        elif first in rooms:
-            if room and not may_use(rooms, room, first):
+        elif used:
+            if room and not may_use(rooms, room, used):
                 yield number, f"room {room} may not use {name}"
         elif bracket == '"' and not is_own_file(root, path, name):
             yield number, f"{name} leads to no room of the map"
@@ -101,16 +111,16 @@ def check_links(rooms, lines):
     text = "\n".join(line.split("#")[0] for line in lines)
     for call in [*ROOM_CALL.finditer(text), *LINK_CALL.finditer(text)]:
         number = text.count("\n", 0, call.start()) + 1
-        room = call[1]
-        if room not in rooms:
-            yield number, f"room {room} is not in the map"
+        room = call[1].rpartition("/")[2]
+        if room not in rooms or (call.re is ROOM_CALL and call[1] != rooms[room].folder):
+            yield number, f"room {call[1]} is not in the map"
             continue
         for used in re.findall(r"\broom_(\w+)", call[2]):
             if used not in rooms:
                 yield number, f"room {room} links room_{used}, which is not in the map"
             elif not may_use(rooms, room, used):
                 yield number, f"room {room} may not link room_{used}"
-        if re.search(r"\bQt\d?::", call[2]) and not QT_PLACES.match(f"src/{room}/"):
+        if re.search(r"\bQt\d?::", call[2]) and not QT_PLACES.match(f"src/{rooms[room].folder}/"):
             yield number, f"room {room} links Qt"
 
 
@@ -120,9 +130,10 @@ def check(root):
     breaches = [f"src/README.md:{number}: {what}" for number, what in faults]
     if not rooms:
         return ["src/README.md:1: no table of rooms and levels"], 0
-    for folder in sorted((root / "src").iterdir()):
-        if folder.is_dir() and folder.name not in rooms and any(folder.iterdir()):
-            breaches.append(f"src/{folder.name}:1: is not in the map")
+    for folder in sorted({path.parent for path in (root / "src").glob("*/**/*") if path.is_file()}):
+        place = folder.relative_to(root / "src").as_posix()
+        if not room_of(rooms, place + "/"):
+            breaches.append(f"src/{place}:1: is not in the map")
 
     count = 0
     for top in ("src", "tests", "bench"):

@@ -4,7 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include "app/BenchProgram.h"
-#include "effects/ImageEffect.h"
+#include "engines/effects/ImageEffect.h"
 
 namespace {
 

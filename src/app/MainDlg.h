@@ -11,7 +11,7 @@
 #include "editor/Editor.h"
 #include "editor/FileCommands.h"
 #include "editor/GeometryCommands.h"
-#include "effects/EffectFlow.h"
+#include "effect/EffectFlow.h"
 #include "link/PhoneLink.h"
 #include "paint/ClipboardCommands.h"
 #include "paint/MySCrollView.h"

@@ -2,13 +2,12 @@
 
 #include <array>
 
+#include "resources/BitmapIds.h"
 #include "resources/HintTable.h"
 #include "resources/Ids.h"
 
 namespace {
 
-constexpr int kBackground = 522;
-constexpr int kTopStrip = 440;
 constexpr CPoint kTopStripAt{19, 61};
 constexpr CPoint kTabStripAt{0, 110};
 constexpr CPoint kTabRowAt{0, 79};
@@ -25,11 +24,11 @@ struct CModeLook {
 };
 
 constexpr std::array<CModeLook, 5> kLooks = {{
-    {486, 0, 503},    // THUM
-    {490, 343, 507},  // DRAW
-    {487, 0, 504},    // EFFECT
-    {488, 296, 505},  // FONT
-    {489, 286, 506},  // STICK
+    {kBmpTabsThum, 0, kBmpTabStripThum},
+    {kBmpTabsDraw, kBmpPanelDraw, kBmpTabStripDraw},
+    {kBmpTabsEffect, 0, kBmpTabStripEffect},
+    {kBmpTabsFont, kBmpPanelFont, kBmpTabStripFont},
+    {kBmpTabsStick, kBmpPanelStick, kBmpTabStripStick},
 }};
 
 const CModeLook& LookOf(int nMode) {
@@ -40,7 +39,7 @@ const CModeLook& LookOf(int nMode) {
 
 void CMainSkin::Paint(CClientArea& client) const {
     const CModeLook& look = LookOf(m_state.m_nMode);
-    client.DrawBitmap(kBackground, 0, 0);
+    client.DrawBitmap(kBmpBackground, 0, 0);
     client.DrawBitmap(look.nTabRow, kTabRowAt.x, kTabRowAt.y);
     if (look.nPanel != 0) client.DrawBitmap(look.nPanel, kPanelAt.x, kPanelAt.y);
     if (m_state.m_nMode == kModeDraw) m_host.PaintToolPanel(client);
@@ -49,9 +48,10 @@ void CMainSkin::Paint(CClientArea& client) const {
 }
 
 void CMainSkin::PaintPreviewBox(CClientArea& client, const CRect& rcBox) const {
-    client.SetClip(rcBox);
-    client.DrawBitmap(kBackground, 0, 0);
-    client.SetClip({});
+    {
+        const CClientArea::CClip clip(client, rcBox);
+        client.DrawBitmap(kBmpBackground, 0, 0);
+    }
     m_host.PaintEffectPreview(client);
 }
 
@@ -64,7 +64,7 @@ void CMainSkin::WipeTabHint(CClientArea& client) const {
 }
 
 void CMainSkin::OnHover(CClientArea& client, int nControl, bool bLeftDown) {
-    client.DrawBitmap(kTopStrip, kTopStripAt.x, kTopStripAt.y);
+    client.DrawBitmap(kBmpTopStrip, kTopStripAt.x, kTopStripAt.y);
     WipeTabHint(client);
     m_nHintCtrl = 0;
     m_nHintState = kNoHint;
@@ -92,7 +92,7 @@ void CMainSkin::OnTimer(CClientArea& client, int nTimer) {
 // Each strip's hint goes when its own second is over, whichever hint came up last: the strip of a hint that
 // has been wiped already is wiped once more.
 void CMainSkin::EndHint(CClientArea& client) {
-    if (m_nHintState == 0) client.DrawBitmap(kTopStrip, kTopStripAt.x, kTopStripAt.y);
+    if (m_nHintState == 0) client.DrawBitmap(kBmpTopStrip, kTopStripAt.x, kTopStripAt.y);
     if (m_nHintState == 1) {
         WipeTabHint(client);
         if (m_state.m_nMode == kModeFont) ShowTextColor(client);

@@ -4,7 +4,7 @@
 #include "browse/ThumPanel.h"
 #include "compose/TextArtFlow.h"
 #include "editor/Editor.h"
-#include "effects/EffectFlow.h"
+#include "effect/EffectFlow.h"
 #include "link/PhoneLink.h"
 #include "paint/MySCrollView.h"
 #include "paint/ToolController.h"

@@ -6,13 +6,12 @@
 
 #include "browse/FolderReader.h"
 #include "browse/Thumbnail.h"
+#include "resources/BitmapIds.h"
 #include "resources/Ids.h"
 #include "resources/Texts.h"
 
 namespace {
 
-constexpr const char* kFolderPicture = "413";
-constexpr const char* kLitFolderPicture = "415";
 constexpr int kProgressEnd = 50;
 constexpr int kTimerFill = 0;
 
@@ -46,6 +45,10 @@ void CPicFileList::ShowFolder(const std::string& strPath) {
     m_env.controls.Show(kFileList, true);
 }
 
+const CxImage* CPicFileList::FolderPicture(int nBitmap) const {
+    return m_env.bitmaps.Find(std::to_string(nBitmap), 1);
+}
+
 // --- filling ---
 
 void CPicFileList::FillThumbnails() {
@@ -74,7 +77,7 @@ void CPicFileList::BuildThumbnails() {
     std::vector<std::string> arrNames = m_arrFolders;
     arrNames.insert(arrNames.end(), m_arrFiles.begin(), m_arrFiles.end());
     m_model.SetItems(arrNames);
-    const CPixels cell = MakeFolderCell(m_env.bitmaps.Find(kFolderPicture, 1));
+    const CPixels cell = MakeFolderCell(FolderPicture(kBmpFolder));
     for (int i = 0; i < FolderCount(); ++i) m_model.SetPicture(i, cell);
     m_nNextItem = FolderCount();
     m_bFilling = true;
@@ -126,7 +129,7 @@ void CPicFileList::StopFill() {
 
 void CPicFileList::RestoreFolder() {
     if (m_nLastClicked >= 0 && m_nLastClicked < FolderCount())
-        m_model.SetPicture(m_nLastClicked, MakeFolderCell(m_env.bitmaps.Find(kFolderPicture, 1)));
+        m_model.SetPicture(m_nLastClicked, MakeFolderCell(FolderPicture(kBmpFolder)));
 }
 
 // A folder with a picture's name counts as a picture here and in the double click: the name alone decides.
@@ -141,7 +144,7 @@ void CPicFileList::OnItemClick(int nItem) {
         m_env.host.ShowFileInfo(strName, EFileInfo::Picture);
     } else {
         m_env.host.ShowFileInfo(strName, EFileInfo::Folder);
-        m_model.SetPicture(nItem, MakeFolderCell(m_env.bitmaps.Find(kLitFolderPicture, 1)));
+        m_model.SetPicture(nItem, MakeFolderCell(FolderPicture(kBmpFolderLit)));
         m_bFolderLit = true;
     }
     m_nLastClicked = nItem;

@@ -80,6 +80,7 @@ class CPicFileList : public CIconListSink, public CFolderFollower, private CTime
     void MakeNext();
     void RestoreFolder();
     void StepIntoFolder(const std::string& strName);
+    const CxImage* FolderPicture(int nBitmap) const;
     std::string PathOf(const std::string& strName) const;
     bool RunDelete(const std::vector<std::string>& arrNames, bool bShift);
 

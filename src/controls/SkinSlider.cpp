@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "resources/BitmapIds.h"
+
 namespace {
 
-constexpr int kChannelPicture = 606;
-constexpr int kThumbPicture = 610;
 constexpr CSize kChannelSize{22, 134};
 constexpr CSize kThumbSize{26, 13};
 constexpr CColor kFace{142, 154, 143};
@@ -45,17 +45,16 @@ CRect CSkinSlider::ThumbRect() const {
 void CSkinSlider::Paint() {
     const CSize size = m_client.Size();
     m_client.FillRect(CRect::FromPlace(0, 0, size.cx, size.cy), kFace);
-    m_client.DrawBitmap(kChannelPicture, (size.cx - kChannelSize.cx) / 2, (size.cy - kChannelSize.cy) / 2);
+    m_client.DrawBitmap(kBmpSliderChannel, (size.cx - kChannelSize.cx) / 2, (size.cy - kChannelSize.cy) / 2);
     m_rcPainted = ThumbRect();
-    m_client.DrawKeyed(kThumbPicture, m_rcPainted.left, m_rcPainted.top);
+    m_client.DrawKeyed(kBmpSliderThumb, m_rcPainted.left, m_rcPainted.top);
 }
 
 void CSkinSlider::PaintMove() {
     const CRect rcThumb = ThumbRect();
     const CRect rcMoved = m_rcPainted.Union(rcThumb);
-    m_client.SetClip(rcMoved);
+    const CClientArea::CClip clip(m_client, rcMoved);
     Paint();
-    m_client.SetClip({});
 }
 
 bool CSkinSlider::MoveTo(int nPos) {

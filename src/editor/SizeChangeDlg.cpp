@@ -9,6 +9,7 @@
 #include <limits>
 #include <utility>
 
+#include "resources/BitmapIds.h"
 #include "resources/Ids.h"
 #include "resources/Templates.h"
 #include "resources/Texts.h"
@@ -17,7 +18,7 @@ namespace {
 
 constexpr int kOwnPage = 0;
 constexpr int kPhonePage = 1;
-constexpr std::array kPageGrounds = {497, 498};
+constexpr std::array kPageGrounds = {kBmpSizeOwn, kBmpSizePhone};
 constexpr std::array kOwnPageControls = {kSizeWidthLabel, kSizeWidth,          kSizeHeightLabel, kSizeHeight,
                                          kSizeKeepRatio,  kSizeKeepRatioLabel, kSizeToPhone};
 constexpr std::array kPhonePageControls = {kSizePhoneList, kSizeToOwn};

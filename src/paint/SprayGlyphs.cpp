@@ -2,11 +2,12 @@
 
 #include <array>
 
+#include "resources/BitmapIds.h"
+
 namespace {
 
-// Pictures of the skin: the clouds from small to large.
-constexpr std::array kClouds = {168, 169, 175};
-constexpr std::array kSelectedClouds = {177, 176, 174};
+constexpr std::array kClouds = {kBmpSpraySmall, kBmpSprayMiddle, kBmpSprayLarge};
+constexpr std::array kSelectedClouds = {kBmpSpraySmallLit, kBmpSprayMiddleLit, kBmpSprayLargeLit};
 
 }  // namespace
 

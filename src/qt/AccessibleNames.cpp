@@ -4,8 +4,9 @@
 #include <array>
 #include <charconv>
 
-#include "effects/EffectTable.h"
+#include "engines/effects/EffectTable.h"
 #include "qt/Text.h"
+#include "resources/BitmapIds.h"
 
 namespace {
 
@@ -36,18 +37,15 @@ constexpr auto kNames = std::to_array<CName>({
     {"1041", "特效"},          {"1047", "强度"},
 });
 
-// The effects' pictures in the list: first all in the selected form, then all in the normal one.
-constexpr int kFirstEffectPicture = 198;
-
 }  // namespace
 
 QString FindEffectName(std::string_view strPicture) {
     int nPicture = 0;
     const auto [pEnd, error] =
         std::from_chars(strPicture.data(), strPicture.data() + strPicture.size(), nPicture);
-    const int nEffect = (nPicture - kFirstEffectPicture) % kEffectCount;
+    const int nEffect = (nPicture - kBmpEffectSelected) % kEffectCount;
     const bool bNumber = error == std::errc() && pEnd == strPicture.data() + strPicture.size();
-    if (!bNumber || nPicture < kFirstEffectPicture || nPicture >= kFirstEffectPicture + 2 * kEffectCount)
+    if (!bNumber || nPicture < kBmpEffectSelected || nPicture >= kBmpEffectSelected + 2 * kEffectCount)
         return {};
     return ToQt(kEffects[static_cast<std::size_t>(nEffect)].szLabel);
 }

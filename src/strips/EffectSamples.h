@@ -5,7 +5,7 @@
 #include <map>
 #include <optional>
 
-#include "effects/ImageEffect.h"
+#include "engines/effects/ImageEffect.h"
 
 // A picture as the engine takes it, and back; 24 bits.
 CxImage ToEngine(const QImage& image);

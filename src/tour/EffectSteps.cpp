@@ -4,7 +4,7 @@
 #include <QTest>
 #include <memory>
 
-#include "effects/EffectFlow.h"
+#include "effect/EffectFlow.h"
 #include "qt/DialogView.h"
 #include "qt/QtGeometry.h"
 #include "resources/Ids.h"

@@ -40,8 +40,17 @@ class CClientArea {
     void DrawTextLine(CTextRasterizer& rasterizer, const CTextFont& font, const std::string& strText,
                       CPoint pt, CColor crText, CColor crGround);
 
-    // Keeps all drawing inside the box until it is set anew; an empty box ends that.
-    void SetClip(const CRect& rcClip) { m_rcClip = rcClip; }
+    // As long as it lives all drawing stays inside the box. One at a time.
+    class CClip {
+      public:
+        CClip(CClientArea& client, const CRect& rc) : m_client(client) { m_client.m_rcClip = rc; }
+        CClip(const CClip&) = delete;
+        CClip& operator=(const CClip&) = delete;
+        ~CClip() { m_client.m_rcClip = {}; }
+
+      private:
+        CClientArea& m_client;
+    };
 
     // The box that has been drawn on since the last call.
     CRect TakeDamage();

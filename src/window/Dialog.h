@@ -3,6 +3,7 @@
 #include "window/ClientArea.h"
 #include "window/ControlSet.h"
 #include "window/Events.h"
+#include "window/PanelHost.h"
 #include "window/Template.h"
 #include "window/Timers.h"
 
@@ -25,7 +26,7 @@ class CDialogHost {
 
 // A window with controls: the state that the user sees, and the handlers of what the user does. Runs with no
 // window system; a host shows it. All handlers run on the one thread, each to its end.
-class CDialog : public CTimerTarget {
+class CDialog : public CTimerTarget, public CPanelHost {
   public:
     explicit CDialog(const CDialogTemplate& dialogTemplate);
     ~CDialog() override = default;
@@ -35,7 +36,7 @@ class CDialog : public CTimerTarget {
     const CDialogTemplate& Template() const { return m_template; }
     CControlSet& Controls() { return m_controls; }
     const CControlSet& Controls() const { return m_controls; }
-    CClientArea& Client() { return m_client; }
+    CClientArea& Client() override { return m_client; }
 
     // --- called by the host ---
 
@@ -75,10 +76,9 @@ class CDialog : public CTimerTarget {
     static constexpr int kDialogOk = 1;
     static constexpr int kDialogCancel = 2;
 
-    void Invalidate();
+    void Invalidate() override;
     void EndDialog(int nCode);
-    // Tells the host what was drawn straight on Client(), outside of a paint.
-    void Present();
+    void Present() override;
 
   protected:
     virtual void OnPaint(CClientArea& /*client*/) {}

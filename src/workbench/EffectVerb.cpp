@@ -3,7 +3,7 @@
 #include <iomanip>
 #include <sstream>
 
-#include "effects/ImageEffect.h"
+#include "engines/effects/ImageEffect.h"
 #include "image/Ppm.h"
 #include "workbench/Verbs.h"
 

@@ -13,6 +13,7 @@ MAP = """
 | level | room | what lives there |
 |---|---|---|
 | 0 | `src/image/` | pixels |
+| 1 | `src/engines/warp/` (image) | bends |
 | 1 | `src/surface/` `src/window/` (surface) | drawing, controls |
 | 2 | `src/editor/` | the picture |
 | 2 | `src/paint/` (editor) | tools |
@@ -27,6 +28,9 @@ CLEAN = {
                           "target_link_libraries(room_paint PRIVATE m)\n",
     "src/image/Bits.h": '#include <queue>\n#include <jpeglib.h>\n// #include "qt/View.h"\n',
     "src/image/Bits.cpp": '#include "image/Bits.h"\n',
+    "src/engines/warp/Mesh.cpp": '#include "engines/warp/Mesh.h"\n#include "image/Bits.h"\n',
+    "src/surface/Pen.h": "",
+    "src/editor/Images.h": '#include "engines/warp/Mesh.h"\n',
     "src/window/Control.h": '#include "surface/Pen.h"\n',
     "src/paint/Pen.cpp": '#include "editor/Images.h"\n#include "window/Control.h"\n',
     "src/qt/View.cpp": '#include <QtGui/QImage>\n#include <QWidget>\n#include "paint/Pen.h"\n#include "View.moc"\n',
@@ -45,6 +49,8 @@ BREACHES = {
     "the same level, against the naming": ("src/editor/Images.cpp", '#include "paint/Pen.h"\n', "may not use"),
     "a room that stands apart, used": ("src/qt/View.cpp", '#include "phone/Phone.h"\n', "may not use"),
     "a room that stands apart, using": ("src/phone/Phone.cpp", '#include "editor/Images.h"\n', "may not use"),
+    "an engine that knows a window": ("src/engines/warp/Mesh.cpp", '#include "window/Control.h"\n', "may not use"),
+    "an engine by half its name": ("src/editor/Images.cpp", '#include "warp/Mesh.h"\n', "leads to no room"),
     "Qt in a room": ("src/paint/Pen.cpp", "#include <QPainter>\n", "Qt header QPainter"),
     "Qt by its module": ("src/paint/Pen.cpp", "#include <QtCore/QString>\n", "Qt header"),
     "Qt by its old header": ("src/paint/Pen.cpp", "#include <qglobal.h>\n", "Qt header"),
@@ -55,11 +61,14 @@ BREACHES = {
     "no such neighbour": ("src/qt/View.cpp", '#include "Missing.h"\n', "leads to no room"),
     "around the map": ("src/image/Bits.cpp", '#include "../qt/View.h"\n', "leads to no room"),
     "a room without a row": ("src/extra/Thing.h", "\n", "is not in the map"),
+    "a room without a row, beside others": ("src/engines/pack/Exif.cpp", "\n", "src/engines/pack:1: is not in the map"),
+    "a row without a room": ("src/README.md", MAP + "| 2 | `src/print/` | paper |\n", "no room src/print/"),
     "too long": ("tests/qt/ViewTest.cpp", "\n" * 501, "501 lines"),
     "a library above": ("src/CMakeLists.txt", "fotarium_room(image LINK JPEG::JPEG\n  room_window)\n", "room_window"),
     "a library above, added later": ("src/CMakeLists.txt", "target_link_libraries(room_image PUBLIC room_qt)\n",
                                      "room_qt"),
     "a library without a row": ("src/CMakeLists.txt", "fotarium_room(widgets)\n", "widgets is not in the map"),
+    "a library by half its name": ("src/CMakeLists.txt", "fotarium_room(warp)\n", "warp is not in the map"),
     "Qt as a library": ("src/CMakeLists.txt", "fotarium_room(paint LINK Qt6::Core)\n", "links Qt"),
     "a circle in the map": ("src/README.md", MAP.replace("`src/editor/`", "`src/editor/` (paint)"), "names paint"),
     "a map that reaches up": ("src/README.md", MAP.replace("`src/editor/`", "`src/editor/` (qt)"), "names qt"),

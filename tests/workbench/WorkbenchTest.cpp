@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <sstream>
 
-#include "effects/ImageEffect.h"
+#include "engines/effects/ImageEffect.h"
 #include "image/Ppm.h"
 #include "support/Pictures.h"
 #include "support/TempFolder.h"

@@ -3,16 +3,13 @@
 #include <QPainter>
 #include <cstdio>
 
+#include "resources/BitmapIds.h"
 #include "strips/EffectCells.h"
 
 // fotarium-strips OUTDIR SAMPLEDIR         renders the pictures of the lists into OUTDIR/1x and OUTDIR/2x
 // fotarium-strips --contact PHOTO OUT.png  all effects on one photograph, for looking at
 
 namespace {
-
-constexpr int kFirstSelected = 198;
-constexpr int kFirstNormal = 229;
-constexpr int kStrip = 196;
 
 int Fail(const QString& strWhy) {
     std::fprintf(stderr, "fotarium-strips: %s\n", qUtf8Printable(strWhy));
@@ -33,12 +30,12 @@ QString WriteEffects(const QString& strFolder, CEffectSamples& samples, int nDen
         const QImage normal = cells.Render(nEffect, false);
         const QImage selected = cells.Render(nEffect, true);
         if (normal.isNull() || selected.isNull()) return "the photographs cannot be read";
-        if (!save(normal, kFirstNormal + nEffect) || !save(selected, kFirstSelected + nEffect))
+        if (!save(normal, kBmpEffectNormal + nEffect) || !save(selected, kBmpEffectSelected + nEffect))
             return "cannot write to " + strFolder;
         painter.drawImage(nEffect * sizeCell.width(), 0, normal);
     }
     painter.end();
-    return save(strip, kStrip) ? QString() : "cannot write to " + strFolder;
+    return save(strip, kBmpEffectStrip) ? QString() : "cannot write to " + strFolder;
 }
 
 int WriteContactSheet(const QString& strPhoto, const QString& strOut) {

@@ -1,0 +1,109 @@
+#include "engines/effects/EffectBench.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cmath>
+#include <ctime>
+#include <optional>
+#include <random>
+#include <string>
+
+#include "engines/effects/CpuChoice.h"
+#include "engines/effects/ImageEffect.h"
+
+namespace {
+
+constexpr int kWidth = 4000;
+constexpr int kHeight = 3000;
+
+// Something of a photograph: slopes, edges and a little noise.
+CPixels MakePicture() {
+    CPixels pixels;
+    pixels.Create(kWidth, kHeight);
+    const CPixelView view = pixels.MutableView();
+    std::minstd_rand random(1);
+    for (int y = 0; y < kHeight; ++y) {
+        for (int x = 0; x < kWidth; ++x) {
+            const double fWave =
+                std::sin(x * 0.011) * std::cos(y * 0.007) + 0.3 * std::sin((x + 2 * y) * 0.05);
+            const int nEdge = (x / 97 + y / 61) % 5 == 0 ? 40 : 0;
+            const int n = 110 + static_cast<int>(60 * fWave) + nEdge + static_cast<int>(random() % 17) - 8;
+            view.Set(
+                x, y,
+                {LimitToByte(n), LimitToByte(n - x * 40 / kWidth), LimitToByte(n / 2 + y * 90 / kHeight)});
+        }
+    }
+    return pixels;
+}
+
+const CxImage& Picture() {
+    static const CxImage image = [] {
+        CxImage made;
+        made.CreateFromHBITMAP(MakePicture());
+        return made;
+    }();
+    return image;
+}
+
+// Time of the processor, not of the clock on the wall: other programs on the machine count little.
+double Now() {
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+double PlainPassTime() {
+    static const double fBest = [] {
+        CPixels pixels = Picture().Pixels();
+        pixels.Separate();
+        double fLeast = 1e9;
+        for (int i = 0; i < 100; ++i) {
+            const double fStart = Now();
+            for (std::uint8_t& n : pixels.MutableBytes()) n = static_cast<std::uint8_t>(255 - n);
+            benchmark::ClobberMemory();
+            fLeast = std::min(fLeast, Now() - fStart);
+        }
+        return fLeast;
+    }();
+    return fBest;
+}
+
+void Run(benchmark::State& state, const CEffectBenchRow& row, bool bPlain) {
+    const double fPass = PlainPassTime();
+    std::optional<CPlainLoops> plain;
+    if (bPlain) plain.emplace();
+    CRandomSequence random;
+    CImageEffect engine(random);
+    CxImage image = Picture();
+    // Writing separates.
+    if (row.bAlone) image.MutableBytes();
+    double fLeast = 1e9;
+    for (auto _ : state) {
+        const double fStart = Now();
+        if (!row.bAlone) image = Picture();
+        if (!engine.ApplyEffect(image, row.nEffect, row.nLevel, false, kWidth))
+            state.SkipWithError("no memory for the picture");
+        benchmark::ClobberMemory();
+        fLeast = std::min(fLeast, Now() - fStart);
+    }
+    state.counters["passes"] = fLeast / fPass;
+    state.counters["at_most"] = bPlain ? 3 * row.fAtMost : row.fAtMost;
+}
+
+// What the passes are counted in.
+void PlainPass(benchmark::State& state) {
+    for (auto _ : state) state.SetIterationTime(PlainPassTime());
+    state.counters["passes"] = 1;
+}
+BENCHMARK(PlainPass)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(1);
+
+}  // namespace
+
+bool RegisterEffects(std::span<const CEffectBenchRow> rows) {
+    for (const bool bPlain : {false, true}) {
+        for (const CEffectBenchRow& row : rows) {
+            const std::string strName = std::string(bPlain ? "Plain/" : "Wide/") + row.szName;
+            benchmark::RegisterBenchmark(strName.c_str(), Run, row, bPlain)->Unit(benchmark::kMillisecond);
+        }
+    }
+    return true;
+}

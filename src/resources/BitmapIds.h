@@ -1,0 +1,43 @@
+#pragma once
+
+// The pictures of the skin by their numbers. Where each stands is the affair of whoever draws it; buttons find
+// theirs by their captions.
+
+// The main window: the whole ground, and clean strips that wipe a hint below the top bar and below the tabs
+inline constexpr int kBmpBackground = 522;
+inline constexpr int kBmpTopStrip = 440;
+inline constexpr int kBmpTabStripThum = 503;
+inline constexpr int kBmpTabStripEffect = 504;
+inline constexpr int kBmpTabStripFont = 505;
+inline constexpr int kBmpTabStripStick = 506;
+inline constexpr int kBmpTabStripDraw = 507;
+// The tab row with each mode's tab selected, and the panels of the modes that have a picture of their own
+inline constexpr int kBmpTabsThum = 486;
+inline constexpr int kBmpTabsEffect = 487;
+inline constexpr int kBmpTabsFont = 488;
+inline constexpr int kBmpTabsStick = 489;
+inline constexpr int kBmpTabsDraw = 490;
+inline constexpr int kBmpPanelFont = 296;
+inline constexpr int kBmpPanelStick = 286;
+inline constexpr int kBmpPanelDraw = 343;
+// The file list's folders
+inline constexpr int kBmpFolder = 413;
+inline constexpr int kBmpFolderLit = 415;
+// The effect list: a strip of all normal pictures, and one picture an effect in each form, in the order of the
+// effects
+inline constexpr int kBmpEffectStrip = 196;
+inline constexpr int kBmpEffectSelected = 198;
+inline constexpr int kBmpEffectNormal = 229;
+// The slider
+inline constexpr int kBmpSliderChannel = 606;
+inline constexpr int kBmpSliderThumb = 610;
+// The airbrush's three clouds, and the same when selected
+inline constexpr int kBmpSpraySmall = 168;
+inline constexpr int kBmpSprayMiddle = 169;
+inline constexpr int kBmpSprayLarge = 175;
+inline constexpr int kBmpSpraySmallLit = 177;
+inline constexpr int kBmpSprayMiddleLit = 176;
+inline constexpr int kBmpSprayLargeLit = 174;
+// The two pages of the size dialog
+inline constexpr int kBmpSizeOwn = 497;
+inline constexpr int kBmpSizePhone = 498;

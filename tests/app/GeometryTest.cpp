@@ -14,8 +14,8 @@ CMessageBox SizeError(bool bTooLarge) {
 
 class GeometryTest : public Workshop {
   protected:
-    CPixels Work() const { return Images().m_pImgWork->Pixels(); }
-    CPixels Display() const { return Images().m_pImgDisplay->Pixels(); }
+    CPixels Work() const { return Images().m_imgWork.Pixels(); }
+    CPixels Display() const { return Images().m_imgDisplay.Pixels(); }
     CSize DisplaySize() const { return Images().DisplaySize(); }
     void SetSize(CSize size) {
         m_platform.AnswerSize(size);
@@ -39,7 +39,7 @@ TEST_F(GeometryTest, EveryPixelOfAFlipAndATurnIsWhereItBelongsAndComesBack) {
     };
     for (const CSize size : {CSize{60, 40}, CSize{23, 71}, CSize{1, 1}}) {
         for (const auto& [nCommand, fnNaive] : kCommands) {
-            for (const int nMode : {kModeEffect, kModeStick, kModeDraw}) {
+            for (const EMode nMode : {EMode::Effect, EMode::Stick, EMode::Draw}) {
                 SCOPED_TRACE(testing::Message() << size.cx << " command " << nCommand << " mode " << nMode);
                 OpenNumbered(size.cx, size.cy);
                 // The display size goes its own way.
@@ -54,8 +54,8 @@ TEST_F(GeometryTest, EveryPixelOfAFlipAndATurnIsWhereItBelongsAndComesBack) {
                 const bool bTurn = nCommand == kCmdTurnLeft || nCommand == kCmdTurnRight;
                 const CSize sizeAfter = bTurn ? CSize{sizeBefore.cy, sizeBefore.cx} : sizeBefore;
                 ExpectDisplay(sizeAfter);
-                if (nMode == kModeDraw) {
-                    EXPECT_EQ(m_dialog.Canvas().CommittedPixels(), after);
+                if (nMode == EMode::Draw) {
+                    EXPECT_EQ(m_dialog.Draw().Paper().Committed().Pixels(), after);
                 }
                 EXPECT_EQ(Undos(), nUndos + 1);
                 Click(kCmdUndo);
@@ -64,7 +64,7 @@ TEST_F(GeometryTest, EveryPixelOfAFlipAndATurnIsWhereItBelongsAndComesBack) {
                 Click(kCmdRedo);
                 EXPECT_EQ(Work(), after);
                 EXPECT_EQ(DisplaySize(), sizeAfter);
-                EXPECT_EQ(Images().m_pImgOpened->Pixels(), NumberedPixels(size.cx, size.cy));
+                EXPECT_EQ(Images().m_imgOpened.Pixels(), NumberedPixels(size.cx, size.cy));
             }
         }
     }
@@ -194,7 +194,7 @@ TEST_F(GeometryTest, ActualGoesBackToTheOpenedSizeTurnedAsTheDisplayIs) {
 
 TEST_F(GeometryTest, UnderThePhoneSizeRuleFlipsRunAndTheRestIsRefused) {
     OpenNumbered(60, 40);
-    GoTo(kModeStick);
+    GoTo(EMode::Stick);
     Click(kRadioPhoneSize);
     const CPixels before = Work();
     Click(kCmdFlipVertical);
@@ -209,7 +209,7 @@ TEST_F(GeometryTest, UnderThePhoneSizeRuleFlipsRunAndTheRestIsRefused) {
         {kCmdTurnLeft, "以现画面大小显示图片\n\n照片翻转(-90°)，请选择当前照片大小的相框"},
         {kCmdTurnRight, "以现画面大小显示图片\n\n照片翻转(+90°)，请选择当前照片大小的相框"},
     };
-    for (const int nMode : {kModeStick, kModeEffect}) {
+    for (const EMode nMode : {EMode::Stick, EMode::Effect}) {
         GoTo(nMode);
         const CSnapshot snapshot = Snapshot();
         for (const auto& [nCommand, szText] : kRefused) {
@@ -223,10 +223,10 @@ TEST_F(GeometryTest, UnderThePhoneSizeRuleFlipsRunAndTheRestIsRefused) {
     EXPECT_EQ(DisplaySize(), (CSize{176, 144}));
     EXPECT_EQ(Work(), before);
     // In DRAW a flip keeps the paper's own size.
-    GoTo(kModeDraw);
+    GoTo(EMode::Draw);
     Click(kCmdFlipHorizontal);
     EXPECT_EQ(Work(), NaiveFlip(before, false));
-    EXPECT_EQ(m_dialog.Canvas().CommittedPixels(), Work());
+    EXPECT_EQ(m_dialog.Draw().Paper().Committed().Pixels(), Work());
 }
 
 TEST_F(GeometryTest, AnItemOfThePictureMenuDoesWhatItsButtonDoes) {
@@ -241,7 +241,7 @@ TEST_F(GeometryTest, AnItemOfThePictureMenuDoesWhatItsButtonDoes) {
         {kMenuSmall, kCmdSmall},
     };
     for (const auto& [nItem, nCommand] : kItems) {
-        for (const int nMode : {kModeEffect, kModeStick}) {
+        for (const EMode nMode : {EMode::Effect, EMode::Stick}) {
             CSnapshot snapshots[2];
             for (const bool bMenu : {false, true}) {
                 OpenNumbered(60, 40);

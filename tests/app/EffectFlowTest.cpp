@@ -302,14 +302,25 @@ TEST_F(EffectFlowTest, AnotherChoiceStartsFromThePictureAgain) {
 TEST_F(EffectFlowTest, CtrlZUndoesUnderAPreview) {
     OpenNumbered(60, 40);
     Edit(77);
+    Edit(78);
     GoTo(EMode::Effect);
+    Choose(kNegative);
+    EXPECT_TRUE(CtrlKey('Z'));
+    EXPECT_FALSE(Controls().IsEnabled(kCmdUndo)) << "a step that is left lights nothing";
+    EXPECT_TRUE(Controls().IsEnabled(kCmdRedo)) << "the one that has come does";
+    GoTo(EMode::Thum);
+    EXPECT_TRUE(CtrlKey('Z'));
+    EXPECT_TRUE(CtrlKey('Y'));
+    EXPECT_TRUE(Controls().IsEnabled(kCmdUndo)) << "a push is a push in THUM too";
+    GoTo(EMode::Effect);
+    Choose(kArt);
     Choose(kNegative);
     const CPixels preview = Preview();
     EXPECT_TRUE(CtrlKey('Z'));
     EXPECT_EQ(Work(), NumberedPixels(60, 40));
     EXPECT_TRUE(m_dialog.Effects().IsPending());
     EXPECT_EQ(Preview(), preview) << "the preview stays as it was";
-    EXPECT_EQ(Redos(), 1);
+    EXPECT_EQ(Redos(), 2);
     Click(kConfirm);
     EXPECT_EQ(Work(), Engine(NumberedPixels(60, 40), kNegative, 0, true)) << "what is there is changed";
     EXPECT_EQ(Redos(), 0);

@@ -8,10 +8,6 @@ namespace {
 
 const char* const kSizeRefusal = "以现画面大小显示图片\n\n大小变更，请选择当前照片大小的相框";
 
-CMessageBox SizeError(bool bTooLarge) {
-    return {bTooLarge ? "最大以上的大小" : "最小以下的大小", "图像大小变更", EBoxIcon::Stop, EBoxButtons::Ok};
-}
-
 class GeometryTest : public Workshop {
   protected:
     CPixels Work() const { return Images().m_imgWork.Pixels(); }
@@ -67,128 +63,6 @@ TEST_F(GeometryTest, EveryPixelOfAFlipAndATurnIsWhereItBelongsAndComesBack) {
                 EXPECT_EQ(Images().m_imgOpened.Pixels(), NumberedPixels(size.cx, size.cy));
             }
         }
-    }
-}
-
-TEST_F(GeometryTest, LargeAndSmallStepFromTheTruncatedSizeAndNeverTouchTheWorkingImage) {
-    OpenNumbered(640, 480);
-    const CSize kChain[] = {{640, 480}, {800, 600}, {1000, 750}, {1250, 937}, {1562, 1171}, {1952, 1463}};
-    for (std::size_t n = 1; n < std::size(kChain); ++n) {
-        Click(kCmdLarge);
-        ExpectDisplay(kChain[n]);
-    }
-    for (std::size_t n = std::size(kChain) - 1; n-- > 0;) {
-        Click(kCmdUndo);
-        ExpectDisplay(kChain[n]);
-    }
-    Click(kCmdSmall);
-    ExpectDisplay({480, 360});
-    Click(kCmdSmall);
-    ExpectDisplay({360, 270});
-    EXPECT_EQ(Work(), NumberedPixels(640, 480));
-
-    struct CCase {
-        CSize size;
-        int nCommand;
-        CSize sizeNew;
-        bool bRefused;
-    };
-    const CCase kCases[] = {
-        {{2600, 1950}, kCmdLarge, {2600, 1950}, true}, {{2560, 1920}, kCmdLarge, {3200, 2400}, false},
-        {{20, 2561}, kCmdLarge, {20, 2561}, true},     {{20, 2560}, kCmdLarge, {25, 3200}, false},
-        {{27, 27}, kCmdSmall, {27, 27}, true},         {{28, 28}, kCmdSmall, {21, 21}, false},
-        {{400, 27}, kCmdSmall, {400, 27}, true},       {{29, 400}, kCmdSmall, {21, 300}, false},
-        {{3200, 20}, kCmdLarge, {3200, 20}, true},
-    };
-    for (const CCase& test : kCases) {
-        SCOPED_TRACE(testing::Message() << test.size.cx << " by " << test.size.cy);
-        OpenNumbered(64, 48);
-        SetSize(test.size);
-        Click(test.nCommand);
-        ExpectDisplay(test.sizeNew);
-        std::vector<CMessageBox> arrBoxes;
-        if (test.bRefused) arrBoxes.push_back(SizeError(test.nCommand == kCmdLarge));
-        ExpectBoxes(arrBoxes);
-        // A refused step can be undone all the same.
-        EXPECT_EQ(Undos(), 2);
-        Click(kCmdUndo);
-        ExpectDisplay(test.size);
-        EXPECT_EQ(Redos(), 1);
-    }
-    // A picture that is larger as opened than Large allows, and one that is smaller than Small does.
-    for (const CSize size : {CSize{3300, 10}, CSize{1, 1}}) {
-        OpenNumbered(size.cx, size.cy);
-        Click(size.cx > 1 ? kCmdLarge : kCmdSmall);
-        ExpectBoxes({SizeError(size.cx > 1)});
-        ExpectDisplay(size);
-    }
-}
-
-TEST_F(GeometryTest, TheSizeDialogTakesSizesWithinItsLimits) {
-    struct CCase {
-        const char* szWidth;
-        const char* szHeight;
-        int nResult;  // 0: taken, 1: too large, -1: too small
-    };
-    const CCase kCases[] = {
-        {"20", "20", 0},    {"3200", "3200", 0}, {"19", "400", -1},         {"400", "19", -1},
-        {"3201", "10", 1},  {"10", "3201", 1},   {"3201", "3201", 1},       {"0", "100", -1},
-        {"-1", "100", -1},  {"100", "", -1},     {"99999999999", "100", 1}, {"100", "-99999999999", -1},
-        {"abc", "def", -1}, {"3200", "20", 0},   {"300", "200", 0},
-    };
-    OpenNumbered(60, 40);
-    CSize sizeNow{60, 40};
-    int nUndos = 0;
-    for (const CCase& test : kCases) {
-        SCOPED_TRACE(std::string(test.szWidth) + " by " + test.szHeight);
-        m_platform.AnswerSize(test.szWidth, test.szHeight);
-        Click(kCmdSize);
-        if (test.nResult == 0) {
-            sizeNow = {std::stoi(test.szWidth), std::stoi(test.szHeight)};
-            ++nUndos;
-            ExpectBoxes({});
-        } else {
-            ExpectBoxes({SizeError(test.nResult > 0)});
-        }
-        ExpectDisplay(sizeNow);
-        EXPECT_EQ(Undos(), nUndos);
-        EXPECT_EQ(Work(), NumberedPixels(60, 40));
-    }
-    // What is shown is what is saved.
-    SaveAs(m_folder.Path("sized.png"));
-    EXPECT_EQ(CxImage(m_folder.Path("sized.png"), ImageType::kPng).GetSize(), (CSize{300, 200}));
-    m_platform.AnswerCancel();
-    Click(kCmdSize);
-    ExpectDisplay({300, 200});
-}
-
-TEST_F(GeometryTest, ActualGoesBackToTheOpenedSizeTurnedAsTheDisplayIs) {
-    struct CCase {
-        CSize sizeOpened;
-        CSize sizeDisplay;
-        int nTurns;
-        CSize sizeActual;
-    };
-    const CCase kCases[] = {
-        {{64, 48}, {320, 240}, 0, {64, 48}}, {{64, 48}, {320, 240}, 1, {48, 64}},
-        {{64, 48}, {320, 240}, 2, {64, 48}}, {{64, 48}, {200, 200}, 0, {48, 64}},  // square counts as upright
-        {{48, 64}, {50, 300}, 0, {48, 64}},  {{48, 64}, {300, 50}, 0, {64, 48}},
-        {{50, 50}, {90, 20}, 1, {50, 50}},
-    };
-    for (const CCase& test : kCases) {
-        SCOPED_TRACE(testing::Message() << test.sizeDisplay.cx << " turned " << test.nTurns);
-        OpenNumbered(test.sizeOpened.cx, test.sizeOpened.cy);
-        SetSize(test.sizeDisplay);
-        for (int n = 0; n < test.nTurns; ++n) Click(kCmdTurnRight);
-        const CPixels before = Work();
-        const CSize sizeBefore = DisplaySize();
-        Click(kCmdActual);
-        // The working image takes that size too.
-        EXPECT_EQ(Work(), NaiveResample(before, test.sizeActual.cx, test.sizeActual.cy));
-        ExpectDisplay(test.sizeActual);
-        Click(kCmdUndo);
-        EXPECT_EQ(Work(), before);
-        ExpectDisplay(sizeBefore);
     }
 }
 

@@ -126,18 +126,6 @@ TEST_F(InputTest, TheMenuIsGreyOnlyWhereThereIsNoStep) {
     expect(true, true);
 }
 
-TEST_F(InputTest, AMenuItemDoesWhatItsButtonDoes) {
-    OpenNumbered(20, 20);
-    Edit(1);
-    MenuItems(kMenuUndo);
-    EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(20, 20));
-    MenuItems(kMenuRedo);
-    EXPECT_EQ(WorkColor().r, 1);
-    MenuItems(kMenuReset);
-    EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(20, 20));
-    EXPECT_EQ(Undos(), 2);
-}
-
 TEST_F(InputTest, TheVersionPlateAnswersInEveryMode) {
     const CMessageBox box{"Build Date : Dec  7 2005", "Orvo Fotarium Version", EBoxIcon::None,
                           EBoxButtons::Ok};

@@ -1,26 +1,10 @@
 #include <set>
 
+#include "app/WantedKeys.h"
 #include "app/Workshop.h"
 #include "resources/ToolTable.h"
 
 namespace {
-
-// When a command is on, a letter a mode in the order THUM, EFFECT, STICK, FONT, DRAW: '+' on, '-' off, 'u'
-// with an undo step, 'r' with a redo step.
-struct CWantedRow {
-    std::vector<int> arrIds;
-    const char* szModes;
-};
-const CWantedRow kCommands[] = {
-    {{kCmdOpen, kCmdNew, kCmdConnect}, "+++++"},
-    {{kCmdSave, kCmdPrint, kCmdReset}, "-++++"},
-    {{kCmdUndo}, "-uuuu"},
-    {{kCmdRedo}, "-rrrr"},
-    {{kCmdCut, kCmdCopy, kCmdPaste, kCmdCrop}, "-----"},
-    {{kCmdSize, kCmdLarge, kCmdActual, kCmdSmall}, "-++--"},
-    {{kCmdFlipVertical, kCmdFlipHorizontal, kCmdTurnLeft, kCmdTurnRight}, "-++-+"},
-    {{kCmdSend, kCmdTake}, "-----"},  // no phone
-};
 
 std::size_t ColumnOf(EMode nMode) {
     constexpr std::size_t kColumns[] = {0, 4, 1, 3, 2};
@@ -54,20 +38,19 @@ std::set<int> PanelOf(EMode nMode, bool bOpen) {
 class ModeTest : public Workshop {
   protected:
     void ExpectCommands(EMode nMode) {
-        for (const CWantedRow& row : kCommands)
-            for (const int nId : row.arrIds) {
-                const char cRule = row.szModes[ColumnOf(nMode)];
-                bool bOn = cRule == '+' || (cRule == 'u' && Undos() > 0) || (cRule == 'r' && Redos() > 0);
-                if (!State().m_bImageOpen && nId != kCmdOpen && nId != kCmdNew && nId != kCmdConnect)
-                    bOn = false;
-                EXPECT_EQ(Controls().IsEnabled(nId), bOn) << "command " << nId << " in mode " << nMode;
-            }
+        for (const CWantedKey& key : kWantedKeys) {
+            const char cRule = key.szRow[ColumnOf(nMode)];
+            bool bOn = cRule == '+' || (cRule == 'u' && Undos() > 0) || (cRule == 'r' && Redos() > 0);
+            const bool bAlways = key.nId == kCmdOpen || key.nId == kCmdNew || key.nId == kCmdConnect;
+            if (bAlways || !State().m_bImageOpen) bOn = bAlways;
+            EXPECT_EQ(Controls().IsEnabled(key.nId), bOn) << "command " << key.nId << " in mode " << nMode;
+        }
     }
 
     void ExpectLooks(EMode nMode) {
         const bool bOpen = State().m_bImageOpen;
         std::set<int> setWanted = PanelOf(nMode, bOpen);
-        for (const CWantedRow& row : kCommands) setWanted.insert(row.arrIds.begin(), row.arrIds.end());
+        for (const CWantedKey& key : kWantedKeys) setWanted.insert(key.nId);
         for (const EMode nTabMode : kAllModes)
             if (nTabMode != nMode) setWanted.insert(TabOf(nTabMode));
         std::set<int> setShown;
@@ -157,21 +140,6 @@ TEST_F(ModeTest, AnyModeFollowsAnyWithAPicture) {
     EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(60, 40));
 }
 
-TEST_F(ModeTest, HistoryButtonsFollowTheirCounts) {
-    OpenNumbered(20, 20);
-    Edit(1);
-    for (const EMode nMode : {EMode::Stick, EMode::Effect, EMode::Font, EMode::Draw}) {
-        GoTo(nMode);
-        ExpectCommands(nMode);
-        Click(kCmdUndo);
-        ExpectCommands(nMode);
-        EXPECT_TRUE(Controls().IsEnabled(kCmdRedo) && !Controls().IsEnabled(kCmdUndo));
-        Click(kCmdRedo);
-        ExpectCommands(nMode);
-        EXPECT_TRUE(Controls().IsEnabled(kCmdUndo) && !Controls().IsEnabled(kCmdRedo));
-    }
-}
-
 TEST_F(ModeTest, SliderAndLevelRestOnEntryToEffect) {
     OpenNumbered(20, 20);
     Controls().SetPosition(kEffectSlider, 3);
@@ -221,19 +189,4 @@ TEST_F(ModeTest, DrawBeginsWithTheMagnifierAtOneToOne) {
         EXPECT_EQ(m_dialog.Tools().CurrentTool(), 10);
         EXPECT_EQ(m_dialog.Tools().State().m_nZoom, 1);
     }
-}
-
-// Paint goes with every way out of DRAW but that to THUM; an untouched visit changes nothing.
-TEST_F(ModeTest, AVisitToDrawLeavesThePixels) {
-    OpenNumbered(61, 43);
-    for (const EMode nMode : {EMode::Thum, EMode::Effect, EMode::Font, EMode::Stick}) {
-        GoTo(EMode::Draw);
-        PaintOver(Touch(Images().m_imgWork),
-                  {1, 2, 3});  // the canvas has the picture, whatever this one holds
-        GoTo(nMode);
-        const bool bFetched = Images().m_imgWork.Pixels() == NumberedPixels(61, 43);
-        EXPECT_EQ(bFetched, nMode != EMode::Thum);
-        if (!bFetched) OpenNumbered(61, 43);
-    }
-    EXPECT_EQ(Undos(), 0);
 }

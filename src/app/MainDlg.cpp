@@ -21,7 +21,7 @@ CMainDlg::CMainDlg(const CPlatform& platform)
       m_lines(m_state, m_images, Controls()),
       m_skin(m_state, Controls(), platform.timers, *this, *this),
       m_thum(platform.drives, {Controls(), platform.folders, platform.shell, platform.boxes, platform.timers,
-                               platform.wait, platform.bitmaps, *this}),
+                               platform.wait, platform.bitmaps, *this, *this}),
       m_effects({m_state, m_images, Controls(), m_canvas, *this, *this, platform.wait, platform.boxes,
                  m_editor, m_random}),
       m_modes({m_state, m_images, Controls(), m_canvas, m_tools, m_editor, m_lines, m_thum, m_effects,
@@ -31,7 +31,6 @@ void CMainDlg::OnInitDialog() {
     Controls().Check(kCheckLines, true);
     Controls().Check(kRadioProjection, true);
     Controls().Check(kRadioImageSize, true);
-    Controls().SetRange(kProgress, 0, 50);
     m_effects.Init();
     m_thum.Build();
     m_thum.ShowCurrentFolder();
@@ -52,6 +51,14 @@ void CMainDlg::OnDestroy() {
 
 void CMainDlg::OnPaint(CClientArea& client) {
     m_skin.Paint(client);
+}
+
+void CMainDlg::Tell(EEditEvent event) {
+    if (event == EEditEvent::FillBegun) return Controls().Show(kProgress, m_state.m_bThumbMode);
+    if (event == EEditEvent::FillEnded) return Controls().Show(kProgress, false);
+    if (event == EEditEvent::FileShown) Controls().Show(kProgress, false);
+    Controls().Show(kCanvas, false);
+    Controls().Show(kFileList, true);
 }
 
 CTreeModel* CMainDlg::TreeOf(int nId) {

@@ -30,6 +30,7 @@ class CMainDlg : public CDialog,
                  private CToolHost,
                  private CSkinHost,
                  private CBrowseHost,
+                 private CEditEvents,
                  private CEffectHost,
                  private CPreviewFactory {
   public:
@@ -100,14 +101,16 @@ class CMainDlg : public CDialog,
     void SetHelp(int nCode) override { m_lines.SetHelp(nCode); }
 
     // CBrowseHost
-    void ShowFileInfo(const std::string& strName, EFileInfo kind) override {
-        m_lines.ShowFileInfo(strName, kind);
+    void ShowFileInfo(const std::string& strPath, EFileInfo kind) override {
+        m_lines.ShowFileInfo(strPath, kind);
     }
     void OpenPicture(const std::string& strFolder, const std::string& strName) override {
         m_files.OpenFileByName(strFolder, strName);
     }
     void LeaveEditInfo() override { m_state.m_bEditInfo = false; }
-    bool IsThumMode() const override { return m_state.m_bThumbMode; }
+
+    // CEditEvents
+    void Tell(EEditEvent event) override;
 
     // CSkinHost
     CColor TextColor() const override { return m_textArt.TextColor(); }

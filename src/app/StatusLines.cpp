@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 
 #include "resources/Ids.h"
 #include "resources/Texts.h"
@@ -12,6 +13,10 @@ std::string FormatSize(int nWidth, int nHeight) {
     std::array<char, 64> buffer{};
     std::snprintf(buffer.data(), buffer.size(), " :%5dX%-8d ", nWidth, nHeight);
     return kWordSize + std::string(buffer.data());
+}
+
+std::string NameOf(const std::string& strPath) {
+    return std::filesystem::path(strPath).filename().string();
 }
 
 std::string FormatDepth(int nBits) {
@@ -60,12 +65,13 @@ void CStatusLines::ShowDepthInfo() {
     m_controls.SetText(kInfoDepth, FormatDepth(m_images.m_pImgDisplay->GetBpp()));
 }
 
-void CStatusLines::ShowFileInfo(const std::string& strName, EFileInfo kind) {
+void CStatusLines::ShowFileInfo(const std::string& strPath, EFileInfo kind) {
     ShowPair(kInfoName, kBrowseName);
     ShowPair(kInfoSize, kBrowseSize);
     ShowPair(kInfoDepth, kBrowseDepth);
-    if (kind == EFileInfo::Picture) return ShowPicture(strName);
+    if (kind == EFileInfo::Picture) return ShowPicture(strPath);
 
+    const std::string strName = NameOf(strPath);
     const bool bEdit = m_state.m_bEditInfo;
     const bool bClear = kind == EFileInfo::Clear;
     m_controls.SetText(
@@ -75,17 +81,15 @@ void CStatusLines::ShowFileInfo(const std::string& strName, EFileInfo kind) {
     m_controls.SetText(bEdit ? kInfoDepth : kBrowseDepth, PadColumns(" ", bClear ? 20 : 24));
 }
 
-void CStatusLines::ShowPicture(const std::string& strName) {
-    m_strBrowsePath = strName;
+void CStatusLines::ShowPicture(const std::string& strPath) {
+    m_strBrowsePath = strPath;
+    const std::string strName = NameOf(strPath);
     if (GetFileExtension(strName).empty()) return;
-    m_pImgBrowse = std::make_unique<CxImage>(strName, FindImageTypeOfName(strName));
+    m_pImgBrowse = std::make_unique<CxImage>(strPath, FindImageTypeOfName(strName));
     const bool bValid = m_pImgBrowse->IsValid();
     m_controls.SetText(kBrowseName, std::string(kWordName) + ": " + PadColumns(strName, 100));
     m_controls.SetText(kBrowseSize, FormatSize(m_pImgBrowse->GetWidth(), m_pImgBrowse->GetHeight()));
     m_controls.SetText(kBrowseDepth, FormatDepth(bValid ? m_pImgBrowse->GetBpp() : 0));
-    m_controls.Show(kProgress, false);
-    m_controls.Show(kCanvas, false);
-    m_controls.Show(kFileList, true);
 }
 
 void CStatusLines::SetHelp(int nCode) {

@@ -58,7 +58,9 @@ TEST_F(BrowseTest, LeavingTheBrowserEndsAFillAndTheWayBackReadsTheFolderAnew) {
     EXPECT_EQ(Images().m_pImgWork->GetSize(), (CSize{37, 20}));
     EXPECT_EQ(State().m_strFilePath, Start("p7.jpg"));
     GoTo(kModeThum);
-    EXPECT_TRUE(List().IsFilling());
+    EXPECT_FALSE(Controls().IsShown(kProgress)) << "the mode comes up behind the head of the fill";
+    List().FillThumbnails();
+    EXPECT_TRUE(List().IsFilling() && Controls().IsShown(kProgress));
     List().FinishFill();
     ExpectNoFill();
     for (int n = 0; n < List().Model().Count(); ++n) {

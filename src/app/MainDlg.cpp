@@ -5,12 +5,6 @@
 #include "resources/MainDialog.h"
 #include "resources/Texts.h"
 
-namespace {
-
-constexpr int kProgressEnd = 50;
-
-}  // namespace
-
 CMainDlg::CMainDlg(const CPlatform& platform)
     : CDialog(kMainDialog),
       m_platform(platform),
@@ -27,7 +21,7 @@ CMainDlg::CMainDlg(const CPlatform& platform)
       m_lines(m_state, m_images, Controls(), m_desk),
       m_skin(m_state, Controls(), platform.timers, *this, *this),
       m_thum(platform.drives, {Controls(), platform.folders, platform.shell, platform.boxes, platform.timers,
-                               platform.wait, platform.bitmaps, *this}),
+                               platform.wait, platform.bitmaps, *this, m_desk}),
       m_effects({m_state, m_images, Controls(), *this, m_desk, platform.wait, m_editor, m_random}),
       m_modes({m_state, m_images, Controls(), m_desk, m_canvas, m_draw, m_tools, m_editor, m_lines, m_thum,
                m_effects, m_textArt, m_link, platform.wait}),
@@ -39,7 +33,6 @@ void CMainDlg::OnInitDialog() {
     Controls().Check(kCheckLines, true);
     Controls().Check(kRadioProjection, true);
     Controls().Check(kRadioImageSize, true);
-    Controls().SetRange(kProgress, 0, kProgressEnd);
     m_effects.Init();
     m_thum.Build();
     m_thum.ShowCurrentFolder();

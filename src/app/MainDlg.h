@@ -81,14 +81,13 @@ class CMainDlg : public CDialog,
     void SetHelp(int nCode) override { m_lines.SetHelp(nCode); }
 
     // CBrowseHost
-    void ShowFileInfo(const std::string& strName, EFileInfo kind) override {
-        m_lines.ShowFileInfo(strName, kind);
+    void ShowFileInfo(const std::string& strPath, EFileInfo kind) override {
+        m_lines.ShowFileInfo(strPath, kind);
     }
     void OpenPicture(const std::string& strFolder, const std::string& strName) override {
         m_commands.OpenFileByName(strFolder, strName);
     }
     void LeaveEditInfo() override { m_lines.TellOfBrowsing(); }
-    bool IsThumMode() const override { return m_state.IsUp(EMode::Thum); }
 
     // CSkinHost
     CColor TextColor() const override { return m_textArt.TextColor(); }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 
 #include "resources/Ids.h"
 #include "resources/Texts.h"
@@ -12,6 +13,10 @@ std::string FormatSize(int nWidth, int nHeight) {
     std::array<char, 64> buffer{};
     std::snprintf(buffer.data(), buffer.size(), " :%5dX%-8d ", nWidth, nHeight);
     return kWordSize + std::string(buffer.data());
+}
+
+std::string NameOf(const std::string& strPath) {
+    return std::filesystem::path(strPath).filename().string();
 }
 
 std::string FormatDepth(int nBits) {
@@ -48,25 +53,25 @@ void CStatusLines::ShowEditInfo() {
     m_controls.SetText(kInfoDepth, FormatDepth(m_images.m_imgDisplay.GetBpp()));
 }
 
-void CStatusLines::ShowFileInfo(const std::string& strName, EFileInfo kind) {
+void CStatusLines::ShowFileInfo(const std::string& strPath, EFileInfo kind) {
     m_desk.ShowInfoLines(m_bEditInfo);
-    if (kind == EFileInfo::Picture) return ShowPicture(strName);
+    if (kind == EFileInfo::Picture) return ShowPicture(strPath);
 
     const bool bClear = kind == EFileInfo::Clear;
     m_controls.SetText(
         m_bEditInfo ? kInfoName : kBrowseName,
-        bClear ? PadColumns(" ", 90) : std::string(kWordName) + " : " + PadColumns(strName, 62));
+        bClear ? PadColumns(" ", 90) : std::string(kWordName) + " : " + PadColumns(NameOf(strPath), 62));
     m_controls.SetText(m_bEditInfo ? kInfoSize : kBrowseSize, PadColumns(" ", 60));
     m_controls.SetText(m_bEditInfo ? kInfoDepth : kBrowseDepth, PadColumns(" ", bClear ? 20 : 24));
 }
 
-void CStatusLines::ShowPicture(const std::string& strName) {
+void CStatusLines::ShowPicture(const std::string& strPath) {
+    const std::string strName = NameOf(strPath);
     if (GetFileExtension(strName).empty()) return;
-    const CxImage image(strName, FindImageTypeOfName(strName));
+    const CxImage image(strPath, FindImageTypeOfName(strName));
     m_controls.SetText(kBrowseName, std::string(kWordName) + ": " + PadColumns(strName, 100));
     m_controls.SetText(kBrowseSize, FormatSize(image.GetWidth(), image.GetHeight()));
     m_controls.SetText(kBrowseDepth, FormatDepth(image.IsValid() ? image.GetBpp() : 0));
-    m_desk.Tell(EEditEvent::FileShown);
 }
 
 void CStatusLines::SetHelp(int nCode) {

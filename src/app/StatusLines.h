@@ -24,16 +24,16 @@ class CStatusLines {
 
     // Name, size and depth of the edited picture, at the end of each paint of the canvas.
     void ShowEditInfo();
-    // What the user clicked in the tree or the list. The name is a bare one in the process's current folder.
-    // A file that cannot be opened shows zero for size and depth.
-    void ShowFileInfo(const std::string& strName, EFileInfo kind);
+    // What the user clicked in the tree or the list: its path, of which the last part is told. A file that
+    // cannot be opened shows zero for size and depth.
+    void ShowFileInfo(const std::string& strPath, EFileInfo kind);
 
     // Shows the help line with the text of the code; an unknown code leaves the text.
     void SetHelp(int nCode);
 
   private:
     std::string SizeInfo() const;
-    void ShowPicture(const std::string& strName);
+    void ShowPicture(const std::string& strPath);
 
     const CEditState& m_state;
     const CWorkingImages& m_images;

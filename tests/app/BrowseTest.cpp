@@ -58,7 +58,7 @@ TEST_F(BrowseTest, LeavingTheBrowserEndsAFillAndTheWayBackReadsTheFolderAnew) {
     EXPECT_EQ(Images().m_imgWork.GetSize(), (CSize{37, 20}));
     EXPECT_EQ(State().m_strFilePath, Start("p7.jpg"));
     GoTo(EMode::Thum);
-    EXPECT_TRUE(List().IsFilling());
+    EXPECT_TRUE(List().IsFilling() && Controls().IsShown(kProgress));
     List().FinishFill();
     ExpectNoFill();
     for (int n = 0; n < List().Model().Count(); ++n) {

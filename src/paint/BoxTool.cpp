@@ -25,13 +25,13 @@ void CBoxTool::Release(CPoint pt) {
 void CBoxTool::DrawFigure(CSurface& surface, CPoint pt) const {
     const CRect rc = Between(Hand().m_ptStart, pt);
     switch (m_figure) {
-        case BoxFigure::kRectangle:
+        case EBoxFigure::Rectangle:
             surface.Rectangle(rc);
             break;
-        case BoxFigure::kEllipse:
+        case EBoxFigure::Ellipse:
             surface.Ellipse(rc);
             break;
-        case BoxFigure::kRoundRect:
+        case EBoxFigure::RoundRect:
             surface.RoundRect(rc, kCorner);
             break;
     }

@@ -106,8 +106,9 @@ bool CDrawGuest::PrepareDrop() {
 
 void CDrawGuest::EndFloat() {
     m_env.tools.m_nTool = m_env.tools.m_nResumeTool;
-    if (m_env.tools.m_nTool == kToolSelectPolygon) m_hand.m_nVertexCount = std::max(0, m_hand.m_nVertexCount);
-    if (m_env.tools.m_nTool == kToolSelectFree) m_selection.m_free.Clear();
+    if (m_env.tools.m_nTool == ETool::SelectPolygon)
+        m_hand.m_nVertexCount = std::max(0, m_hand.m_nVertexCount);
+    if (m_env.tools.m_nTool == ETool::SelectFree) m_selection.m_free.Clear();
     m_selection.SetFloating(false);
 }
 

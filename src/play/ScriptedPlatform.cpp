@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -248,9 +249,11 @@ void CScriptedPlatform::End() {
     --m_nWaitDepth;
 }
 
-bool CScriptedPlatform::SetBitmap(std::span<const std::uint8_t> arrDib) {
+bool CScriptedPlatform::SetBitmap(std::span<const std::uint8_t> arrDib) try {
     m_clipboard.emplace(arrDib.begin(), arrDib.end());
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 std::string CScriptedPlatform::CurrentFolder() const {

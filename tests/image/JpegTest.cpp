@@ -10,7 +10,7 @@ class Jpeg : public CFolderTest {
   protected:
     CxImage Load(const Bytes& file) const {
         WriteBytes(Path("a.jpg"), file);
-        return CxImage(Path("a.jpg"), ImageType::kJpeg);
+        return LoadPicture(Path("a.jpg"), ImageType::kJpeg);
     }
 };
 

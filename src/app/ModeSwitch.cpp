@@ -122,7 +122,7 @@ void CModeSwitch::BeginPictureMode() {
 // The display as EFFECT and STICK have it: at the size that rules, and with nothing to cut or copy.
 void CModeSwitch::ShowRuledDisplay() {
     const CSize size = m_env.images.RuledSize();
-    m_env.images.m_pImgDisplay->Resample(size.cx, size.cy);
+    if (!m_env.images.m_pImgDisplay->Resample(size.cx, size.cy)) m_env.images.RebuildDisplay(size);
     m_env.controls.Enable(kClipboardCommands, false);
 }
 
@@ -145,7 +145,8 @@ void CModeSwitch::ShowDraw() {
     if (!m_env.state.m_bImageOpen) return ShowNoPicture();
 
     BeginEditMode();
-    m_env.images.m_pImgDisplay->Resample(m_env.images.m_nDispWidth, m_env.images.m_nDispHeight);
+    const CSize size = m_env.images.DisplaySize();
+    if (!m_env.images.m_pImgDisplay->Resample(size.cx, size.cy)) m_env.images.RebuildDisplay(size);
     m_env.editor.ShowHistory();
     m_env.controls.Enable(kZoomCommands, false);
     m_env.controls.Enable(kClipboardCommands, false);

@@ -86,10 +86,7 @@ void CPreviewFileDlg::ShowPreview(const std::string& strPath) {
     if (!pImage->IsValid()) return;
     const CSize size = PreviewSize(sizeFull);
     // Of a very thin picture nothing is left at this size.
-    if (size.cx > 0 && size.cy > 0) {
-        pImage->Resample(size.cx, size.cy);
-        m_pImage = std::move(pImage);
-    }
+    if (size.cx > 0 && size.cy > 0 && pImage->Resample(size.cx, size.cy)) m_pImage = std::move(pImage);
     m_strPreviewPath = strPath;
     m_view.SetScrollSizes({0, 0});
     m_view.Invalidate();

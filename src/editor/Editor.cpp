@@ -44,9 +44,8 @@ void CEditor::TransferCanvas(bool bFetch) {
         m_env.canvas.LoadPicture(*m_env.images.m_pImgWork);
         return;
     }
-    // Nothing has been loaded into the canvas yet: there is nothing to fetch.
-    if (m_env.canvas.CommittedPixels().IsEmpty()) return;
-    m_env.images.m_pImgWork->CreateFromHBITMAP(m_env.canvas.CommittedPixels());
+    // If nothing has been loaded into the canvas yet, there is nothing to fetch.
+    if (!m_env.images.m_pImgWork->CreateFromHBITMAP(m_env.canvas.CommittedPixels())) return;
     m_env.images.m_pImgDisplay = std::make_unique<CxImage>(*m_env.images.m_pImgWork);
 }
 

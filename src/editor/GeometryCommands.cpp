@@ -10,11 +10,8 @@ namespace {
 
 constexpr double kZoomStep = 0.25;
 
-void FlipImage(CxImage& image, bool bVertical) {
-    if (bVertical)
-        image.Flip();
-    else
-        image.Mirror();
+[[nodiscard]] bool FlipImage(CxImage& image, bool bVertical) {
+    return bVertical ? image.Flip() : image.Mirror();
 }
 
 }  // namespace
@@ -55,12 +52,13 @@ void CGeometryCommands::Flip(bool bVertical) {
     const CWaitScope wait(m_env.wait);
     if (!BeginEdit()) return;
     CWorkingImages& images = m_env.images;
-    FlipImage(*images.m_pImgWork, bVertical);
+    if (!FlipImage(*images.m_pImgWork, bVertical)) return;
     // In DRAW the display keeps its own size also under the phone size rule.
     const bool bPhoneScreen = images.m_bPhoneSize && !m_env.state.m_bDrawMode;
     images.RebuildDisplay(bPhoneScreen ? CWorkingImages::kPhoneScreen : images.DisplaySize());
     EndEdit();
-    if (images.m_bFrameOn && images.m_pImgNoFrame) FlipImage(*images.m_pImgNoFrame, bVertical);
+    if (images.m_bFrameOn && images.m_pImgNoFrame && !FlipImage(*images.m_pImgNoFrame, bVertical))
+        images.m_pImgNoFrame.reset();
     if (m_env.state.m_bDrawMode) m_env.tools.FocusCurrentTool();
 }
 
@@ -76,11 +74,12 @@ void CGeometryCommands::Turn(double fDegrees, const char* szRefusal) {
     const CWaitScope wait(m_env.wait);
     if (!BeginEdit()) return;
     CWorkingImages& images = m_env.images;
-    images.m_pImgWork->Rotate(fDegrees);
+    if (!images.m_pImgWork->Rotate(fDegrees)) return;
     images.SetDisplaySize({images.m_nDispHeight, images.m_nDispWidth});
     images.RebuildDisplay(images.DisplaySize());
     EndEdit();
-    if (images.m_bFrameOn && images.m_pImgNoFrame) images.m_pImgNoFrame->Rotate(fDegrees);
+    if (images.m_bFrameOn && images.m_pImgNoFrame && !images.m_pImgNoFrame->Rotate(fDegrees))
+        images.m_pImgNoFrame.reset();
 }
 
 void CGeometryCommands::ShowSizeError(const char* szText) {
@@ -137,8 +136,9 @@ void CGeometryCommands::OnActual() {
     const auto [nSmall, nBig] =
         std::minmax({images.m_pImgOpened->GetWidth(), images.m_pImgOpened->GetHeight()});
     const bool bUpright = images.m_nDispWidth <= images.m_nDispHeight;
-    images.SetDisplaySize(bUpright ? CSize{nSmall, nBig} : CSize{nBig, nSmall});
-    images.m_pImgWork->Resample(images.m_nDispWidth, images.m_nDispHeight);
+    const CSize size = bUpright ? CSize{nSmall, nBig} : CSize{nBig, nSmall};
+    if (!images.m_pImgWork->Resample(size.cx, size.cy)) return;
+    images.SetDisplaySize(size);
     images.RebuildDisplay(images.DisplaySize());
     EndEdit();
 }

@@ -40,9 +40,10 @@ float CWorkingImages::FitDisplay() {
     if (rx <= 1.0F && ry <= 1.0F) return 1.0F;
     const float fScale = rx > ry ? 1.0F / rx : 1.0F / ry;
     // A very long and thin picture keeps one line.
-    m_pImgDisplay->Resample(std::max(1, static_cast<int>(static_cast<float>(nWidth) * fScale)),
-                            std::max(1, static_cast<int>(static_cast<float>(nHeight) * fScale)));
-    return fScale;
+    const CSize size{std::max(1, static_cast<int>(static_cast<float>(nWidth) * fScale)),
+                     std::max(1, static_cast<int>(static_cast<float>(nHeight) * fScale))};
+    // Without memory for it the picture is displayed as large as it is.
+    return m_pImgDisplay->Resample(size.cx, size.cy) ? fScale : 1.0F;
 }
 
 CUndoEntry CWorkingImages::MakeEntry() const {

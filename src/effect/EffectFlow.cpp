@@ -116,6 +116,10 @@ void CEffectFlow::OnSelChangeEffectList() {
     const int nEffect = m_list.Selection();
     if (!m_env.state.m_bImageOpen || nEffect < 0 || nEffect >= kEffectCount) return;
     const CWaitScope wait(m_env.wait);
+    auto pBase = std::make_unique<CxImage>(*m_env.images.m_pImgWork);
+    const CSize size = PreviewSize(pBase->GetSize());
+    // Of a very long and thin picture one line is left at this size.
+    if (!pBase->Resample(std::max(1, size.cx), std::max(1, size.cy))) return;
     m_nEffectIndex = nEffect;
     if (m_nEffectShown >= 0) m_list.ReplaceCell(m_nEffectShown, NormalPicture(m_nEffectShown));
     m_list.ReplaceCell(nEffect, SelectedPicture(nEffect));
@@ -124,10 +128,6 @@ void CEffectFlow::OnSelChangeEffectList() {
     SetEffectControls(nEffect);
     m_env.controls.Enable(kCommandsOff, false);
 
-    auto pBase = std::make_unique<CxImage>(*m_env.images.m_pImgWork);
-    const CSize size = PreviewSize(pBase->GetSize());
-    // Of a very long and thin picture one line is left at this size.
-    pBase->Resample(std::max(1, size.cx), std::max(1, size.cy));
     m_pImgEffectBase = std::move(pBase);
     // Without memory for the effect the preview shows the picture as it is.
     m_pImgEffectSmall = std::make_unique<CxImage>(*m_pImgEffectBase);

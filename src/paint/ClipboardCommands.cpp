@@ -25,8 +25,8 @@ bool CClipboardCommands::LiftToClipboard(const char* szFailed) {
     CSelection& selection = m_env.canvas.Selection();
     CxImage image;
     const bool bAny = selection.Build(m_env.tools.m_nTool, m_env.canvas.Hand());
-    if (bAny) image.CreateFromHBITMAP(selection.Lift(m_env.canvas.Paper().Committed()));
-    if (!image.IsValid() || !m_env.clipboard.SetBitmap(image.CopyToHandle()))
+    const bool bTaken = bAny && image.CreateFromHBITMAP(selection.Lift(m_env.canvas.Paper().Committed()));
+    if (!bTaken || !m_env.clipboard.SetBitmap(image.CopyToHandle()))
         m_env.boxes.Show({szFailed, kTextProgram, EBoxIcon::Exclamation, EBoxButtons::Ok});
     return bAny;
 }
@@ -74,13 +74,15 @@ void CClipboardCommands::OnPaste() {
     m_env.state.m_bEffectPending = false;
 }
 
-// If another program has taken the clipboard, the last float's pixels are up, or none.
+// If another program has taken the clipboard or what it holds cannot be read, the last float's pixels are up,
+// or none.
 void CClipboardCommands::Float() {
     CSelection& selection = m_env.canvas.Selection();
     selection.m_bFloating = true;
     const auto dib = m_env.clipboard.GetBitmap();
     if (!dib) return;
-    selection.m_imgFloat.CreateFromHANDLE(*dib);
+    CxImage image;
+    if (image.CreateFromHANDLE(*dib)) selection.m_imgFloat = image;
     CPaper& paper = m_env.canvas.Paper();
     paper.Revert();
     selection.MoveTo(m_env.canvas.VisibleCorner());

@@ -4,7 +4,7 @@ void CFillTool::Press(CPoint pt) {
     if (!m_env.Snapshot()) return;
     Hand().m_ptStart = pt;
     const CBrush brushBefore = Committed().SelectBrush(CBrush::Solid(Hand().m_crPrimary));
-    Committed().FloodFill(pt, Committed().GetPixel(pt.x, pt.y));
+    const bool bFilled = Committed().FloodFill(pt, Committed().GetPixel(pt.x, pt.y));
     Committed().SelectBrush(brushBefore);
-    Paper().Revert();
+    if (bFilled) Paper().Revert();
 }

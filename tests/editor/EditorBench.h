@@ -45,7 +45,7 @@ class EditorBench : public testing::Test,
         m_state.m_bEffectMode = nMode == kModeEffect;
         m_state.m_bStickMode = nMode == kModeStick;
         m_state.m_bThumbMode = nMode == kModeThum;
-        m_pixelsCanvas.CreateFilled(30, 20, {200, 0, 0});
+        m_pixelsCanvas = CPixels::MakeFilled(30, 20, {200, 0, 0});
     }
     std::vector<std::string> Words() { return std::exchange(m_arrWords, {}); }
     CPixels Work() const { return m_images.m_pImgWork->Pixels(); }
@@ -56,7 +56,7 @@ class EditorBench : public testing::Test,
         Say("drop");
         m_bFloating = false;
         m_nTool = m_nResumeTool;
-        m_pixelsCanvas.CreateFilled(30, 20, {0, 200, 0});
+        m_pixelsCanvas = CPixels::MakeFilled(30, 20, {0, 200, 0});
     }
     void ForgetFloat() override {
         Say("forget");

@@ -87,7 +87,7 @@ TEST_F(Formats, AlphaIsWrittenWhereTheFormatHasIt) {
             EXPECT_LE(LargestDifference(back, picture), format.nDifference);
         }
     }
-    picture.SetAlpha({});
+    ASSERT_TRUE(picture.SetAlpha({}));
     EXPECT_FALSE(picture.HasAlpha());
     EXPECT_FALSE(picture.SetAlpha(Bytes(5)));
 }

@@ -47,8 +47,7 @@ TEST(Pixels, AWriteIsNeverSeenThroughAnotherCopy) {
                     break;
                 default: {
                     CxImage other = images[a];
-                    other.Mirror();
-                    other.HistogramEqualize();
+                    ASSERT_TRUE(other.Mirror() && other.HistogramEqualize());
                     break;
                 }
             }
@@ -98,6 +97,7 @@ TEST(Pixels, SizesThatCannotBeHeldAreRefused) {
     EXPECT_FALSE(CPixels::Fits(26755, 26755));
     EXPECT_FALSE(CxImage(4, 4, 7).IsValid()) << "no such depth";
 }
+
 // The n-th block that an operation takes is refused, until it needs no more of them. Small pictures never
 // come near the gate; the large one's blocks are kept ones from the second round on.
 TEST(Pixels, WithoutMemoryEveryOperationLeavesThePictureAsItWas) {
@@ -132,7 +132,6 @@ TEST(Pixels, WithoutMemoryEveryOperationLeavesThePictureAsItWas) {
     EXPECT_TRUE(CPixels().Create(148, 148)) << "one block only is refused";
     EXPECT_EQ(gate.Count(), 2);
 }
-
 
 TEST(Pixels, LargeBlocksThatAreKeptAreHandedOutOnce) {
     for (int nRound = 0; nRound < 3; ++nRound) {

@@ -9,8 +9,8 @@
 #include <random>
 #include <string>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/ImageEffect.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <climits>
 #include <random>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/ImageEffect.h"
+#include "image/CpuChoice.h"
 #include "support/Pictures.h"
 
 namespace {

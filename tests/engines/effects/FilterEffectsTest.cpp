@@ -5,9 +5,9 @@
 #include <random>
 
 #include "engines/effects/ByteMap.h"
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/NaiveFilters.h"
+#include "image/CpuChoice.h"
 #include "support/Pictures.h"
 
 namespace {

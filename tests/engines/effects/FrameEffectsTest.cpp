@@ -4,11 +4,11 @@
 #include <functional>
 #include <random>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/NaiveFrames.h"
 #include "engines/effects/Rgb565.h"
 #include "engines/effects/VignetteMask.h"
+#include "image/CpuChoice.h"
 #include "support/Pictures.h"
 
 namespace {

@@ -3,9 +3,9 @@
 #include <climits>
 #include <random>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/NaiveTones.h"
+#include "image/CpuChoice.h"
 #include "support/Pictures.h"
 
 namespace {

@@ -57,9 +57,7 @@ std::vector<std::string> Names(int nCount) {
 }
 
 CPixels Picture(CColor color) {
-    CPixels pixels;
-    pixels.CreateFilled(110, 110, color);
-    return pixels;
+    return CPixels::MakeFilled(110, 110, color);
 }
 
 // What is new is laid out in one turn of the event loop and painted in a later one.

@@ -21,11 +21,10 @@ class CTestBitmaps : public CBitmaps {
   public:
     void Add(const std::string& strName, CSize size, CColor color) {
         for (const int nDensity : {1, 2}) {
-            CPixels pixels;
-            pixels.CreateFilled(size.cx * nDensity, size.cy * nDensity, color);
+            CPixels pixels = CPixels::MakeFilled(size.cx * nDensity, size.cy * nDensity, color);
             for (int y = 0; nDensity == 2 && y < pixels.Height(); y += 2)
                 for (int x = 0; x < pixels.Width(); x += 2) pixels.MutableView().Set(x, y, {255, 255, 255});
-            m_mapImages[{nDensity, strName}].CreateFromHBITMAP(pixels);
+            m_mapImages[{nDensity, strName}] = CxImage(pixels);
         }
     }
     const CxImage* Find(const std::string& strName, int nDensity) override {

@@ -62,11 +62,6 @@ CPixels Picture(CColor color) {
     return pixels;
 }
 
-// What is new is laid out in one turn of the event loop and painted in a later one.
-void Settle() {
-    for (int i = 0; i < 4; ++i) QCoreApplication::processEvents();
-}
-
 struct CShownIcons {
     explicit CShownIcons(int nCount = 12) : sink(icons) {
         icons.SetItems(Names(nCount));

@@ -42,6 +42,7 @@ QString WithoutTrailingBlanks(const QString& str) {
 CTextLabel::CTextLabel(const CControlContext& context)
     : QWidget(context.pParent), m_control(context.control) {
     setFont(MapFont({}, FontPixels(context.control.rcPlace.Height())));
+    Mirror(EControlChange::Text);
     m_colorText = palette().color(QPalette::WindowText);
     if (context.dialog.Template().nId != kDlgMain) return;
     const auto it = std::find_if(kGrounds.begin(), kGrounds.end(),

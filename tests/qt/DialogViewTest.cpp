@@ -37,8 +37,10 @@ TEST(DialogView, MirrorsTheControls) {
     EXPECT_FALSE(shown.Widget(11)->isEnabled());
     EXPECT_EQ(shown.Widget(13)->geometry(), QRect(20, 41, 70, 16));
     const QImage imageBefore = shown.Widget(13)->grab().toImage();
-    controls.SetText(13, "other");
+    EXPECT_EQ(shown.Widget(13)->accessibleName(), "text");
+    controls.SetText(13, "other  ");
     EXPECT_NE(shown.Widget(13)->grab().toImage(), imageBefore);
+    EXPECT_EQ(shown.Widget(13)->accessibleName(), "other");
 }
 
 TEST(DialogView, FocusGoesBothWays) {

@@ -21,6 +21,8 @@ constexpr CControlTemplate kControls[] = {
     {1, EControlKind::Button, CRect::FromPlace(10, 10, 60, 24), "确定"},
 };
 constexpr CDialogTemplate kDialog{900, "One", {160, 100}, EDialogFrame::Plain, kControls};
+constexpr CControlTemplate kView[] = {{50, EControlKind::View, CRect::FromPlace(10, 10, 20, 20)}};
+constexpr CDialogTemplate kWithView{901, "View", {160, 100}, EDialogFrame::Plain, kView};
 
 struct CTestPlatform {
     CTestBitmaps bitmaps;
@@ -103,16 +105,22 @@ TEST(Timers, KeepTheShortestPeriod) {
 TEST(Timers, EndWithTheirDialog) {
     CTestPlatform test;
     int nTicks = 0;
-    {
-        CTestDialog dialog(kDialog);
-        dialog.m_fnInit = [&] { test.platform.timers.SetTimer(dialog, 1, 0); };
-        dialog.m_fnTimer = [&](int) {
-            if (++nTicks == 3) dialog.EndDialog(1);
-        };
-        test.platform.modals.Run(dialog);
-    }
-    QTest::qWait(20);
+    CTestDialog dialog(kWithView);
+    CTestScrollView view{{20, 20}};
+    dialog.m_pView = &view;
+    dialog.m_fnInit = [&] {
+        test.platform.timers.SetTimer(dialog, 1, 0);
+        test.platform.timers.SetTimer(view, 1, 0);
+    };
+    dialog.m_fnTimer = [&](int) {
+        if (++nTicks == 3) dialog.EndDialog(1);
+    };
+    test.platform.modals.Run(dialog);
+    const int nViewTicks = view.m_nTicks;
+    EXPECT_GT(nViewTicks, 0);
+    QTest::qWait(50);
     EXPECT_EQ(nTicks, 3);
+    EXPECT_EQ(view.m_nTicks, nViewTicks);
 }
 
 TEST(MessageBoxes, ShowTextToTheLetterAndAnswer) {

@@ -158,14 +158,16 @@ TEST(IconList, TheHandSelectsAsInAnyList) {
     shown.Click(6, Qt::ControlModifier);
     shown.Click(4, Qt::ControlModifier);
     EXPECT_EQ(fnSelected(), (CItems{2, 6}));
-    shown.Click(3);
-    shown.Click(6, Qt::ShiftModifier);
-    EXPECT_EQ(fnSelected(), (CItems{3, 4, 5, 6}));
-    // A press on one of several leaves them all until the button is up again.
-    QTest::mousePress(&shown.Port(), Qt::LeftButton, {}, shown.Middle(4));
-    EXPECT_EQ(fnSelected().size(), 4U);
-    QTest::mouseRelease(&shown.Port(), Qt::LeftButton, {}, shown.Middle(4));
-    EXPECT_EQ(fnSelected(), CItems{4});
+    // A press on one of several, the first or another, leaves them all until the button is up again.
+    for (const int nPressed : {0, 2}) {
+        shown.Click(0);
+        shown.Click(3, Qt::ShiftModifier);
+        EXPECT_EQ(fnSelected(), (CItems{0, 1, 2, 3}));
+        QTest::mousePress(&shown.Port(), Qt::LeftButton, {}, shown.Middle(nPressed));
+        EXPECT_EQ(fnSelected().size(), 4U);
+        QTest::mouseRelease(&shown.Port(), Qt::LeftButton, {}, shown.Middle(nPressed));
+        EXPECT_EQ(fnSelected(), CItems{nPressed});
+    }
     QTest::keyClick(&shown.View(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(fnSelected().size(), 12U);
     QTest::mouseClick(&shown.Port(), Qt::LeftButton, {}, {300, 520});
@@ -256,19 +258,63 @@ TEST(IconList, KeysReachTheLogic) {
     EXPECT_EQ(shown.sink.Take(), (CHeard{"key 46", "shift+key 46", "enter"}));
 }
 
-// The look of what is selected: a warm rim around the picture, and warm ground below the name.
-TEST(IconList, ASelectedCellStandsOut) {
+// The picture in the middle of its cell with the name in white below, an empty well where there is none; what
+// is selected has a warm rim around the picture and warm ground below the name.
+TEST(IconList, CellsLookAsTheirItemsAre) {
     CShownIcons shown;
-    shown.icons.SetPicture(0, Picture(kRed));
+    shown.icons.SetItems({"a", "beside", "c", "one name that needs two lines.jpg"});
+    for (const int nItem : {0, 1}) shown.icons.SetPicture(nItem, Picture(kRed));
     shown.icons.Select(0, true);
     Settle();
-    const QRect rc = shown.Cell(0);
     const QImage image = shown.Port().grab().toImage();
-    int nWarm = 0;
-    for (int y = rc.top(); y <= rc.bottom(); ++y)
-        for (int x = rc.left(); x <= rc.right(); ++x) nWarm += image.pixelColor(x, y) == QColor(232, 143, 54);
-    EXPECT_GT(nWarm, 110 * 4 * 2);
-    EXPECT_EQ(image.pixelColor(shown.Middle(0)), QColor(200, 20, 30)) << "the picture itself is left alone";
+    const QColor ground(109, 121, 126), red(200, 20, 30), warm(232, 143, 54);
+    struct CLook {
+        int nItem;
+        QPoint pt;  // in the cell
+        QColor color;
+    };
+    for (const CLook& look : {CLook{1, {4, 5}, red},
+                              {1, {113, 114}, red},
+                              {1, {3, 5}, ground},
+                              {1, {4, 4}, ground},
+                              {1, {114, 60}, ground},
+                              {1, {60, 115}, ground},
+                              {0, {4, 5}, red},
+                              {0, {3, 60}, warm},
+                              {0, {1, 60}, warm},
+                              {0, {0, 60}, ground},
+                              {0, {60, 3}, warm},
+                              {0, {114, 60}, warm},
+                              {0, {60, 116}, warm},
+                              {0, {52, 128}, warm},
+                              {0, {30, 128}, ground},
+                              {2, {4, 5}, {92, 103, 108}},
+                              {2, {113, 114}, {92, 103, 108}},
+                              {2, {5, 6}, {103, 115, 120}}})
+        EXPECT_EQ(image.pixelColor(shown.Cell(look.nItem).topLeft() + look.pt), look.color)
+            << look.nItem << " at " << look.pt.x() << "," << look.pt.y();
+    // White ink in the first line of a short name, and in both lines of a long one.
+    const auto fnInked = [&](int nItem, int nTop) {
+        int nInked = 0;
+        for (int y = nTop; y < nTop + 15; ++y)
+            for (int x = 0; x < 118; ++x)
+                nInked += qGray(image.pixel(shown.Cell(nItem).topLeft() + QPoint(x, y))) > 220 ? 1 : 0;
+        return nInked;
+    };
+    EXPECT_GT(fnInked(1, 120), 5);
+    EXPECT_EQ(fnInked(1, 136), 0);
+    EXPECT_GT(fnInked(3, 120), 20);
+    EXPECT_GT(fnInked(3, 136), 20);
+}
+
+// A folder's list may outlive the window that shows it.
+TEST(IconList, TheListOutlivesItsView) {
+    CShownIcons shown;
+    shown.shown.view.reset();
+    shown.icons.SetItems(Names(3));
+    shown.icons.SetPicture(1, Picture(kRed));
+    shown.icons.Select(2, true);
+    EXPECT_EQ(shown.icons.SelectedItems(), CItems{2});
 }
 
 TEST(IconList, TwentyThousandItemsComeUpAtOnce) {

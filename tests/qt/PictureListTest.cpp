@@ -94,6 +94,14 @@ TEST_F(PictureList, APressTellsAChangeAndNothingElseDoes) {
     EXPECT_TRUE(View()->selectionModel()->selectedIndexes().isEmpty());
 }
 
+TEST_F(PictureList, ADenserScreenGetsTheDenserPictures) {
+    const QImage before = Look();
+    dynamic_cast<CControlWidget&>(*View()).SetDensity(2);
+    EXPECT_NE(OnScreen(*m_shown.view), before);
+    EXPECT_NE(Look(), before);
+    EXPECT_EQ(Look().pixel(189, 30), kGround) << "they are no larger";
+}
+
 TEST_F(PictureList, AnotherPictureForARowKeepsPlaceAndSelection) {
     View()->verticalScrollBar()->setValue(10);
     m_shown.dialog.Controls().Select(1041, 11);

@@ -48,7 +48,9 @@ class CTestScrollView : public CScrollView {
         Drawn(CRect::FromPlace(pt.x, pt.y, 1, 1));
     }
     std::vector<CMouseEvent> m_arrMouse;
+    void OnTimer(int /*nTimer*/) override { ++m_nTicks; }
     int m_nDraws = 0;
+    int m_nTicks = 0;
 
   protected:
     void OnDraw(CSurface& surface) override {

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QPersistentModelIndex>
 #include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTreeView>
 #include <random>
 
@@ -233,14 +235,67 @@ TEST(Tree, ADeepNameCanBeScrolledTo) {
     EXPECT_GT(shown.View().horizontalScrollBar()->maximum(), 0);
 }
 
+// A few pixels of each: a rim, the body's fall from light to dark, what tells it from the others.
 TEST(Tree, EveryKindHasAnIconOfItsOwn) {
-    std::vector<QImage> arrIcons;
-    for (const ETreeIcon icon : {ETreeIcon::Computer, ETreeIcon::Home, ETreeIcon::Disk, ETreeIcon::Removable,
-                                 ETreeIcon::Network, ETreeIcon::Folder}) {
-        const QImage image = CTreeIcons::Draw(icon).pixmap(16).toImage();
-        EXPECT_EQ(image.size(), QSize(16, 16));
+    struct CLook {
+        ETreeIcon icon;
+        QPoint pt;
+        QRgb rgb;
+    };
+    using enum ETreeIcon;
+    for (const CLook& look : {CLook{Computer, {1, 6}, 0xff3a4448},
+                              {Computer, {7, 4}, 0xff305667},
+                              {Computer, {7, 9}, 0xff305667},
+                              {Computer, {8, 13}, 0xff96a49e},
+                              {Home, {8, 5}, 0xffd26a3b},
+                              {Home, {4, 9}, 0xfff3ebd4},
+                              {Home, {8, 11}, 0xff3e7086},
+                              {Home, {8, 8}, 0xff955d47},
+                              {Disk, {8, 6}, 0xffe2e8e3},
+                              {Disk, {8, 10}, 0xffb0bbb5},
+                              {Disk, {11, 10}, 0xff70be5c},
+                              {Disk, {1, 10}, 0xff3a4448},
+                              {Removable, {12, 7}, 0xff3a4448},
+                              {Removable, {12, 9}, 0xff3a4448},
+                              {Removable, {4, 7}, 0xffc9dbe1},
+                              {Removable, {6, 10}, 0xff487b91},
+                              {Network, {8, 4}, 0xffe2e8e3},
+                              {Network, {11, 8}, 0xff70be5c},
+                              {Network, {8, 12}, 0xb22b4e5e},
+                              {Network, {4, 14}, 0xb22b4e5e},
+                              {Folder, {4, 5}, 0xffe49634},
+                              {Folder, {8, 8}, 0xffffde9e},
+                              {Folder, {8, 11}, 0xffffb853},
+                              {Folder, {1, 10}, 0xff8a5416}}) {
+        const QImage image = CTreeIcons::Draw(look.icon).pixmap(16).toImage();
+        ASSERT_EQ(image.size(), QSize(16, 16));
         EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
-        for (const QImage& other : arrIcons) EXPECT_NE(image, other);
-        arrIcons.push_back(image);
+        EXPECT_EQ(image.pixel(look.pt), look.rgb)
+            << static_cast<int>(look.icon) << " at " << look.pt.x() << "," << look.pt.y();
     }
+}
+
+// The desktop's icon goes before the drawn one, also where its item is selected.
+TEST(Tree, TheThemesIconsAreTakenWhereItHasThem) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("test/16"));
+    QFile index(folder.path() + "/test/index.theme");
+    ASSERT_TRUE(index.open(QFile::WriteOnly));
+    index.write("[Icon Theme]\nName=test\nDirectories=16\n[16]\nSize=16\n");
+    index.close();
+    QImage red(16, 16, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(folder.path() + "/test/16/folder.png"));
+    const QStringList arrPathsBefore = QIcon::themeSearchPaths();
+    const QString strBefore = QIcon::themeName();
+    QIcon::setThemeSearchPaths({folder.path()});
+    QIcon::setThemeName("test");
+    const CTreeIcons icons;
+    QIcon::setThemeSearchPaths(arrPathsBefore);
+    QIcon::setThemeName(strBefore);
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+        EXPECT_EQ(icons.Of(ETreeIcon::Folder).pixmap(QSize(16, 16), 1.0, mode).toImage().pixel(8, 8),
+                  qRgb(255, 0, 0));
+    EXPECT_EQ(icons.Of(ETreeIcon::Disk).pixmap(16).toImage(),
+              CTreeIcons::Draw(ETreeIcon::Disk).pixmap(16).toImage());
 }

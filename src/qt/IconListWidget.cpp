@@ -22,10 +22,6 @@ constexpr char kStyle[] =
     "QListView { border: none; background: #6d797e; color: #ffffff; outline: none;"
     " selection-background-color: #e88f36; selection-color: #ffffff; }";
 
-bool IsPlain(const QMouseEvent& event) {
-    return (event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) == Qt::NoModifier;
-}
-
 }  // namespace
 
 CIconListWidget::CIconListWidget(const CControlContext& context)
@@ -116,14 +112,9 @@ void CIconListWidget::mousePressEvent(QMouseEvent* pEvent) {
     if (pEvent->button() == Qt::RightButton && pSink != nullptr) pSink->OnRightPress(ItemAt(pEvent->pos()));
     if (pEvent->button() != Qt::LeftButton) return;
     if (pSink != nullptr) pSink->OnLeftPress();
-    const int nItem = ItemAt(pEvent->pos());
     m_ptPress = pEvent->pos();
-    // Several that are selected stay so until it is clear that they are not to be dragged.
-    if (nItem >= 0 && IsPlain(*pEvent) && m_icons.IsSelected(nItem) && m_icons.SelectedCount() > 1) {
-        m_press = EPress::ItemOfMany;
-        return selectionModel()->setCurrentIndex(m_adaptor.index(nItem, 0), QItemSelectionModel::NoUpdate);
-    }
-    m_press = nItem < 0 ? EPress::Ground : EPress::Item;
+    m_press = ItemAt(pEvent->pos()) < 0 ? EPress::Ground : EPress::Item;
+    // Several that are selected stay so until the release, since they may be on their way out of the list.
     QListView::mousePressEvent(pEvent);
 }
 
@@ -139,12 +130,10 @@ void CIconListWidget::mouseMoveEvent(QMouseEvent* pEvent) {
 void CIconListWidget::mouseReleaseEvent(QMouseEvent* pEvent) {
     if (pEvent->button() != Qt::LeftButton) return;
     const EPress press = std::exchange(m_press, EPress::None);
-    const bool bKept = press == EPress::Item || press == EPress::ItemOfMany;
+    const bool bKept = press == EPress::Item;
     if (!bKept && m_icons.Sink() != nullptr && viewport()->rect().contains(pEvent->pos()))
         m_icons.Sink()->OnLeftRelease();
     QListView::mouseReleaseEvent(pEvent);
-    if (press == EPress::ItemOfMany)
-        selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
     const bool bMoved = (pEvent->pos() - m_ptPress).manhattanLength() >= QApplication::startDragDistance();
     if (bKept || (press == EPress::Ground && !bMoved)) TellClick(pEvent->pos());
 }

@@ -28,7 +28,7 @@ class CIconListWidget : public QListView, public CControlWidget, private CIconLi
 
   private:
     // Where the left button went down, and what has come of it.
-    enum class EPress { None, Ground, Item, ItemOfMany, Drag };
+    enum class EPress { None, Ground, Item, Drag };
 
     void OnIconsReset() override;
     void OnIconChanged(int nItem) override;

@@ -167,6 +167,13 @@ TEST(IconList, TheHandSelectsAsInAnyList) {
         EXPECT_EQ(fnSelected().size(), 4U);
         QTest::mouseRelease(&shown.Port(), Qt::LeftButton, {}, shown.Middle(nPressed));
         EXPECT_EQ(fnSelected(), CItems{nPressed});
+        // Drawn along they are all on their way, and stay selected wherever the button comes up.
+        shown.Click(0);
+        shown.Click(3, Qt::ShiftModifier);
+        QTest::mousePress(&shown.Port(), Qt::LeftButton, {}, shown.Middle(nPressed));
+        QTest::mouseMove(&shown.Port(), shown.Middle(7));
+        QTest::mouseRelease(&shown.Port(), Qt::LeftButton, {}, shown.Middle(7));
+        EXPECT_EQ(fnSelected(), (CItems{0, 1, 2, 3}));
     }
     QTest::keyClick(&shown.View(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(fnSelected().size(), 12U);

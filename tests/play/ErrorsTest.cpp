@@ -36,7 +36,7 @@ TEST_F(ScriptTest, NamesTheLineThatCannotBeDone) {
         {"mode 0", "test:1: that mode is up already\n"},
         {"mode 5", "test:1: \"5\" is no mode\n"},
         {"mode -1", "test:1: \"-1\" is no mode\n"},
-        {"select 1117 0", "test:1: list 1117 has no row 0, only 0 from 0 on\n"},
+        {"select 1117 0", "test:1: list 1117 has no item 0, only 0 from 0 on\n"},
         {"select 1000 0", "test:1: control 1000 has no rows\n"},
         {"slider 5", "test:1: control 1047 is hidden\n"},
         {"check 1000", "test:1: \"1000\" is no check box or radio button\n"},

@@ -17,7 +17,7 @@ constexpr std::array kControls = {
     CControlTemplate{kSecond, EControlKind::Radio, CRect::FromPlace(0, 20, 10, 10)},
     CControlTemplate{kLine, EControlKind::Static, CRect::FromPlace(0, 30, 50, 10)},
     CControlTemplate{kView, EControlKind::View, CRect::FromPlace(50, 50, 40, 40)},
-    CControlTemplate{kList, EControlKind::IconList, CRect::FromPlace(0, 50, 20, 20)},
+    CControlTemplate{kList, EControlKind::PictureList, CRect::FromPlace(0, 50, 20, 20)},
     CControlTemplate{kEdit, EControlKind::Edit, CRect::FromPlace(0, 70, 20, 10), "", true, true, 3},
     CControlTemplate{kPlace, EControlKind::Place, CRect::FromPlace(20, 50, 10, 10)},
     CControlTemplate{kSlider, EControlKind::Slider, CRect::FromPlace(20, 60, 10, 10)},

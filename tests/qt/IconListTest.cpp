@@ -9,6 +9,7 @@
 #include <QScrollBar>
 
 #include "TestDialog.h"
+#include "play/ScriptedPlatform.h"
 
 namespace {
 
@@ -312,6 +313,98 @@ TEST(IconList, CellsLookAsTheirItemsAre) {
     EXPECT_EQ(fnInked(1, 136), 0);
     EXPECT_GT(fnInked(3, 120), 20);
     EXPECT_GT(fnInked(3, 136), 20);
+}
+
+// The driver without a window is held to the window: the logic hears the same of the same hand.
+TEST(IconList, TheDriverTellsTheLogicWhatTheWindowTells) {
+    CShownIcons shown;
+    CIconListModel icons;
+    CTestSink sink(icons);
+    icons.SetItems(Names(12));
+    CTestDialog dialog(kDialog);
+    dialog.m_pIcons = &icons;
+    CScriptedPlatform platform;
+    CPlayHost host(platform, dialog);
+    host.Init();
+    QWindow* pWindow = shown.shown.view->windowHandle();
+    const auto fnAt = [&](int nItem) {
+        const QPoint pt = nItem < 0 ? QPoint(300, 520) : shown.Middle(nItem);
+        return shown.Port().mapTo(shown.shown.view.get(), pt);
+    };
+    const auto fnClick = [&](int nItem, Qt::KeyboardModifiers keys, unsigned nKeys) {
+        QTest::mouseClick(pWindow, Qt::LeftButton, keys, fnAt(nItem));
+        return host.ClickIcon(17, nItem, nKeys);
+    };
+    const auto fnDouble = [&](int nItem) {
+        QTest::mouseDClick(pWindow, Qt::LeftButton, {}, fnAt(nItem));
+        return host.DoubleClickIcon(17, nItem);
+    };
+    const auto fnKey = [&](Qt::Key key, Qt::KeyboardModifiers keys, const CKeyEvent& event) {
+        QTest::keyClick(pWindow, key, keys);
+        return host.KeyInIcons(17, event);
+    };
+    struct CStep {
+        const char* szName;
+        std::function<std::string()> fnDo;
+        CHeard arrHeard;
+    };
+    const CStep arrSteps[] = {
+        {"click", [&] { return fnClick(3, {}, 0); }, {"press", "click 3"}},
+        {"click with ctrl",
+         [&] { return fnClick(5, Qt::ControlModifier, kMouseCtrl); },
+         {"press", "click 5"}},
+        {"click with shift",
+         [&] { return fnClick(8, Qt::ShiftModifier, kMouseShift); },
+         {"press", "click 8"}},
+        {"click on one of several", [&] { return fnClick(6, {}, 0); }, {"press", "click 6"}},
+        {"click beside", [&] { return fnClick(-1, {}, 0); }, {"press", "release", "click -1"}},
+        {"row",
+         [&] {
+             QTest::mouseClick(pWindow, Qt::LeftButton, {}, fnAt(2));
+             return host.SelectRow(17, 2);
+         },
+         {"press", "click 2"}},
+        {"double click", [&] { return fnDouble(1); }, {"press", "click 1", "double 1", "release"}},
+        {"double click beside",
+         [&] { return fnDouble(-1); },
+         {"press", "release", "click -1", "double -1", "release"}},
+        {"right press",
+         [&] {
+             QTest::mouseClick(pWindow, Qt::RightButton, {}, fnAt(4));
+             return host.RightPressIcon(17, 4);
+         },
+         {"right 4"}},
+        {"rubber band",
+         [&] {
+             const QPoint ptStart = shown.Port().mapTo(
+                 shown.shown.view.get(), QPoint(shown.Cell(11).right() + 30, shown.Cell(11).bottom() + 20));
+             Press(*shown.shown.view, ptStart);
+             Move(*shown.shown.view, fnAt(11));
+             Move(*shown.shown.view, fnAt(11) + QPoint(1, 1));
+             Release(*shown.shown.view, fnAt(11) + QPoint(1, 1));
+             return host.BandIcons(17, {11});
+         },
+         {"press", "release"}},
+        {"delete", [&] { return fnKey(Qt::Key_Delete, {}, {kKeyDelete}); }, {"key 46"}},
+        {"shift delete",
+         [&] {
+             return fnKey(Qt::Key_Delete, Qt::ShiftModifier, {kKeyDelete, false, true});
+         },
+         {"shift+key 46"}},
+        {"enter", [&] { return fnKey(Qt::Key_Return, {}, {kKeyEnter}); }, {"enter"}},
+        {"a letter", [&] { return fnKey(Qt::Key_Q, {}, {'Q'}); }, {}},
+        {"page", [&] { return fnKey(Qt::Key_F5, {}, {}); }, {}},
+    };
+    for (const CStep& step : arrSteps) {
+        EXPECT_EQ(step.fnDo(), "") << step.szName;
+        EXPECT_EQ(shown.sink.Take(), step.arrHeard) << step.szName << " in the window";
+        EXPECT_EQ(sink.Take(), step.arrHeard) << step.szName << " by the driver";
+        EXPECT_EQ(icons.SelectedItems(), shown.icons.SelectedItems()) << step.szName;
+    }
+    EXPECT_GT(shown.sink.m_nMoves, 0);
+    EXPECT_GT(sink.m_nMoves, 0);
+    EXPECT_TRUE(shown.shown.dialog.m_arrNotices.empty() && dialog.m_arrNotices.empty())
+        << "only the list's own logic hears";
 }
 
 // A folder's list may outlive the window that shows it.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "play/ScriptedPlatform.h"
+#include "window/DialogKeys.h"
 #include "window/Marks.h"
 
 namespace {
@@ -208,12 +209,7 @@ std::string CPlayHost::Key(const CKeyEvent& event) {
 void CPlayHost::KeyToControl(const CKeyEvent& event) {
     CIconListModel* pIcons = IconsOf(m_dialog.Controls().Focus());
     if (pIcons != nullptr && HandOf(*pIcons).OnKey(event)) return;
-    if (event.nKey != kKeyEnter && event.nKey != kKeyEscape) return;
-    const int nId = event.nKey == kKeyEnter ? CDialog::kDialogOk : CDialog::kDialogCancel;
-    if (m_dialog.Controls().IsShown(nId) && m_dialog.Controls().IsEnabled(nId))
-        m_dialog.OnCommand(nId);
-    else if (event.nKey == kKeyEscape)
-        m_dialog.OnClose();
+    DoDialogKey(m_dialog, event);
 }
 
 // A button that is down already can go down again: its release was lost on a dialog that came up.

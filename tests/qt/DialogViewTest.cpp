@@ -16,7 +16,12 @@ constexpr CControlTemplate kControls[] = {
     {14, Edit, CRect::FromPlace(10, 60, 60, 18)},
     {2, Button, CRect::FromPlace(80, 60, 60, 20), "Cancel"},
 };
-constexpr CDialogTemplate kDialog{900, "Title", {160, 100}, EDialogFrame::Plain, kControls};
+constexpr CControlLookRow kLooks[] = {
+    {10, {.szSpoken = "open"}},
+    {13, {.colorText = CColor{250, 1, 2}, .colorGround = CColor{3, 4, 5}}},
+    {99, {.szSpoken = "of no control"}},
+};
+constexpr CDialogTemplate kDialog{900, "Title", {160, 100}, EDialogFrame::Plain, kControls, kLooks};
 constexpr CDialogTemplate kMain{901, "Main", {160, 100}, EDialogFrame::Caption, kControls};
 
 }  // namespace
@@ -38,6 +43,9 @@ TEST(DialogView, MirrorsTheControls) {
     EXPECT_EQ(shown.Widget(13)->geometry(), QRect(20, 41, 70, 16));
     const QImage imageBefore = shown.Widget(13)->grab().toImage();
     EXPECT_EQ(shown.Widget(13)->accessibleName(), "text");
+    EXPECT_EQ(shown.Widget(10)->accessibleName(), "open");
+    EXPECT_EQ(imageBefore.pixel(0, 0), qRgb(3, 4, 5));
+    EXPECT_NE(imageBefore.pixel(66, 0), qRgb(3, 4, 5)) << "the ground goes as far as the text";
     controls.SetText(13, "other  ");
     EXPECT_NE(shown.Widget(13)->grab().toImage(), imageBefore);
     EXPECT_EQ(shown.Widget(13)->accessibleName(), "other");

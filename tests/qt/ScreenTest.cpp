@@ -1,6 +1,7 @@
 // What comes to the screen. Every check reads the screen itself, which holds only what somebody has asked to
 // be painted, and holds it against the window painted anew.
 
+#include <QLineEdit>
 #include <QListView>
 #include <QWheelEvent>
 
@@ -130,6 +131,43 @@ TEST(ControlScreen, EveryChangeOfAControlShowsAtOnce) {
         EXPECT_EQ(now, Repainted(*shown.view)) << szStep;
         before = now;
     }
+}
+
+// What the keys, lists and lines of the window are called, and where the lists have a border.
+TEST_F(Screen, SpeaksAndFramesAsTheTemplateSays) {
+    for (const auto& [nId, szName] : {std::pair{kCmdOpen, "打开"},
+                                      {kTabDraw, "绘画"},
+                                      {kEffectList, "特效"},
+                                      {kEffectSlider, "强度"},
+                                      {kRadioImageSize, "当前图片大小"},
+                                      {1175, "圆角四边形"}})
+        EXPECT_EQ(Widget(nId).accessibleName().toStdString(), szName);
+    const auto& list = static_cast<QListView&>(Widget(kEffectList));
+    EXPECT_EQ(list.model()->index(30, 0).data(Qt::AccessibleTextRole).toString().toStdString(), "版画效果");
+    EXPECT_EQ(m_screen.pixel(58, 149), qRgb(74, 84, 88));
+    EXPECT_EQ(list.viewport()->geometry().topLeft(), QPoint(1, 1));
+    m_dialog.Controls().Show(kTextEffectList, true);
+    EXPECT_EQ(static_cast<QListView&>(Widget(kTextEffectList)).viewport()->geometry().topLeft(),
+              QPoint(0, 0));
+    EXPECT_EQ(m_screen.pixel(342, 97), qRgb(142, 154, 143)) << "the line of the name stands on its strip";
+}
+
+// The size dialog by its keys: Enter is Ok also in the middle of typing, Esc leaves all as it was.
+TEST_F(Screen, EnterAndEscAnswerTheSizeDialog) {
+    const auto fnType = [this](const char* szWidth, Qt::Key key) {
+        Later([=] {
+            QWidget* pDialog = QApplication::activeModalWidget();
+            auto* pWidth = pDialog->findChildren<QLineEdit*>().constFirst();
+            pWidth->selectAll();
+            QTest::keyClicks(pWidth, szWidth);
+            QTest::keyClick(pWidth, key);
+            if (QApplication::activeModalWidget() == pDialog && pDialog->isVisible()) pDialog->close();
+        });
+        Click(kCmdSize);
+        return m_dialog.Images().DisplaySize();
+    };
+    EXPECT_EQ(fnType("450", Qt::Key_Escape), kPicture);
+    EXPECT_EQ(fnType("450", Qt::Key_Return).cx, 450);
 }
 
 // The real window at its work, driven by the hand.

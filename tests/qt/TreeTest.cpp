@@ -243,30 +243,18 @@ TEST(Tree, EveryKindHasAnIconOfItsOwn) {
         QRgb rgb;
     };
     using enum ETreeIcon;
-    for (const CLook& look : {CLook{Computer, {1, 6}, 0xff3a4448},
-                              {Computer, {7, 4}, 0xff305667},
-                              {Computer, {7, 9}, 0xff305667},
-                              {Computer, {8, 13}, 0xff96a49e},
-                              {Home, {8, 5}, 0xffd26a3b},
-                              {Home, {4, 9}, 0xfff3ebd4},
-                              {Home, {8, 11}, 0xff3e7086},
-                              {Home, {8, 8}, 0xff955d47},
-                              {Disk, {8, 6}, 0xffe2e8e3},
-                              {Disk, {8, 10}, 0xffb0bbb5},
-                              {Disk, {11, 10}, 0xff70be5c},
-                              {Disk, {1, 10}, 0xff3a4448},
-                              {Removable, {12, 7}, 0xff3a4448},
-                              {Removable, {12, 9}, 0xff3a4448},
-                              {Removable, {4, 7}, 0xffc9dbe1},
-                              {Removable, {6, 10}, 0xff487b91},
-                              {Network, {8, 4}, 0xffe2e8e3},
-                              {Network, {11, 8}, 0xff70be5c},
-                              {Network, {8, 12}, 0xb22b4e5e},
-                              {Network, {4, 14}, 0xb22b4e5e},
-                              {Folder, {4, 5}, 0xffe49634},
-                              {Folder, {8, 8}, 0xffffde9e},
-                              {Folder, {8, 11}, 0xffffb853},
-                              {Folder, {1, 10}, 0xff8a5416}}) {
+    for (const CLook& look : {CLook{Computer, {1, 6}, 0xff3a4448}, {Computer, {7, 4}, 0xff305667},
+                              {Computer, {7, 9}, 0xff305667},      {Computer, {8, 13}, 0xff96a49e},
+                              {Home, {8, 5}, 0xffd26a3b},          {Home, {4, 9}, 0xfff3ebd4},
+                              {Home, {8, 11}, 0xff3e7086},         {Home, {8, 8}, 0xff955d47},
+                              {Disk, {8, 6}, 0xffe2e8e3},          {Disk, {8, 10}, 0xffb0bbb5},
+                              {Disk, {11, 10}, 0xff70be5c},        {Disk, {1, 10}, 0xff3a4448},
+                              {Removable, {12, 7}, 0xff3a4448},    {Removable, {12, 9}, 0xff3a4448},
+                              {Removable, {4, 7}, 0xffc9dbe1},     {Removable, {6, 10}, 0xff487b91},
+                              {Network, {8, 4}, 0xffe2e8e3},       {Network, {11, 8}, 0xff70be5c},
+                              {Network, {8, 12}, 0xb22b4e5e},      {Network, {4, 14}, 0xb22b4e5e},
+                              {Folder, {4, 5}, 0xffe49634},        {Folder, {8, 8}, 0xffffde9e},
+                              {Folder, {8, 11}, 0xffffb853},       {Folder, {1, 10}, 0xff8a5416}}) {
         const QImage image = CTreeIcons::Draw(look.icon).pixmap(16).toImage();
         ASSERT_EQ(image.size(), QSize(16, 16));
         EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);

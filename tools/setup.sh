@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages that building, testing and running need. Does nothing when all are there.
+#   tools/setup.sh         these
+#   tools/setup.sh lint    and those that tools/lint.sh needs
 set -euo pipefail
 
 packages=(
@@ -12,6 +14,9 @@ packages=(
     fonts-wqy-zenhei fonts-noto-cjk
     libgtest-dev libbenchmark-dev
 )
+if [[ ${1-} == lint ]]; then
+    packages+=(clang-format clang-tidy)
+fi
 
 if ! command -v dpkg-query >/dev/null; then
     echo "setup: this is not a Debian system. Install the counterparts of: ${packages[*]}" >&2

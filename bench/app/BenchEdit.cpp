@@ -28,7 +28,7 @@ BENCHMARK(PlainPass)->Unit(benchmark::kMicrosecond);
 
 // One display resample to another size, the cost that Undo may have.
 void DisplayResample(benchmark::State& state) {
-    const CxImage& image = *Program().Dialog().Images().m_pImgWork;
+    const CxImage& image = Program().Dialog().Images().m_imgWork;
     for (auto _ : state) {
         CxImage display(image);
         display.Resample(kWidth / 2, kHeight / 2);
@@ -60,8 +60,8 @@ BENCHMARK(UndoAndRedo)->Unit(benchmark::kMicrosecond);
 // A push alone, with a full stack behind it.
 void PushUndo(benchmark::State& state) {
     const CWorkingImages& images = Program().Dialog().Images();
-    CUndoStack stack;
-    for (auto _ : state) stack.Push(images.MakeEntry());
+    CUndoStack<CUndoEntry> stack;
+    for (auto _ : state) stack.Push(images.MakeEntry(images.m_imgWork));
     Count(state);
 }
 BENCHMARK(PushUndo)->Unit(benchmark::kMicrosecond);
@@ -83,7 +83,7 @@ BENCHMARK(SwitchMode)->Unit(benchmark::kMicrosecond);
 // step waits for the system's memory.
 void Command(benchmark::State& state) {
     CBenchProgram& program = Program();
-    for (int n = 0; n <= CUndoStack::kDepth; ++n) program.Command(kCmdFlipVertical);
+    for (int n = 0; n <= CUndoStack<CUndoEntry>::kDepth; ++n) program.Command(kCmdFlipVertical);
     for (auto _ : state) {
         program.Command(static_cast<int>(state.range(0)));
         program.Pump();

@@ -74,7 +74,7 @@ void Confirm(benchmark::State& state) {
 BENCHMARK(Confirm)->DenseRange(0, kEffectCount - 1)->Unit(benchmark::kMillisecond);
 
 void EffectAlone(benchmark::State& state) {
-    const CxImage& picture = *Program().Dialog().Images().m_pImgWork;
+    const CxImage& picture = Program().Dialog().Images().m_imgWork;
     const int nEffect = static_cast<int>(state.range(0));
     const CEffectRow& row = RowOf(nEffect);
     const int nLevel = CEffectFlow::LevelOf(row.nMin, row.nMax, TellingPosition(nEffect));

@@ -3,7 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "paint/MySCrollView.h"
+#include "paint/DrawGuest.h"
 
 namespace {
 
@@ -11,18 +11,26 @@ constexpr CSize kPicture{3200, 2400};
 constexpr CSize kSixteenTimes{12800, 9600};
 
 // A canvas in DRAW with the history of one step that a stroke begins with.
-class CBenchCanvas : private CCanvasHost, private CPaintHost, private CTimers {
+class CBenchCanvas : private CCanvasHost,
+                     private CPaintHost,
+                     private CTimers,
+                     private CEditEvents,
+                     private CMessageBoxes {
   public:
     explicit CBenchCanvas(CSize size)
-        : m_canvas({m_state, m_images, m_tools, *this, *this, *this, m_random}) {
+        : m_editor({m_images, *this, *this}),
+          m_canvas({m_state, m_images, *this}),
+          m_draw({m_images, m_tools, m_canvas, m_editor, *this, *this, *this, m_random}) {
         CPixels pixels;
         pixels.CreateFilled(size.cx, size.cy, {255, 255, 255});
         CxImage image;
         image.CreateFromHBITMAP(std::move(pixels));
         m_images.TakePicture(image);
-        m_state.m_bImageOpen = m_state.m_bDrawMode = true;
-        m_canvas.LoadPicture(image);
-        m_canvas.ApplyZoom();
+        m_state.m_bImageOpen = true;
+        m_state.m_nMode = EMode::Draw;
+        m_canvas.SetGuest(&m_draw);
+        m_draw.LoadCanvas();
+        m_draw.ApplyZoom();
         m_canvas.Paint();
         m_tools.m_crForeground = {200, 0, 0};
     }
@@ -35,20 +43,17 @@ class CBenchCanvas : private CCanvasHost, private CPaintHost, private CTimers {
         m_tools.m_nTool = nTool;
         m_tools.m_nEraserSize = 3;
         m_tools.m_nSpraySize = 2;
-        m_canvas.AbandonShape();
+        m_draw.AbandonShape();
     }
     CMySCrollView& View() { return m_canvas; }
+    CDrawGuest& Draw() { return m_draw; }
     CToolState& Tools() { return m_tools; }
 
   private:
     void OnCanvasPainted() override {}
     void OnPictureMenu() override {}
-    bool BeginChange() override {
-        m_images.m_pImgWork->CreateFromHBITMAP(m_canvas.CommittedPixels());
-        m_images.m_stackUndo.Push(m_images.MakeEntry());
-        return true;
-    }
-    void EnableSelectionCommands(bool /*bEnable*/) override {}
+    void Tell(EEditEvent /*event*/) override {}
+    EBoxAnswer Show(const CMessageBox& /*box*/) override { return EBoxAnswer::Ok; }
     void PickColor(bool /*bForeground*/, CColor /*color*/) override {}
     void SetTimer(CTimerTarget& /*target*/, int /*nTimer*/, int /*nMilliseconds*/) override {}
     void KillTimer(CTimerTarget& /*target*/, int /*nTimer*/) override {}
@@ -57,7 +62,9 @@ class CBenchCanvas : private CCanvasHost, private CPaintHost, private CTimers {
     CWorkingImages m_images;
     CToolState m_tools;
     CRandomSequence m_random;
+    CEditor m_editor;
     CMySCrollView m_canvas;
+    CDrawGuest m_draw;
 };
 
 CBenchCanvas& Canvas(bool bLarge) {
@@ -73,7 +80,7 @@ void Stroke(benchmark::State& state, int nTool) {
     CBenchCanvas& canvas = Canvas(state.range(0) != 0);
     canvas.Select(nTool);
     canvas.Mouse(EMouseAction::Press, {200, 200});
-    if (!canvas.View().Hand().m_bButtonDown) state.SkipWithError("no memory for the step");
+    if (!canvas.Draw().Hand().m_bButtonDown) state.SkipWithError("no memory for the step");
     int n = 0;
     constexpr CPoint kWay[] = {{220, 200}, {234, 214}, {234, 234}, {220, 248},
                                {200, 248}, {186, 234}, {186, 214}, {200, 200}};
@@ -131,18 +138,18 @@ BENCHMARK(SelectionBand)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 // A float of 300 by 300.
 void FloatDrag(benchmark::State& state) {
     CBenchCanvas& canvas = Canvas(state.range(0) != 0);
-    CSelection& selection = canvas.View().Selection();
+    CSelection& selection = canvas.Draw().Selection();
     selection.m_region = CRegion::MakeEllipse({100, 100, 401, 401});
     CPixels pixels;
     pixels.CreateFilled(300, 300, {0, 0, 200});
     selection.m_imgFloat.CreateFromHBITMAP(std::move(pixels));
-    selection.m_bFloating = true;
+    selection.SetFloating(true);
     canvas.Select(kToolFloat);
     canvas.Mouse(EMouseAction::Press, {200, 200});
     int n = 0;
     for (auto _ : state) canvas.Mouse(EMouseAction::Move, {200 + n++ % 2 * 3, 200});
     canvas.Mouse(EMouseAction::Release, {200, 200});
-    canvas.View().DropFloat();
+    canvas.Draw().DropFloat();
 }
 BENCHMARK(FloatDrag)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
@@ -162,7 +169,7 @@ BENCHMARK(Press)->Arg(0)->Unit(benchmark::kMicrosecond);
 void Fill(benchmark::State& state) {
     CBenchCanvas canvas({4000, 3000});
     canvas.Select(kToolFill);
-    for (int n = 0; n <= CUndoStack::kDepth; ++n) {
+    for (int n = 0; n <= CUndoStack<CUndoEntry>::kDepth; ++n) {
         canvas.Mouse(EMouseAction::Press, {300, 300});
         canvas.Mouse(EMouseAction::Release, {300, 300});
     }

@@ -1,20 +1,21 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <string>
 
+#include "app/ControlDesk.h"
+#include "app/EditCommands.h"
 #include "app/MainSkin.h"
 #include "app/ModeSwitch.h"
 #include "app/StatusLines.h"
 #include "browse/ThumPanel.h"
+#include "canvas/MySCrollView.h"
 #include "compose/FrameFlow.h"
 #include "compose/TextArtFlow.h"
-#include "editor/Editor.h"
-#include "editor/FileCommands.h"
-#include "editor/GeometryCommands.h"
 #include "effect/EffectFlow.h"
 #include "link/PhoneLink.h"
 #include "paint/ClipboardCommands.h"
-#include "paint/MySCrollView.h"
 #include "paint/ToolController.h"
 #include "print/PrintFlow.h"
 #include "window/Dialog.h"
@@ -24,13 +25,11 @@
 // The main window: owner of everything that lives for a whole run, and the entry of every command. It decides
 // nothing about pictures itself; each event goes on to the class of the room that the command belongs to.
 class CMainDlg : public CDialog,
-                 private CEditorHost,
                  private CCanvasHost,
                  private CPaintHost,
                  private CToolHost,
                  private CSkinHost,
                  private CBrowseHost,
-                 private CEffectHost,
                  private CPreviewFactory {
   public:
     // What the platform gives outlives the window.
@@ -42,6 +41,8 @@ class CMainDlg : public CDialog,
     const CToolController& Tools() const { return m_tools; }
     const CPhoneLink& Link() const { return m_link; }
     CMySCrollView& Canvas() { return m_canvas; }
+    CDrawGuest& Draw() { return m_draw; }
+    const CStatusLines& Lines() const { return m_lines; }
     CThumPanel& Thum() { return m_thum; }
     CEffectFlow& Effects() { return m_effects; }
     // Starts the random numbers of effects and airbrush anew, for runs that can be repeated.
@@ -66,58 +67,31 @@ class CMainDlg : public CDialog,
     void OnPaint(CClientArea& client) override;
 
   private:
-    // Commands that concern more than one room
-    void OnPrint();
-    void OnTabClick(int nMode);
     void ToggleLines();
-    void OnPaintPress(CPoint pt);
     bool OnCtrlKey(int nKey);
-
-    // CEditorHost
-    void GoToMode(int nMode) override;
-    void HideEffectPanel() override { m_modes.HideEffect(); }
-    void ShowFontPanel() override { m_modes.ShowFont(); }
-    void EnableEditCommands() override { m_modes.EnableEditCommands(); }
-    void EnableSizeCommands(bool bEnable) override { m_modes.EnableSizeCommands(bEnable); }
-    void InitTextArt() override { m_textArt.InitTextArt(); }
-    bool IsConnected() const override { return m_link.IsConnected(); }
-    std::vector<CSize> PhoneSizes() const override { return m_link.PhoneSizes(); }
-    void FollowFolder(const std::string& strFolder) override { m_thum.FollowFolder(strFolder); }
 
     // CCanvasHost
     void OnCanvasPainted() override;
     void OnPictureMenu() override;
 
-    // CPaintHost; of the selection commands the tools' buttons tell as well
-    bool BeginChange() override { return m_editor.BeginChange(); }
-    void EnableSelectionCommands(bool bEnable) override { m_clipboard.EnableSelectionCommands(bEnable); }
+    // CPaintHost
     void PickColor(bool bForeground, CColor color) override { m_tools.PickColor(bForeground, color); }
 
     // CToolHost
-    CClientArea& PanelArea() override { return Client(); }
-    void PresentPanel() override { Present(); }
-    void RepaintWindow() override { Invalidate(); }
     void SetHelp(int nCode) override { m_lines.SetHelp(nCode); }
 
     // CBrowseHost
-    void ShowFileInfo(const std::string& strName, EFileInfo kind) override {
-        m_lines.ShowFileInfo(strName, kind);
+    void ShowFileInfo(const std::string& strPath, EFileInfo kind) override {
+        m_lines.ShowFileInfo(strPath, kind);
     }
     void OpenPicture(const std::string& strFolder, const std::string& strName) override {
-        m_files.OpenFileByName(strFolder, strName);
+        m_commands.OpenFileByName(strFolder, strName);
     }
-    void LeaveEditInfo() override { m_state.m_bEditInfo = false; }
-    bool IsThumMode() const override { return m_state.m_bThumbMode; }
+    void LeaveEditInfo() override { m_lines.TellOfBrowsing(); }
 
     // CSkinHost
     CColor TextColor() const override { return m_textArt.TextColor(); }
     bool IsListPressed() const override { return m_thum.List().IsPressed(); }
-    void PaintToolPanel(CClientArea& /*client*/) override { m_tools.OnPaintPanel(); }
-    void PaintEffectPreview(CClientArea& client) override { m_effects.PaintPreview(client); }
-
-    // CEffectHost
-    void RepaintPreview() override;
-    void RepaintPanel() override { Invalidate(); }
 
     // CPreviewFactory
     std::unique_ptr<CFileDialogPanel> MakePreview() override;
@@ -128,7 +102,10 @@ class CMainDlg : public CDialog,
     CToolState m_toolState;
     // The one sequence of the process: effects and airbrush draw from it in turn, and only Seed seeds it.
     CRandomSequence m_random;
+    CPhoneLink m_link;
     CMySCrollView m_canvas;
+    CDrawGuest m_draw;
+    CControlDesk m_desk;
     CToolController m_tools;
     CEditor m_editor;
     CClipboardCommands m_clipboard;
@@ -141,6 +118,6 @@ class CMainDlg : public CDialog,
     CFrameFlow m_frames;
     CTextArtFlow m_textArt;
     CPrintFlow m_print;
-    CPhoneLink m_link;
     CModeSwitch m_modes;
+    CEditCommands m_commands;
 };

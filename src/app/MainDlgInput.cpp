@@ -16,28 +16,21 @@ void CMainDlg::OnMouse(const CMouseEvent& event) {
     if (event.action == EMouseAction::Press && event.button == EMouseButton::Left) {
         if (kVersionPlate.Contains(event.pt))
             m_platform.boxes.Show({kTextBuildDate, kTitleBuildDate, EBoxIcon::None, EBoxButtons::Ok});
-        if (m_state.m_bDrawMode) OnPaintPress(event.pt);
+        if (m_state.IsUp(EMode::Draw)) m_commands.OnPaintPress(event.pt);
         return;
     }
-    if (!m_state.m_bDrawMode) return;
+    if (!m_state.IsUp(EMode::Draw)) return;
     if (event.action == EMouseAction::Move) {
         if (const int nHelp = m_tools.HelpAt(event.pt); nHelp != 0) m_lines.SetHelp(nHelp);
     }
-    if (event.action == EMouseAction::Release && event.button == EMouseButton::Right) m_canvas.AbandonShape();
+    if (event.action == EMouseAction::Release && event.button == EMouseButton::Right) m_draw.AbandonShape();
     if (event.action == EMouseAction::DoubleClick) m_tools.OnWellDoubleClick(event);
-}
-
-// A left press beside the controls, in DRAW: an option of the current tool, or the end of an open shape.
-// Either way the working image catches up with the canvas.
-void CMainDlg::OnPaintPress(CPoint pt) {
-    if (!m_tools.OnPanelPress(pt)) m_canvas.AbandonShape();
-    m_editor.TransferCanvas(true);
 }
 
 void CMainDlg::OnHover(int nIdControl, bool bLeftDown) {
     m_skin.OnHover(Client(), nIdControl, bLeftDown);
     Present();
-    if (!m_state.m_bDrawMode) return;
+    if (!m_state.IsUp(EMode::Draw)) return;
     const int nTool = FindTool(nIdControl);
     if (nTool != 0)
         m_lines.SetHelp(kHelpTool + nTool);
@@ -60,32 +53,34 @@ bool CMainDlg::OnKey(const CKeyEvent& event) {
 // These look at flags and counts, not at whether the buttons are on. False for a key that is left to the
 // control.
 bool CMainDlg::OnCtrlKey(int nKey) {
+    const bool bDraw = m_state.IsUp(EMode::Draw);
     switch (nKey) {
         case 'C':
-            if (m_state.m_bDrawMode) m_clipboard.OnCopy();
-            return m_state.m_bDrawMode;
+            if (bDraw) m_clipboard.OnCopy();
+            return bDraw;
         case 'V':
-            if (m_state.m_bDrawMode) m_clipboard.OnPaste();
-            return m_state.m_bDrawMode;
+            if (bDraw) m_clipboard.OnPaste();
+            return bDraw;
         case 'X':
-            if (m_state.m_bDrawMode) m_clipboard.OnCut();
-            return m_state.m_bDrawMode;
+            if (bDraw) m_clipboard.OnCut();
+            return bDraw;
         case 'Y':
             if (m_images.m_stackRedo.IsEmpty()) return false;
-            m_editor.OnRedo();
+            m_commands.OnRedo();
             return true;
         case 'Z':
             if (m_images.m_stackUndo.IsEmpty()) return false;
-            m_editor.OnUndo();
+            m_commands.OnUndo();
             return true;
         default:
             return false;
     }
 }
 
-// No menu while an effect with a level is selected, nor over a picture in the phone's size.
+// No menu over words, nor while an effect with a level is selected, nor over a picture in the phone's size.
 void CMainDlg::OnPictureMenu() {
-    if (m_state.m_bStickMode ? !m_images.m_bImageSize : !m_state.m_bNoEffectLevel) return;
+    if (m_state.IsUp(EMode::Font)) return;
+    if (m_state.IsUp(EMode::Stick) ? m_images.IsPhoneSize() : !m_effects.HasNoLevel()) return;
     std::vector<CMenuItem> arrItems;
     for (const CMenuItemTemplate& item : kPictureMenu) {
         const bool bEmpty = (item.nId == kMenuUndo && m_images.m_stackUndo.IsEmpty()) ||

@@ -12,9 +12,8 @@ constexpr CPoint kTopStripAt{19, 61};
 constexpr CPoint kTabStripAt{0, 110};
 constexpr CPoint kTabRowAt{0, 79};
 constexpr CPoint kPanelAt{0, 111};
-constexpr CRect kSwatch{237, 257, 257, 277};
-
-constexpr int kNoHint = 2;
+// Between the place of the colour swatch and what is filled of it.
+constexpr int kSwatchRim = 2;
 
 // The pictures of a mode; a panel of 0 shows the background.
 struct CModeLook {
@@ -31,8 +30,8 @@ constexpr std::array<CModeLook, 5> kLooks = {{
     {kBmpTabsStick, kBmpPanelStick, kBmpTabStripStick},
 }};
 
-const CModeLook& LookOf(int nMode) {
-    return kLooks[static_cast<std::size_t>(nMode)];
+const CModeLook& LookOf(EMode mode) {
+    return kLooks[static_cast<std::size_t>(mode)];
 }
 
 }  // namespace
@@ -42,21 +41,14 @@ void CMainSkin::Paint(CClientArea& client) const {
     client.DrawBitmap(kBmpBackground, 0, 0);
     client.DrawBitmap(look.nTabRow, kTabRowAt.x, kTabRowAt.y);
     if (look.nPanel != 0) client.DrawBitmap(look.nPanel, kPanelAt.x, kPanelAt.y);
-    if (m_state.m_nMode == kModeDraw) m_host.PaintToolPanel(client);
-    if (m_state.m_nMode == kModeEffect) m_host.PaintEffectPreview(client);
-    if (m_state.m_nMode == kModeFont) ShowTextColor(client);
-}
-
-void CMainSkin::PaintPreviewBox(CClientArea& client, const CRect& rcBox) const {
-    {
-        const CClientArea::CClip clip(client, rcBox);
-        client.DrawBitmap(kBmpBackground, 0, 0);
-    }
-    m_host.PaintEffectPreview(client);
+    if (m_state.IsUp(EMode::Font)) ShowTextColor(client);
 }
 
 void CMainSkin::ShowTextColor(CClientArea& client) const {
-    client.FillRect(kSwatch, m_host.TextColor());
+    const CRect rc = m_controls.Find(kTextSwatch)->rcPlace;
+    client.FillRect(
+        {rc.left + kSwatchRim, rc.top + kSwatchRim, rc.right - kSwatchRim, rc.bottom - kSwatchRim},
+        m_host.TextColor());
 }
 
 void CMainSkin::WipeTabHint(CClientArea& client) const {
@@ -67,36 +59,27 @@ void CMainSkin::OnHover(CClientArea& client, int nControl, bool bLeftDown) {
     client.DrawBitmap(kBmpTopStrip, kTopStripAt.x, kTopStripAt.y);
     WipeTabHint(client);
     m_nHintCtrl = 0;
-    m_nHintState = kNoHint;
-    if (m_state.m_nMode == kModeFont) ShowTextColor(client);
+    if (m_state.IsUp(EMode::Font)) ShowTextColor(client);
 
     const CHint* pHint = FindHint(nControl);
     if (pHint == nullptr || !m_controls.IsShown(nControl)) return;
     // A drag out of the file list onto these keys keeps the list's focus, which the drop needs.
     const bool bDropTarget =
         nControl == kCmdOpen || nControl == kCmdSend || nControl == kCmdNew || nControl == kCmdConnect;
-    const bool bDragging = m_state.m_bThumbMode && bLeftDown && m_host.IsListPressed();
+    const bool bDragging = m_state.IsUp(EMode::Thum) && bLeftDown && m_host.IsListPressed();
     if (pHint->bTakesFocus && !(bDropTarget && bDragging)) m_controls.SetFocus(nControl);
     client.DrawBitmap(pHint->nBitmap, pHint->x, pHint->y);
     m_nHintCtrl = nControl;
-    m_timers.SetTimer(m_target, pHint->y == kTopHintRow ? 0 : 1, kHintMilliseconds);
-}
-
-void CMainSkin::OnTimer(CClientArea& client, int nTimer) {
-    if (nTimer != 0 && nTimer != 1) return;
-    m_timers.KillTimer(m_target, nTimer);
-    m_nHintState = nTimer;
-    EndHint(client);
+    m_timers.SetTimer(m_target, pHint->y == kTopHintRow ? kTimerTopHint : kTimerTabHint, kHintMilliseconds);
 }
 
 // Each strip's hint goes when its own second is over, whichever hint came up last: the strip of a hint that
 // has been wiped already is wiped once more.
-void CMainSkin::EndHint(CClientArea& client) {
-    if (m_nHintState == 0) client.DrawBitmap(kBmpTopStrip, kTopStripAt.x, kTopStripAt.y);
-    if (m_nHintState == 1) {
-        WipeTabHint(client);
-        if (m_state.m_nMode == kModeFont) ShowTextColor(client);
-    }
+void CMainSkin::OnTimer(CClientArea& client, int nTimer) {
+    if (nTimer != kTimerTopHint && nTimer != kTimerTabHint) return;
+    m_timers.KillTimer(m_target, nTimer);
     m_nHintCtrl = 0;
-    m_nHintState = kNoHint;
+    if (nTimer == kTimerTopHint) return client.DrawBitmap(kBmpTopStrip, kTopStripAt.x, kTopStripAt.y);
+    WipeTabHint(client);
+    if (m_state.IsUp(EMode::Font)) ShowTextColor(client);
 }

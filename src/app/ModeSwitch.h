@@ -1,15 +1,17 @@
 #pragma once
 
+#include "app/ControlDesk.h"
 #include "app/StatusLines.h"
 #include "browse/ThumPanel.h"
+#include "canvas/MySCrollView.h"
 #include "compose/TextArtFlow.h"
-#include "editor/Editor.h"
 #include "effect/EffectFlow.h"
 #include "link/PhoneLink.h"
-#include "paint/MySCrollView.h"
+#include "paint/DrawGuest.h"
 #include "paint/ToolController.h"
 
-// The five modes: what each shows, which commands are on in it, and the switch between them.
+// The switch between the five modes: what becomes of the picture, the panels and the canvas on the way from
+// one to another. Which keys and controls are there then is the desk's affair.
 class CModeSwitch {
   public:
     // All of these outlive the switch.
@@ -17,7 +19,9 @@ class CModeSwitch {
         CEditState& state;
         CWorkingImages& images;
         CControlSet& controls;
+        CControlDesk& desk;
         CMySCrollView& canvas;
+        CDrawGuest& draw;
         CToolController& tools;
         CEditor& editor;
         CStatusLines& lines;
@@ -29,35 +33,17 @@ class CModeSwitch {
     };
     explicit CModeSwitch(const CEnvironment& env) : m_env(env) {}
 
-    // Takes the panels of the other modes down and brings the new one up. The caller has set m_nMode.
-    void ChangeMode(int nMode);
-    // Hides the tab of the active mode, which the tab row shows as selected, and shows the other four.
-    void UpdateTabs();
-
-    void EnableEditCommands();
-    void DisableEditCommands();
-    void EnableSizeCommands(bool bEnable);
-
-    void HideEffect();
-    void ShowFont();
+    // Takes the panel of the present mode down and brings the new one up, also if both are the same. False,
+    // and nothing changes, behind a message that there is no memory for the pictures of the new one.
+    bool ChangeMode(EMode mode);
+    // What FONT does whenever a picture comes into it.
+    void BeginFont();
 
   private:
-    void HideThum();
-    void HideDraw();
-    void HideFont();
-    void HideStick();
-    void ShowThum();
-    void ShowDraw();
-    void ShowEffect();
-    void ShowStick();
-    void ForgetListDrag();
-    void ShowNoPicture();
-    void BeginEditMode();
-    void BeginPictureMode();
-    void ShowRuledDisplay();
+    bool MakePictures(EMode mode, CEditPictures& next) const;
+    void Leave();
     void EnterThum();
     void EnterDraw();
-    void EnterPictureMode(int nMode);
 
     CEnvironment m_env;
 };

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 
 #include "resources/Ids.h"
 #include "resources/Texts.h"
@@ -12,6 +13,10 @@ std::string FormatSize(int nWidth, int nHeight) {
     std::array<char, 64> buffer{};
     std::snprintf(buffer.data(), buffer.size(), " :%5dX%-8d ", nWidth, nHeight);
     return kWordSize + std::string(buffer.data());
+}
+
+std::string NameOf(const std::string& strPath) {
+    return std::filesystem::path(strPath).filename().string();
 }
 
 std::string FormatDepth(int nBits) {
@@ -33,63 +38,44 @@ std::string PadColumns(const std::string& strText, int nColumns) {
                              : strText + std::string(static_cast<std::size_t>(nColumns - nUsed), ' ');
 }
 
-void CStatusLines::ShowPair(int nEditId, int nBrowseId) {
-    m_controls.Show(nEditId, m_state.m_bEditInfo);
-    m_controls.Show(nBrowseId, !m_state.m_bEditInfo);
+std::string CStatusLines::SizeInfo() const {
+    if (m_state.IsUp(EMode::Font) || m_state.IsUp(EMode::Draw))
+        return std::string(kWordSize) + " :" + PadColumns(kWordEditMode, 14) + " ";
+    const CSize size = m_state.IsUp(EMode::Stick) ? m_images.RuledSize() : m_images.DisplaySize();
+    return FormatSize(size.cx, size.cy);
 }
 
-void CStatusLines::ShowSizeInfo() {
-    ShowPair(kInfoSize, kBrowseSize);
-    if (!m_state.m_bEditInfo) return;
-    if (m_state.m_bFontMode || m_state.m_bDrawMode) {
-        m_controls.SetText(kInfoSize, std::string(kWordSize) + " :" + PadColumns(kWordEditMode, 14) + " ");
-        return;
-    }
-    const CSize size = m_state.m_bStickMode ? m_images.RuledSize() : m_images.DisplaySize();
-    m_controls.SetText(kInfoSize, FormatSize(size.cx, size.cy));
-}
-
-void CStatusLines::ShowNameInfo() {
-    ShowPair(kInfoName, kBrowseName);
+void CStatusLines::ShowEditInfo() {
+    m_desk.ShowInfoLines(m_bEditInfo);
     m_controls.SetText(kInfoName, std::string(kWordName) + ": " + PadColumns(m_state.m_strFileName, 62));
+    if (!m_bEditInfo) return;
+    m_controls.SetText(kInfoSize, SizeInfo());
+    m_controls.SetText(kInfoDepth, FormatDepth(m_images.m_imgDisplay.GetBpp()));
 }
 
-void CStatusLines::ShowDepthInfo() {
-    ShowPair(kInfoDepth, kBrowseDepth);
-    if (!m_state.m_bEditInfo || !m_images.m_pImgDisplay) return;
-    m_controls.SetText(kInfoDepth, FormatDepth(m_images.m_pImgDisplay->GetBpp()));
-}
+void CStatusLines::ShowFileInfo(const std::string& strPath, EFileInfo kind) {
+    m_desk.ShowInfoLines(m_bEditInfo);
+    if (kind == EFileInfo::Picture) return ShowPicture(strPath);
 
-void CStatusLines::ShowFileInfo(const std::string& strName, EFileInfo kind) {
-    ShowPair(kInfoName, kBrowseName);
-    ShowPair(kInfoSize, kBrowseSize);
-    ShowPair(kInfoDepth, kBrowseDepth);
-    if (kind == EFileInfo::Picture) return ShowPicture(strName);
-
-    const bool bEdit = m_state.m_bEditInfo;
     const bool bClear = kind == EFileInfo::Clear;
     m_controls.SetText(
-        bEdit ? kInfoName : kBrowseName,
-        bClear ? PadColumns(" ", 90) : std::string(kWordName) + " : " + PadColumns(strName, 62));
-    m_controls.SetText(bEdit ? kInfoSize : kBrowseSize, PadColumns(" ", 60));
-    m_controls.SetText(bEdit ? kInfoDepth : kBrowseDepth, PadColumns(" ", bClear ? 20 : 24));
+        m_bEditInfo ? kInfoName : kBrowseName,
+        bClear ? PadColumns(" ", 90) : std::string(kWordName) + " : " + PadColumns(NameOf(strPath), 62));
+    m_controls.SetText(m_bEditInfo ? kInfoSize : kBrowseSize, PadColumns(" ", 60));
+    m_controls.SetText(m_bEditInfo ? kInfoDepth : kBrowseDepth, PadColumns(" ", bClear ? 20 : 24));
 }
 
-void CStatusLines::ShowPicture(const std::string& strName) {
-    m_strBrowsePath = strName;
+void CStatusLines::ShowPicture(const std::string& strPath) {
+    const std::string strName = NameOf(strPath);
     if (GetFileExtension(strName).empty()) return;
-    m_pImgBrowse = std::make_unique<CxImage>(strName, FindImageTypeOfName(strName));
-    const bool bValid = m_pImgBrowse->IsValid();
+    const CxImage image(strPath, FindImageTypeOfName(strName));
     m_controls.SetText(kBrowseName, std::string(kWordName) + ": " + PadColumns(strName, 100));
-    m_controls.SetText(kBrowseSize, FormatSize(m_pImgBrowse->GetWidth(), m_pImgBrowse->GetHeight()));
-    m_controls.SetText(kBrowseDepth, FormatDepth(bValid ? m_pImgBrowse->GetBpp() : 0));
-    m_controls.Show(kProgress, false);
-    m_controls.Show(kCanvas, false);
-    m_controls.Show(kFileList, true);
+    m_controls.SetText(kBrowseSize, FormatSize(image.GetWidth(), image.GetHeight()));
+    m_controls.SetText(kBrowseDepth, FormatDepth(image.IsValid() ? image.GetBpp() : 0));
 }
 
 void CStatusLines::SetHelp(int nCode) {
     std::string strText;
     if (FindHelpText(nCode, strText)) m_controls.SetText(kHelpLine, PadColumns(strText, 180));
-    m_controls.Show(kHelpLine, true);
+    m_desk.ShowHelpLine();
 }

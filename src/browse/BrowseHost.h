@@ -9,10 +9,10 @@ enum class EFileInfo { Clear = -1, Folder = 0, Picture = 1 };
 class CBrowseHost {
   public:
     virtual ~CBrowseHost() = default;
-    // The name is a bare one in the process's current folder.
-    virtual void ShowFileInfo(const std::string& strName, EFileInfo kind) = 0;
+    // The whole path of a picture or a folder of the list, or the text of a node of the tree. What stands
+    // behind the last separator is the name that the lines tell.
+    virtual void ShowFileInfo(const std::string& strPath, EFileInfo kind) = 0;
     virtual void OpenPicture(const std::string& strFolder, const std::string& strName) = 0;
     // The info lines tell of the browsed file from here on.
     virtual void LeaveEditInfo() = 0;
-    virtual bool IsThumMode() const = 0;
 };

@@ -27,6 +27,7 @@ bool IsPicture(const std::string& strName) {
 
 CPicFileList::CPicFileList(const CEnvironment& env) : m_env(env) {
     m_model.SetSink(this);
+    m_env.controls.SetRange(kProgress, 0, kProgressEnd);
 }
 
 CPicFileList::~CPicFileList() {
@@ -41,8 +42,7 @@ std::string CPicFileList::PathOf(const std::string& strName) const {
 void CPicFileList::ShowFolder(const std::string& strPath) {
     m_strPath = strPath;
     FillThumbnails();
-    m_env.controls.Show(kCanvas, false);
-    m_env.controls.Show(kFileList, true);
+    m_env.events.Tell(EEditEvent::FolderShown);
 }
 
 const CxImage* CPicFileList::FolderPicture(int nBitmap) const {
@@ -56,6 +56,7 @@ void CPicFileList::FillThumbnails() {
     const CWaitScope wait(m_env.wait);
     StopFill();
     m_env.controls.SetPosition(kProgress, 0);
+    m_env.events.Tell(EEditEvent::FillBegun);
     m_env.folders.SetCurrentFolder(m_strPath);
     m_arrFolders.clear();
     m_arrFiles.clear();
@@ -107,8 +108,6 @@ void CPicFileList::MakeNext() {
         StopFill();
         return;
     }
-    // The mode may come up while the fill is under way.
-    m_env.controls.Show(kProgress, m_env.host.IsThumMode());
     const int nItem = m_nNextItem++;
     CPixels pixels = MakeThumbnail(PathOf(m_model.Text(nItem)));
     // A file that cannot be opened keeps an empty cell and its name.
@@ -122,7 +121,7 @@ void CPicFileList::StopFill() {
     m_bFilling = false;
     m_env.timers.KillTimer(*this, kTimerFill);
     m_env.wait.End();
-    m_env.controls.Show(kProgress, false);
+    m_env.events.Tell(EEditEvent::FillEnded);
 }
 
 // --- clicks ---
@@ -140,10 +139,10 @@ void CPicFileList::OnItemClick(int nItem) {
     m_bFolderLit = false;
     m_env.host.LeaveEditInfo();
     if (IsPicture(strName)) {
-        m_env.folders.SetCurrentFolder(m_strPath);
-        m_env.host.ShowFileInfo(strName, EFileInfo::Picture);
+        m_env.host.ShowFileInfo(PathOf(strName), EFileInfo::Picture);
+        m_env.events.Tell(EEditEvent::FileShown);
     } else {
-        m_env.host.ShowFileInfo(strName, EFileInfo::Folder);
+        m_env.host.ShowFileInfo(PathOf(strName), EFileInfo::Folder);
         m_model.SetPicture(nItem, MakeFolderCell(FolderPicture(kBmpFolderLit)));
         m_bFolderLit = true;
     }

@@ -5,6 +5,7 @@
 
 #include "browse/BrowseHost.h"
 #include "browse/FolderTree.h"
+#include "editor/EditEvents.h"
 #include "window/Bitmaps.h"
 #include "window/ControlSet.h"
 #include "window/Events.h"
@@ -16,8 +17,8 @@
 #include "window/WaitCursor.h"
 
 // The pictures of a folder: its folders, then its JPEG files, each with its name below. Names appear at once,
-// pictures one by one in slices between other events, under the wait cursor and with the progress bar up
-// until the last is there. A new fill ends the former.
+// pictures one by one in slices between other events, under the wait cursor until the last is there; the
+// progress bar goes along. A new fill ends the former.
 class CPicFileList : public CIconListSink, public CFolderFollower, private CTimerTarget {
   public:
     // How long one slice of a fill may hold up other events.
@@ -33,6 +34,7 @@ class CPicFileList : public CIconListSink, public CFolderFollower, private CTime
         CWaitCursor& wait;
         CBitmaps& bitmaps;
         CBrowseHost& host;
+        CEditEvents& events;
     };
     explicit CPicFileList(const CEnvironment& env);
     ~CPicFileList() override;

@@ -11,30 +11,42 @@ namespace {
 constexpr CColor kGround{109, 121, 126};
 constexpr CColor kEdge{75, 94, 103};
 
+// Scales the picture to its preview; sizeFull is that of the whole, whatever part of it was decoded. Not
+// valid if memory is short.
+CxImage Scale(CxImage image, CSize sizeFull) {
+    const CSize size = CPreviewFileDlg::PreviewSize(sizeFull);
+    return image.Resample(size.cx, size.cy) ? image : CxImage();
+}
+
+bool IsTooThin(CSize sizeFull) {
+    const CSize size = CPreviewFileDlg::PreviewSize(sizeFull);
+    return size.cx == 0 || size.cy == 0;
+}
+
 // Decodes no more of a photograph than its preview needs.
-CxImage LoadForPreview(const std::string& strPath, ImageType type, CSize& sizeFull) {
+CxImage LoadForPreview(const std::string& strPath, ImageType type) {
     if (type == ImageType::kJpeg) {
-        CScaledImage scaled =
+        const CScaledImage scaled =
             LoadJpegScaled(strPath, CPreviewFileDlg::kWideWidth, CPreviewFileDlg::kTallHeight);
-        sizeFull = scaled.sizeFull;
-        return std::move(scaled.image);
+        if (!scaled.image.IsValid()) return {};
+        if (!IsTooThin(scaled.sizeFull)) return Scale(scaled.image, scaled.sizeFull);
     }
     CxImage image(strPath, type);
-    sizeFull = image.GetSize();
-    return image;
+    if (!image.IsValid() || IsTooThin(image.GetSize())) return image;
+    return Scale(image, image.GetSize());
 }
 
 }  // namespace
 
-CPreviewImgView::CPreviewImgView(CPreviewFileDlg& dialog) : CScrollView({125, 142}), m_dialog(dialog) {}
+CPreviewImgView::CPreviewImgView(CPreviewFileDlg& dialog)
+    : CScrollView(dialog.Controls().Find(kPreviewView)->rcPlace.Size()), m_dialog(dialog) {}
 
 void CPreviewImgView::OnDraw(CSurface& surface) {
     surface.FillRect(surface.Bounds(), kGround);
-    const std::unique_ptr<CxImage> pImage = m_dialog.TakeImage();
-    if (!pImage) return;
+    const CxImage image = m_dialog.TakeImage();
     const CSize sizeClient = ClientSize();
-    surface.DrawPixels(pImage->Pixels(), std::max(0, (sizeClient.cx - pImage->GetWidth()) / 2),
-                       std::max(0, (sizeClient.cy - pImage->GetHeight()) / 2));
+    surface.DrawPixels(image.Pixels(), std::max(0, (sizeClient.cx - image.GetWidth()) / 2),
+                       std::max(0, (sizeClient.cy - image.GetHeight()) / 2));
 }
 
 CPreviewFileDlg::CPreviewFileDlg() : CFileDialogPanel(kPreviewPanel), m_view(*this) {}
@@ -79,17 +91,8 @@ CSize CPreviewFileDlg::PreviewSize(CSize size) {
 void CPreviewFileDlg::ShowPreview(const std::string& strPath) {
     const ImageType type = FindImageTypeOfName(strPath);
     if (type == ImageType::kUnknown) return;
-    if (!m_strPreviewPath.empty()) m_pImage.reset();
-    CSize sizeFull;
-    auto pImage = std::make_unique<CxImage>(LoadForPreview(strPath, type, sizeFull));
-    m_pImage.reset();
-    if (!pImage->IsValid()) return;
-    const CSize size = PreviewSize(sizeFull);
-    // Of a very thin picture nothing is left at this size.
-    if (size.cx > 0 && size.cy > 0) {
-        pImage->Resample(size.cx, size.cy);
-        m_pImage = std::move(pImage);
-    }
+    m_image = LoadForPreview(strPath, type);
+    if (!m_image.IsValid()) return;
     m_strPreviewPath = strPath;
     m_view.SetScrollSizes({0, 0});
     m_view.Invalidate();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <memory>
 #include <string>
+#include <utility>
 
 #include "image/Image.h"
 #include "window/Dialog.h"
@@ -37,10 +37,11 @@ class CPreviewFileDlg : public CFileDialogPanel {
     void OnFileNameChange(const std::string& strPath) override;
     CScrollView* ViewOf(int nId) override;
 
-    // The picture that waits to be painted; afterwards there is none.
-    std::unique_ptr<CxImage> TakeImage() { return std::move(m_pImage); }
+    // The picture that waits to be painted, not valid if there is none; afterwards there is none.
+    CxImage TakeImage() { return std::exchange(m_image, {}); }
 
-    // The size at which a picture of that size is shown; fractions are cut.
+    // The size to which a picture of that size is scaled; fractions are cut. Of a very thin picture a side of
+    // 0 is left: it is shown unscaled.
     static CSize PreviewSize(CSize size);
 
   protected:
@@ -50,7 +51,7 @@ class CPreviewFileDlg : public CFileDialogPanel {
     void ShowPreview(const std::string& strPath);
 
     CPreviewImgView m_view;
-    std::unique_ptr<CxImage> m_pImage;
+    CxImage m_image;
     bool m_bPreview = true;
     std::string m_strPreviewPath;  // the last picture shown
     std::string m_strCurrentPath;  // the file under the cursor

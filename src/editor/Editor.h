@@ -1,61 +1,75 @@
 #pragma once
 
-#include "editor/CanvasPort.h"
-#include "editor/EditState.h"
-#include "editor/EditorHost.h"
-#include "editor/WorkingImages.h"
-#include "window/ControlSet.h"
-#include "window/MessageBoxes.h"
-#include "window/WaitCursor.h"
+#include <new>
 
-// History and size rule: the steps that every command which changes the picture goes through, and the
-// commands that take such steps back.
+#include "editor/EditEvents.h"
+#include "editor/WorkingImages.h"
+#include "window/MessageBoxes.h"
+
+// Runs what may find no memory; false then, by its result or by the exception of a container.
+template <class TMake>
+[[nodiscard]] bool Prepare(TMake make) {
+    try {
+        return make();
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+// The history of an edit, and the one way in which a command changes its pictures.
+//
+// The base of a change is the picture that it starts from and that its undo step keeps: the working image, in
+// DRAW what stands on the canvas.
 class CEditor {
   public:
     // All of these outlive the editor.
     struct CEnvironment {
-        CEditState& state;
         CWorkingImages& images;
-        CControlSet& controls;
-        CCanvasPort& canvas;
-        CToolPort& tools;
-        CEditorHost& host;
+        CEditEvents& events;
         CMessageBoxes& boxes;
-        CWaitCursor& wait;
     };
     explicit CEditor(const CEnvironment& env) : m_env(env) {}
 
-    // Pushes the present state and turns the button on. When there is no memory for it: false, after a
-    // message; the command that wanted it must stop.
-    bool PushUndo();
-    bool PushRedo();
-    // Empty a stack and turn its button off.
-    void ClearUndo();
-    void ClearRedo();
-    // Undo and Redo on or off by their counts.
-    void ShowHistory();
+    // Prepare, then commit: make gets a copy of the pictures with the base as working image, brings it to
+    // what it is to be, and returns false if it finds no memory. Then nothing has changed, the user has been
+    // told, and the result is false. Otherwise one undo step stands behind the change and nothing is left to
+    // redo.
+    template <class TMake>
+    [[nodiscard]] bool Change(const CxImage& imgBase, TMake make) {
+        CEditPictures next = m_env.images;
+        next.m_imgWork = imgBase;
+        if (!Prepare([&] { return make(next); })) return ReportNoMemory();
+        Commit(imgBase, std::move(next));
+        return true;
+    }
+    // The change of a stroke: the base becomes a step, and the working image, while the canvas goes on from
+    // it.
+    void PushStep(const CxImage& imgBase);
 
-    // TRUE: working and display image are made from the canvas. FALSE: the canvas takes the working image.
-    void TransferCanvas(bool bFetch);
+    // Each takes a step in its direction, with the display image as the mode shows it. False, and nothing
+    // changes, on an empty stack or, with a message, if memory is short.
+    [[nodiscard]] bool Undo(const CxImage& imgBase, EMode mode);
+    [[nodiscard]] bool Redo(const CxImage& imgBase, EMode mode);
+    // Back to the picture as opened.
+    [[nodiscard]] bool Reset(const CxImage& imgBase, EMode mode);
+    // Lets the display size or the phone's screen rule. Without a picture it is only kept in mind.
+    [[nodiscard]] bool SetSizeRule(ESizeRule rule);
 
-    // The head of every command that changes the picture: in DRAW the canvas is fetched, then an undo step is
-    // pushed and the redo stack emptied. False if the command must stop.
-    bool BeginChange();
+    // Starts an edit with an empty history.
+    void TakePicture(const CxImage& image);
 
-    // In EFFECT the effect list takes the focus.
-    void FocusEffectList();
-
-    void OnUndo();
-    void OnRedo();
-    void OnReset();
-    // The radios "current picture size" and "phone screen size".
-    void OnImageSize();
-    void OnPhoneSize();
+    // Tells the user that there is no memory. False, for who returns it.
+    bool ReportNoMemory();
 
   private:
-    bool Push(CUndoStack& stack, int nButton);
-    void TakeBack(CUndoStack& stackFrom, int nButton, int nTool);
-    void SetSizeRule(bool bPhoneSize);
+    void Commit(const CxImage& imgBase, CEditPictures next);
+    void PushUndo(const CxImage& imgBase);
+    void PushRedo(const CxImage& imgBase);
+    void PopUndo();
+    void PopRedo();
+    void ClearUndo();
+    void ClearRedo();
+    bool MakeEntryPictures(const CUndoEntry& entry, EMode mode, CEditPictures& next);
 
     CEnvironment m_env;
 };

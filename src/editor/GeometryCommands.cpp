@@ -1,20 +1,20 @@
 #include "editor/GeometryCommands.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "editor/SizeChangeDlg.h"
-#include "resources/Ids.h"
 #include "resources/Texts.h"
 
 namespace {
 
 constexpr double kZoomStep = 0.25;
 
-void FlipImage(CxImage& image, bool bVertical) {
-    if (bVertical)
-        image.Flip();
-    else
-        image.Mirror();
+// A picture and the same without its frame, if it has one that can still be swapped.
+template <class TOperation>
+bool ForBoth(CEditPictures& pictures, TOperation operation) {
+    if (!operation(pictures.m_imgWork)) return false;
+    return !pictures.m_bFrameOn || !pictures.m_imgNoFrame.IsValid() || operation(pictures.m_imgNoFrame);
 }
 
 }  // namespace
@@ -22,123 +22,82 @@ void FlipImage(CxImage& image, bool bVertical) {
 // Under the phone size rule the display has one size only. True for a command that must stop, after a
 // message.
 bool CGeometryCommands::IsRefused(const char* szText) {
-    if (!m_env.state.m_bImageOpen) return true;
-    if (!m_env.images.m_bPhoneSize) return false;
+    if (!m_env.images.IsPhoneSize()) return false;
     m_env.boxes.Show({szText, kTitleNotice, EBoxIcon::Exclamation, EBoxButtons::Ok});
     return true;
 }
 
-// The head of the commands. False if they must stop.
-bool CGeometryCommands::BeginEdit() {
-    if (m_env.state.m_bDrawMode && m_env.canvas.IsFloating()) m_env.canvas.DropFloat();
-    m_env.canvas.AbandonShape();
-    return m_env.editor.BeginChange();
+// In DRAW the display keeps its own size also under the phone size rule.
+bool CGeometryCommands::Flip(const CxImage& imgBase, EFlip flip) {
+    const bool bDraw = m_env.state.IsUp(EMode::Draw);
+    return m_env.editor.Change(imgBase, [&](CEditPictures& next) {
+        const bool bFlipped = ForBoth(
+            next, [flip](CxImage& image) { return flip == EFlip::Vertical ? image.Flip() : image.Mirror(); });
+        return bFlipped && next.RebuildDisplay(bDraw ? next.DisplaySize() : next.RuledSize());
+    });
 }
 
-// Their tail.
-void CGeometryCommands::EndEdit() {
-    m_env.editor.FocusEffectList();
-    if (m_env.state.m_bDrawMode) return m_env.editor.TransferCanvas(false);
-    m_env.canvas.ReInitialise();
-    m_env.canvas.Repaint();
-}
-
-void CGeometryCommands::OnFlipVertical() {
-    Flip(true);
-}
-void CGeometryCommands::OnFlipHorizontal() {
-    Flip(false);
-}
-
-void CGeometryCommands::Flip(bool bVertical) {
-    if (!m_env.state.m_bImageOpen) return;
-    const CWaitScope wait(m_env.wait);
-    if (!BeginEdit()) return;
-    CWorkingImages& images = m_env.images;
-    FlipImage(*images.m_pImgWork, bVertical);
-    // In DRAW the display keeps its own size also under the phone size rule.
-    const bool bPhoneScreen = images.m_bPhoneSize && !m_env.state.m_bDrawMode;
-    images.RebuildDisplay(bPhoneScreen ? CWorkingImages::kPhoneScreen : images.DisplaySize());
-    EndEdit();
-    if (images.m_bFrameOn && images.m_pImgNoFrame) FlipImage(*images.m_pImgNoFrame, bVertical);
-    if (m_env.state.m_bDrawMode) m_env.tools.FocusCurrentTool();
-}
-
-void CGeometryCommands::OnTurnLeft() {
-    Turn(-90.0, kTextNoTurnLeft);
-}
-void CGeometryCommands::OnTurnRight() {
-    Turn(90.0, kTextNoTurnRight);
-}
-
-void CGeometryCommands::Turn(double fDegrees, const char* szRefusal) {
-    if (IsRefused(szRefusal)) return;
-    const CWaitScope wait(m_env.wait);
-    if (!BeginEdit()) return;
-    CWorkingImages& images = m_env.images;
-    images.m_pImgWork->Rotate(fDegrees);
-    images.SetDisplaySize({images.m_nDispHeight, images.m_nDispWidth});
-    images.RebuildDisplay(images.DisplaySize());
-    EndEdit();
-    if (images.m_bFrameOn && images.m_pImgNoFrame) images.m_pImgNoFrame->Rotate(fDegrees);
+bool CGeometryCommands::Turn(const CxImage& imgBase, ETurn turn) {
+    if (IsRefused(turn == ETurn::Left ? kTextNoTurnLeft : kTextNoTurnRight)) return false;
+    return m_env.editor.Change(imgBase, [turn](CEditPictures& next) {
+        next.SetDisplaySize({next.m_nDispHeight, next.m_nDispWidth});
+        return ForBoth(next, [turn](CxImage& image) { return image.Rotate(static_cast<int>(turn)); }) &&
+               next.RebuildDisplay(next.DisplaySize());
+    });
 }
 
 void CGeometryCommands::ShowSizeError(const char* szText) {
     m_env.boxes.Show({szText, kTitleSizeChange, EBoxIcon::Stop, EBoxButtons::Ok});
 }
 
-void CGeometryCommands::OnSize() {
-    if (IsRefused(kTextPhoneSizeRules)) return;
-    CSizeChangeDlg dialog(m_env.images.DisplaySize(), m_env.host.PhoneSizes(), m_env.boxes);
-    if (m_env.modals.Run(dialog) != CDialog::kDialogOk) return m_env.editor.FocusEffectList();
-
-    const CWaitScope wait(m_env.wait);
+std::optional<CSize> CGeometryCommands::ChooseSize(std::vector<CSize> arrPhoneSizes) {
+    if (IsRefused(kTextPhoneSizeRules)) return std::nullopt;
+    CSizeChangeDlg dialog(m_env.images.DisplaySize(), std::move(arrPhoneSizes), m_env.boxes);
+    if (m_env.modals.Run(dialog) != CDialog::kDialogOk) return std::nullopt;
     const CSize size = dialog.Size();
-    if (std::max(size.cx, size.cy) > kLargestSide) return ShowSizeError(kTextTooLarge);
-    if (std::min(size.cx, size.cy) < kSmallestSide) return ShowSizeError(kTextTooSmall);
-    if (!m_env.editor.BeginChange()) return;
-    m_env.images.SetDisplaySize(size);
-    m_env.images.RebuildDisplay(size);
-    m_env.canvas.ReInitialise();
-    m_env.canvas.Repaint();
-    m_env.editor.FocusEffectList();
+    const bool bTooLarge = std::max(size.cx, size.cy) > kLargestSide;
+    if (!bTooLarge && std::min(size.cx, size.cy) >= kSmallestSide) return size;
+    ShowSizeError(bTooLarge ? kTextTooLarge : kTextTooSmall);
+    return std::nullopt;
 }
 
-void CGeometryCommands::OnLarge() {
-    Zoom(kZoomStep);
+bool CGeometryCommands::ChangeSize(const CxImage& imgBase, CSize size) {
+    return m_env.editor.Change(imgBase, [size](CEditPictures& next) {
+        next.SetDisplaySize(size);
+        return next.RebuildDisplay(size);
+    });
 }
-void CGeometryCommands::OnSmall() {
-    Zoom(-kZoomStep);
+
+bool CGeometryCommands::ZoomIn(const CxImage& imgBase) {
+    return Zoom(imgBase, kZoomStep);
+}
+
+bool CGeometryCommands::ZoomOut(const CxImage& imgBase) {
+    return Zoom(imgBase, -kZoomStep);
 }
 
 // A refusal comes behind the undo step, which stays.
-void CGeometryCommands::Zoom(double fStep) {
-    if (IsRefused(kTextPhoneSizeRules)) return;
-    const CWaitScope wait(m_env.wait);
-    if (!m_env.editor.BeginChange()) return;
-    CWorkingImages& images = m_env.images;
+bool CGeometryCommands::Zoom(const CxImage& imgBase, double fStep) {
+    if (IsRefused(kTextPhoneSizeRules)) return false;
     const auto fnStep = [fStep](int nSide) { return static_cast<int>(nSide + nSide * fStep); };
-    const CSize size{fnStep(images.m_nDispWidth), fnStep(images.m_nDispHeight)};
+    const CSize size{fnStep(m_env.images.m_nDispWidth), fnStep(m_env.images.m_nDispHeight)};
     const bool bTooLarge = fStep > 0 && std::max(size.cx, size.cy) > kLargestSide;
     const bool bTooSmall = fStep < 0 && std::min(size.cx, size.cy) < kSmallestZoomedSide;
-    if (!bTooLarge && !bTooSmall) images.SetDisplaySize(size);
-    images.RebuildDisplay(images.DisplaySize());
-    EndEdit();
+    if (!ChangeSize(imgBase, bTooLarge || bTooSmall ? m_env.images.DisplaySize() : size)) return false;
     if (bTooLarge) ShowSizeError(kTextTooLarge);
     if (bTooSmall) ShowSizeError(kTextTooSmall);
+    return true;
 }
 
-// Back to the size as opened, turned the way the display is turned now.
-void CGeometryCommands::OnActual() {
-    if (IsRefused(kTextPhoneSizeRules)) return;
-    const CWaitScope wait(m_env.wait);
-    if (!BeginEdit()) return;
-    CWorkingImages& images = m_env.images;
-    const auto [nSmall, nBig] =
-        std::minmax({images.m_pImgOpened->GetWidth(), images.m_pImgOpened->GetHeight()});
-    const bool bUpright = images.m_nDispWidth <= images.m_nDispHeight;
-    images.SetDisplaySize(bUpright ? CSize{nSmall, nBig} : CSize{nBig, nSmall});
-    images.m_pImgWork->Resample(images.m_nDispWidth, images.m_nDispHeight);
-    images.RebuildDisplay(images.DisplaySize());
-    EndEdit();
+bool CGeometryCommands::ZoomToActual(const CxImage& imgBase) {
+    if (IsRefused(kTextPhoneSizeRules)) return false;
+    const CSize sizeOpened = m_env.images.m_imgOpened.GetSize();
+    return m_env.editor.Change(imgBase, [sizeOpened](CEditPictures& next) {
+        const auto [nSmall, nBig] = std::minmax({sizeOpened.cx, sizeOpened.cy});
+        const bool bUpright = next.m_nDispWidth <= next.m_nDispHeight;
+        next.SetDisplaySize(bUpright ? CSize{nSmall, nBig} : CSize{nBig, nSmall});
+        if (!next.m_imgWork.Resample(next.m_nDispWidth, next.m_nDispHeight)) return false;
+        next.ShowWork();
+        return true;
+    });
 }

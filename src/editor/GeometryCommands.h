@@ -1,10 +1,18 @@
 #pragma once
 
+#include <optional>
+#include <vector>
+
 #include "editor/Editor.h"
 #include "window/Dialog.h"
 
+enum class EFlip { Vertical, Horizontal };
+// A quarter turn, by the degrees that a picture takes.
+enum class ETurn { Left = -90, Right = 90 };
+
 // Flips and quarter turns, which change the working image, and the size dialog and zoom commands, which only
-// say at which size it is shown and saved. Each is one undo step.
+// say at which size it is shown and saved. Each starts from the base of its change (see CEditor) and is one
+// undo step; each is true if the edit has changed, and otherwise has said why.
 class CGeometryCommands {
   public:
     static constexpr int kLargestSide = 3200;
@@ -13,34 +21,28 @@ class CGeometryCommands {
 
     // All of these outlive the commands.
     struct CEnvironment {
-        CEditState& state;
+        const CEditState& state;
         CWorkingImages& images;
-        CCanvasPort& canvas;
-        CToolPort& tools;
-        CEditorHost& host;
         CMessageBoxes& boxes;
         CModalDialogs& modals;
-        CWaitCursor& wait;
         CEditor& editor;
     };
     explicit CGeometryCommands(const CEnvironment& env) : m_env(env) {}
 
-    void OnFlipVertical();
-    void OnFlipHorizontal();
-    void OnTurnLeft();
-    void OnTurnRight();
-    void OnSize();
-    void OnLarge();
-    void OnSmall();
-    void OnActual();
+    [[nodiscard]] bool Flip(const CxImage& imgBase, EFlip flip);
+    [[nodiscard]] bool Turn(const CxImage& imgBase, ETurn turn);
+    [[nodiscard]] bool ZoomIn(const CxImage& imgBase);
+    [[nodiscard]] bool ZoomOut(const CxImage& imgBase);
+    // Back to the size as opened, turned the way the display is turned now.
+    [[nodiscard]] bool ZoomToActual(const CxImage& imgBase);
+
+    // The size dialog: nothing if it is refused, cancelled or the size is out of bounds.
+    std::optional<CSize> ChooseSize(std::vector<CSize> arrPhoneSizes);
+    [[nodiscard]] bool ChangeSize(const CxImage& imgBase, CSize size);
 
   private:
     bool IsRefused(const char* szText);
-    bool BeginEdit();
-    void EndEdit();
-    void Flip(bool bVertical);
-    void Turn(double fDegrees, const char* szRefusal);
-    void Zoom(double fStep);
+    bool Zoom(const CxImage& imgBase, double fStep);
     void ShowSizeError(const char* szText);
 
     CEnvironment m_env;

@@ -1,33 +1,36 @@
 #pragma once
 
-#include <cstdint>
-#include <memory>
-#include <vector>
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
 
-#include "image/Image.h"
-
-// One state of an edit. The display image is not kept: it is rebuilt from the working image.
-struct CUndoEntry {
-    bool bFrameOn = false;
-    bool bPhoneSize = false;  // pushed while the phone's screen size ruled
-    std::int16_t nWidth = 0;  // display size: what the size rule gave when pushed
-    std::int16_t nHeight = 0;
-    std::unique_ptr<CxImage> pImage;  // the working image; shares its pixels until one of both changes
-};
-
-// The newest states, at most kDepth of them; a push onto a full stack drops the oldest.
+// The newest states of anything that can be copied, at most kDepth of them; a push onto a full stack drops
+// the oldest. Places for all of them are there from the start, so a push needs no memory beyond the state's
+// own.
+template <class TState>
 class CUndoStack {
   public:
     static constexpr int kDepth = 10;
 
-    int Count() const { return static_cast<int>(m_arrEntries.size()); }
-    bool IsEmpty() const { return m_arrEntries.empty(); }
-    // The newest entry. Only on a stack that is not empty.
-    const CUndoEntry& Top() const { return m_arrEntries.back(); }
-    void Push(CUndoEntry entry);
-    void Pop() { m_arrEntries.pop_back(); }
-    void Clear() { m_arrEntries.clear(); }
+    int Count() const { return static_cast<int>(m_nCount); }
+    bool IsEmpty() const { return m_nCount == 0; }
+    // The newest state. Only on a stack that is not empty.
+    const TState& Top() const { return m_arrStates[m_nCount - 1]; }
+    void Push(TState state) {
+        if (m_nCount == m_arrStates.size()) {
+            std::shift_left(m_arrStates.begin(), m_arrStates.end(), 1);
+            --m_nCount;
+        }
+        m_arrStates[m_nCount++] = std::move(state);
+    }
+    // Only on a stack that is not empty.
+    void Pop() { m_arrStates[--m_nCount] = TState(); }
+    void Clear() {
+        while (!IsEmpty()) Pop();
+    }
 
   private:
-    std::vector<CUndoEntry> m_arrEntries;  // oldest first
+    std::array<TState, kDepth> m_arrStates;  // oldest first
+    std::size_t m_nCount = 0;
 };

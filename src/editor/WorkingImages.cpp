@@ -1,61 +1,58 @@
 #include "editor/WorkingImages.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <utility>
 
-void CWorkingImages::TakePicture(const CxImage& image) {
-    m_pImgOpened = std::make_unique<CxImage>(image);
-    m_pImgDisplay = std::make_unique<CxImage>(image);
-    m_pImgWork = std::make_unique<CxImage>(image);
-    m_bFrameOn = false;
-}
-
-void CWorkingImages::Release() {
-    m_pImgOpened.reset();
-    m_pImgDisplay.reset();
-    m_pImgWork.reset();
-}
-
-void CWorkingImages::SetSizeRule(bool bPhoneSize) {
-    m_bPhoneSize = bPhoneSize;
-    m_bImageSize = !bPhoneSize;
-}
-
-void CWorkingImages::SetDisplaySize(CSize size) {
+void CEditPictures::SetDisplaySize(CSize size) {
     m_nDispWidth = size.cx;
     m_nDispHeight = size.cy;
 }
 
-bool CWorkingImages::RebuildDisplay(CSize size) {
-    m_pImgDisplay = std::make_unique<CxImage>(*m_pImgWork);
-    return m_pImgDisplay->Resample(size.cx, size.cy);
+bool CEditPictures::RebuildDisplay(CSize size) {
+    CxImage image = m_imgWork;
+    if (size.cx > 0 && size.cy > 0 && !image.Resample(size.cx, size.cy)) return false;
+    m_imgDisplay = std::move(image);
+    return true;
 }
 
-float CWorkingImages::FitDisplay() {
-    const int nWidth = m_pImgWork->GetWidth();
-    const int nHeight = m_pImgWork->GetHeight();
-    const float rx = static_cast<float>(nWidth + kFitMargin) / static_cast<float>(kFitArea.cx);
-    const float ry = static_cast<float>(nHeight + kFitMargin) / static_cast<float>(kFitArea.cy);
-    m_pImgDisplay = std::make_unique<CxImage>(*m_pImgWork);
-    if (rx <= 1.0F && ry <= 1.0F) return 1.0F;
-    const float fScale = rx > ry ? 1.0F / rx : 1.0F / ry;
-    // A very long and thin picture keeps one line.
-    m_pImgDisplay->Resample(std::max(1, static_cast<int>(static_cast<float>(nWidth) * fScale)),
-                            std::max(1, static_cast<int>(static_cast<float>(nHeight) * fScale)));
-    return fScale;
+float CEditPictures::FitScale(CSize size) {
+    const float rx = static_cast<float>(size.cx + kFitMargin) / static_cast<float>(kCanvasSize.cx);
+    const float ry = static_cast<float>(size.cy + kFitMargin) / static_cast<float>(kCanvasSize.cy);
+    return std::max(rx, ry) <= 1.0F ? 1.0F : 1.0F / std::max(rx, ry);
 }
 
-CUndoEntry CWorkingImages::MakeEntry() const {
+// Of a very long and thin picture one line is left in FONT.
+bool CEditPictures::RebuildDisplay(EMode mode, CSize size) {
+    if (mode != EMode::Font) return RebuildDisplay(size);
+    const CSize sizeWork = m_imgWork.GetSize();
+    const float fScale = FitScale(sizeWork);
+    const auto fit = [&](int nSide) {
+        return std::max(1, static_cast<int>(static_cast<float>(nSide) * fScale));
+    };
+    return RebuildDisplay({fit(sizeWork.cx), fit(sizeWork.cy)});
+}
+
+CUndoEntry CEditPictures::MakeEntry(const CxImage& imgWork) const {
     const CSize size = RuledSize();
-    return {m_bFrameOn, !m_bImageSize, static_cast<std::int16_t>(size.cx), static_cast<std::int16_t>(size.cy),
-            std::make_unique<CxImage>(*m_pImgWork)};
+    return {m_bFrameOn, IsPhoneSize(), static_cast<std::int16_t>(size.cx), static_cast<std::int16_t>(size.cy),
+            imgWork};
 }
 
-void CWorkingImages::TakeEntry(const CUndoEntry& entry) {
-    m_pImgWork = std::make_unique<CxImage>(*entry.pImage);
+void CEditPictures::TakeEntry(const CUndoEntry& entry) {
+    m_imgWork = entry.image;
     SetDisplaySize({entry.nWidth, entry.nHeight});
-    RebuildDisplay(DisplaySize());
+    m_sizeRule = entry.bPhoneSize ? ESizeRule::PhoneScreen : ESizeRule::Picture;
     m_bFrameOn = entry.bFrameOn;
-    SetSizeRule(entry.bPhoneSize);
-    if (m_bFrameOn) m_pImgNoFrame = std::make_unique<CxImage>(*m_pImgWork);
+    if (m_bFrameOn) m_imgNoFrame = m_imgWork;
+}
+
+void CWorkingImages::TakePicture(const CxImage& image) {
+    m_imgOpened = image;
+    TakeWork(image);
+    m_bFrameOn = false;
+}
+
+void CWorkingImages::TakeWork(const CxImage& image) {
+    m_imgWork = image;
+    ShowWork();
 }

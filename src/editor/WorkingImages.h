@@ -1,61 +1,79 @@
 #pragma once
 
-#include <memory>
+#include <cstdint>
 
+#include "editor/EditState.h"
 #include "editor/UndoStack.h"
 #include "image/Image.h"
+#include "resources/MainDialog.h"
 
-// The pictures of one edit and the rule that ties them together. All changes land on the working image at its
-// own resolution; the display image is a copy of it at the size at which it is shown, saved and printed. Null
-// pointers mean that no picture is there.
-class CWorkingImages {
-  public:
-    // The phone's screen: the size of the display image under the phone size rule.
+// At which size the picture is shown and saved: its own display size, or the phone's screen.
+enum class ESizeRule { Picture, PhoneScreen };
+
+// One state of an edit. The display image is not kept: it is rebuilt from the working image.
+struct CUndoEntry {
+    bool bFrameOn = false;
+    bool bPhoneSize = false;  // pushed while the phone's screen size ruled
+    std::int16_t nWidth = 0;  // display size: what the size rule gave when pushed
+    std::int16_t nHeight = 0;
+    CxImage image;  // the working image; shares its pixels until one of both changes
+};
+
+// The pictures that an edit changes, and the rule that ties them together. All changes land on the working
+// image at its own resolution; the display image is a copy of it at the size at which it is shown, saved and
+// printed. Pictures that are not there are not valid. A value: copies cost nothing, so whoever changes an
+// edit works on a copy and lets it take the place of the old one when all has worked.
+struct CEditPictures {
+    // The phone's screen: the size of the display image under its rule.
     static constexpr CSize kPhoneScreen{176, 144};
-    // The area that the picture gets in FONT, with the margin that stays free in each direction.
-    static constexpr CSize kFitArea{659, 543};
+    // What stays free of the canvas around the picture in FONT, in each direction.
     static constexpr int kFitMargin = 10;
 
-    std::unique_ptr<CxImage> m_pImgOpened;   // as opened, never edited
-    std::unique_ptr<CxImage> m_pImgWork;     // the edited picture
-    std::unique_ptr<CxImage> m_pImgDisplay;  // as shown
+    CxImage m_imgWork;     // the edited picture
+    CxImage m_imgDisplay;  // as shown
 
-    // The display size. Keeps its values while the phone size rule is on.
+    // The display size. Keeps its values while the phone's size rules.
     int m_nDispWidth = 0;
     int m_nDispHeight = 0;
-    // The size rule; exactly one of both is on.
-    bool m_bImageSize = true;
-    bool m_bPhoneSize = false;
+    ESizeRule m_sizeRule = ESizeRule::Picture;
 
-    bool m_bFrameOn = false;                   // the working image contains a frame that can still be swapped
-    std::unique_ptr<CxImage> m_pImgNoFrame;    // the working image as it was before any frame
-    std::unique_ptr<CxImage> m_pImgFrameTemp;  // what the frame composition writes
+    bool m_bFrameOn = false;  // the working image contains a frame that can still be swapped
+    CxImage m_imgNoFrame;     // the working image as it was before any frame
 
-    CUndoStack m_stackUndo;
-    CUndoStack m_stackRedo;
+    bool IsPhoneSize() const { return m_sizeRule == ESizeRule::PhoneScreen; }
+    CSize DisplaySize() const { return {m_nDispWidth, m_nDispHeight}; }
+    void SetDisplaySize(CSize size);
+    // The size that the size rule gives.
+    CSize RuledSize() const { return IsPhoneSize() ? kPhoneScreen : DisplaySize(); }
+
+    // The display image becomes a copy of the working image, as it is or at a size; a side of 0 leaves it as
+    // it is. False, and nothing changes, if memory is short.
+    void ShowWork() { m_imgDisplay = m_imgWork; }
+    [[nodiscard]] bool RebuildDisplay(CSize size);
+    // The same as the mode shows it: at that size, in FONT scaled down so far as it has to be for the canvas.
+    [[nodiscard]] bool RebuildDisplay(EMode mode, CSize size);
+    // The scale at which FONT shows a picture of that size, 1 for one that fits as it is.
+    static float FitScale(CSize size);
+
+    // These pictures as an entry for a stack, with that one as the working image.
+    CUndoEntry MakeEntry(const CxImage& imgWork) const;
+    // Makes an entry the present state: working image, display size, frame, size rule. The display image is
+    // left to the caller.
+    void TakeEntry(const CUndoEntry& entry);
+};
+
+// The pictures of one edit with its history.
+struct CWorkingImages : CEditPictures {
+    CxImage m_imgOpened;  // as opened, never edited
+
+    CUndoStack<CUndoEntry> m_stackUndo;
+    CUndoStack<CUndoEntry> m_stackRedo;
 
     // Starts an edit: three images with the same pixels, a frame no longer on. Stacks, size rule and display
     // size are left to the caller.
     void TakePicture(const CxImage& image);
-    // Releases the three edit images.
-    void Release();
-
-    void SetSizeRule(bool bPhoneSize);
-    CSize DisplaySize() const { return {m_nDispWidth, m_nDispHeight}; }
-    void SetDisplaySize(CSize size);
-    // The size that the size rule gives: the display size or the phone's screen.
-    CSize RuledSize() const { return m_bImageSize ? DisplaySize() : kPhoneScreen; }
-
-    // The display image becomes a copy of the working image at that size, by default the ruled one. False if
-    // memory is short; the display image is then the unscaled copy.
-    bool RebuildDisplay() { return RebuildDisplay(RuledSize()); }
-    bool RebuildDisplay(CSize size);
-    // The display image becomes a copy of the working image, scaled down so far as it has to be for kFitArea.
-    // Returns the scale, 1 for a picture that fits as it is.
-    float FitDisplay();
-
-    // The present state as an entry for a stack.
-    CUndoEntry MakeEntry() const;
-    // Makes an entry the present state: working image, display size and image, frame flag, size rule.
-    void TakeEntry(const CUndoEntry& entry);
+    // The working image, and the display image at full size, become that picture.
+    void TakeWork(const CxImage& image);
+    // Releases all pictures, those of the history too.
+    void Release() { *this = CWorkingImages(); }
 };

@@ -1,39 +1,24 @@
 #pragma once
 
-#include <memory>
-
 #include "controls/ImageListBox.h"
 #include "editor/Editor.h"
 #include "engines/effects/ImageEffect.h"
 #include "window/ClientArea.h"
-
-// What EFFECT asks of the window that it works in.
-class CEffectHost {
-  public:
-    virtual ~CEffectHost() = default;
-    // The preview box is to be drawn anew, at once.
-    virtual void RepaintPreview() = 0;
-    // The whole bottom of the panel.
-    virtual void RepaintPanel() = 0;
-};
+#include "window/PanelHost.h"
+#include "window/WaitCursor.h"
 
 // EFFECT from the first preview to the change of the picture: the list of effects, the live preview on a
 // small copy, the level slider, CONFIRM and CANCEL. Nothing changes in the working image until CONFIRM.
 class CEffectFlow {
   public:
-    // The preview box, in pixels, and where it stands in the window.
-    static constexpr CRect kPreviewBox = CRect::FromPlace(64, 476, 158, 122);
-
     // All of these outlive the flow.
     struct CEnvironment {
-        CEditState& state;
+        const CEditState& state;
         CWorkingImages& images;
         CControlSet& controls;
-        CCanvasPort& canvas;
-        CEditorHost& editorHost;
-        CEffectHost& host;
+        CPanelHost& panel;
+        CEditEvents& events;
         CWaitCursor& wait;
-        CMessageBoxes& boxes;
         CEditor& editor;
         CRandomSequence& random;
     };
@@ -41,11 +26,9 @@ class CEffectFlow {
 
     // At start: fills the list.
     void Init();
-
-    // Shows or hides preview box, slider, readout, CONFIRM and CANCEL together.
-    void ShowEffectControls(bool bShow);
-    // The slider as it stands while no effect is selected.
+    // The slider and the readout as they stand while no effect is selected.
     void RestSlider();
+    void BlankReadout();
     // Drops a preview that is up, and its images; for leaving the mode.
     void DropPreview();
     // Draws the preview into its box if one is up.
@@ -53,13 +36,18 @@ class CEffectFlow {
 
     void OnSelChangeEffectList();
     void OnVScroll();
-    void OnConfirm();
-    void OnCancel();
+    // Both are true if a preview was up, which has ended: with the picture changed, or as it was.
+    [[nodiscard]] bool OnConfirm();
+    [[nodiscard]] bool OnCancel();
 
     int Effect() const { return m_nEffectIndex; }
     int Level() const { return m_nEffectLevel; }
-    // The preview as shown; null if there is none.
-    const CxImage* Preview() const { return m_pImgEffectSmall.get(); }
+    // A preview waits for CONFIRM or CANCEL.
+    bool IsPending() const { return m_bEffectPending; }
+    // No effect is selected, or one without a level.
+    bool HasNoLevel() const { return m_bNoEffectLevel; }
+    // The preview as shown; not valid if there is none.
+    const CxImage& Preview() const { return m_imgEffectSmall; }
 
     // The size at which a picture of that size is previewed.
     static CSize PreviewSize(CSize size);
@@ -67,11 +55,13 @@ class CEffectFlow {
     static int LevelOf(int nMin, int nMax, int nPos);
 
   private:
-    void SetEffectControls(int nEffect);
-    void SetEffectRange(int nEffect);
-    bool ApplyToPreview(bool bFull);
+    CRect PreviewBox() const;
+    bool MakePreviewBase(CxImage& image) const;
+    bool ApplyEffect(CxImage& image, int nEffect, int nLevel, bool bFull);
+    void ShowSelected(int nEffect);
     void ShowLevel(bool bHasLevel);
     void EndPreview();
+    void RepaintPreview();
 
     CEnvironment m_env;
     CImageEffect m_engine;
@@ -79,6 +69,8 @@ class CEffectFlow {
     int m_nEffectIndex = 0;
     int m_nEffectShown = -1;  // whose list picture is in its selected form; -1 for none
     int m_nEffectLevel = 0;
-    std::unique_ptr<CxImage> m_pImgEffectSmall;  // the preview as shown
-    std::unique_ptr<CxImage> m_pImgEffectBase;   // the untouched preview, source of every slider move
+    bool m_bNoEffectLevel = true;
+    bool m_bEffectPending = false;
+    CxImage m_imgEffectSmall;  // the preview as shown
+    CxImage m_imgEffectBase;   // the untouched preview, source of every slider move
 };

@@ -1,20 +1,21 @@
 #pragma once
 
-#include "editor/Editor.h"
-#include "paint/MySCrollView.h"
+#include "paint/DrawGuest.h"
 #include "window/Clipboard.h"
+#include "window/ControlSet.h"
+#include "window/WaitCursor.h"
 
 // Copy, Cut, Paste and Crop of DRAW.
 class CClipboardCommands {
   public:
     // All of these outlive the commands.
     struct CEnvironment {
-        CEditState& state;
         CWorkingImages& images;
-        CControlSet& controls;
-        CMySCrollView& canvas;
+        const CControlSet& controls;
+        CDrawGuest& draw;
         CToolState& tools;
         CEditor& editor;
+        CEditEvents& events;
         CMessageBoxes& boxes;
         CWaitCursor& wait;
         CClipboard& clipboard;
@@ -26,13 +27,18 @@ class CClipboardCommands {
     void OnPaste();
     void OnCrop();
 
-    // Those that need a selection: Cut, Copy and Crop.
-    void EnableSelectionCommands(bool bEnable);
-
   private:
+    // What is selected, ready to be given away.
+    struct CLifted {
+        bool bAny = false;  // else nothing is inside the selection
+        CxImage image;
+        std::vector<std::uint8_t> arrDib;
+    };
     void ShowNotice(const char* szText);
-    bool LiftToClipboard(const char* szFailed);
-    void Float();
+    bool Lift(CLifted& lifted);
+    void GiveToClipboard(const CLifted& lifted, const char* szFailed);
+    bool TakeFromClipboard(CxImage& image);
+    void Float(const CxImage& image);
 
     CEnvironment m_env;
 };

@@ -1,10 +1,13 @@
 #include "paint/FillTool.h"
 
 void CFillTool::Press(CPoint pt) {
-    if (!m_env.Snapshot()) return;
-    Hand().m_ptStart = pt;
+    // Beside the picture there is nothing to fill, but a step all the same.
+    const auto fill = [&] {
+        return !Committed().Bounds().Contains(pt) ||
+               Committed().FloodFill(pt, Committed().GetPixel(pt.x, pt.y));
+    };
     const CBrush brushBefore = Committed().SelectBrush(CBrush::Solid(Hand().m_crPrimary));
-    Committed().FloodFill(pt, Committed().GetPixel(pt.x, pt.y));
+    const bool bFilled = m_env.Snapshot(fill);
     Committed().SelectBrush(brushBefore);
-    Paper().Revert();
+    if (bFilled) Paper().Revert();
 }

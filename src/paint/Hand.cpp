@@ -1,6 +1,6 @@
 #include "paint/Hand.h"
 
-#include <utility>
+#include <algorithm>
 
 void CHand::BeginShape(CPoint pt) {
     if (IsShapeOpen()) return;
@@ -15,10 +15,11 @@ void CHand::AddVertex(CPoint pt) {
 }
 
 int CHand::CloseShape(CPoint pt) {
-    if (!IsShapeOpen()) return 0;
-    const int nPoints = m_nVertexCount;
-    AddVertex(pt);
-    m_nClosedCount = nPoints + 1;
+    const int nPoints = std::max(0, m_nVertexCount);
+    if (IsShapeOpen()) {
+        AddVertex(pt);
+        m_nClosedCount = nPoints + 1;
+    }
     m_nVertexCount = -1;
     return nPoints;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/Editor.h"
 #include "image/RandomSequence.h"
 #include "paint/Hand.h"
 #include "paint/PaintHost.h"
@@ -17,16 +18,31 @@ struct CPaintEnvironment {
     CHand& hand;
     const CToolState& options;
     CSelection& selection;
+    CEditor& editor;
+    CEditEvents& events;
     CPaintHost& host;
     CRandomSequence& random;
     CTimers& timers;
     CTimerTarget& canvas;
 
-    // The picture as it stands becomes one undo step. False if memory is short: the tool must leave the
-    // picture alone, and the drag, if one is going on, ends.
-    bool Snapshot() const {
-        if (host.BeginChange() && paper.Separate()) return true;
+    // The picture as it stands becomes one undo step, once draw has done to it what it does. False if memory
+    // is short, for draw too: then there is no step, the picture is as it was, the user has been told, and
+    // the drag, if one is going on, ends.
+    template <class TDraw>
+    [[nodiscard]] bool Snapshot(TDraw draw) const {
+        CxImage imgBase;
+        const bool bDone = Prepare([&] {
+            return imgBase.CreateFromHBITMAP(paper.Committed().Pixels()) && paper.Separate() && draw();
+        });
+        if (bDone) {
+            editor.PushStep(imgBase);
+            return true;
+        }
         hand.m_bButtonDown = false;
-        return false;
+        return editor.ReportNoMemory();
+    }
+    // The tool draws behind it, and cannot fail to.
+    [[nodiscard]] bool Snapshot() const {
+        return Snapshot([] { return true; });
     }
 };

@@ -55,8 +55,3 @@ void CPaper::SetAllSeen() {
     SetShown(false);
     TakeUnseen();
 }
-
-CRect CPaper::DifferBox() {
-    Collect();
-    return m_rcDiffer;
-}

@@ -37,7 +37,7 @@ class CPaper {
     // step keep the picture as it was, each undo step being a whole picture in one block; so the store that
     // goes on from there needs a block of its own. That copy is made here, once a stroke. False if memory is
     // short.
-    bool Separate();
+    [[nodiscard]] bool Separate();
 
     // The store that is on the screen.
     const CSurface& Shown() const { return m_bCommittedShown ? m_surfCommit : m_surfScratch; }
@@ -46,9 +46,6 @@ class CPaper {
     CRect TakeUnseen();
     // The whole scratch store has been brought to the screen.
     void SetAllSeen();
-
-    // The stores have the same colours outside of this box.
-    CRect DifferBox();
 
   private:
     void Collect();

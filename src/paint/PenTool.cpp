@@ -1,7 +1,8 @@
 #include "paint/PenTool.h"
 
+// Without a step the drag is over, so nothing is drawn behind it.
 void CPenTool::Press(CPoint /*pt*/) {
-    m_env.Snapshot();
+    if (!m_env.Snapshot()) Paper().Revert();
 }
 
 void CPenTool::Move(CPoint pt) {

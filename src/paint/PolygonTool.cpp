@@ -19,9 +19,9 @@ void CPolygonTool::Release(CPoint pt) {
     Hand().AddVertex(pt);
 }
 
-// The release of the first click has put a vertex here already, so this point is not part of the figure.
+// The release of the first click has put a vertex here already, so this point is not part of the figure. That
+// click may have merged a float instead: then there is no figure, but a step and an end all the same.
 void CPolygonTool::DoubleClick(CPoint pt) {
-    if (!Hand().IsShapeOpen()) return;
     const bool bMayDraw = m_env.Snapshot();
     const int nPoints = Hand().CloseShape(pt);
     if (bMayDraw) Committed().Polygon(Vertices(nPoints));

@@ -18,7 +18,7 @@ void CSelectFreeTool::Release(CPoint pt) {
     Scratch().SelectPen(SelectionPen());
     Scratch().SelectBrush(CBrush::Hollow());
     Scratch().Polygon(m_env.selection.m_free.Points());
-    m_env.selection.m_bSelection = true;
+    m_env.selection.Mark();
     Paper().ShowScratch();
-    if (pt != Hand().m_ptStart) m_env.host.EnableSelectionCommands(true);
+    if (pt != Hand().m_ptStart) m_env.events.Tell(EEditEvent::SelectionMade);
 }

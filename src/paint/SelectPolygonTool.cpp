@@ -2,12 +2,12 @@
 
 // The last press has put a solid pen on the scratch store, and a double click need not have a move before it.
 void CSelectPolygonTool::DoubleClick(CPoint pt) {
-    if (!Hand().IsShapeOpen()) return;
     const int nPoints = Hand().CloseShape(pt);
+    if (nPoints == 0) return;
     Scratch().SelectPen(SelectionPen());
     Scratch().SelectBrush(CBrush::Hollow());
     Scratch().Polygon(Vertices(nPoints));
     Paper().ShowScratch();
-    m_env.selection.m_bSelection = true;
-    m_env.host.EnableSelectionCommands(true);
+    m_env.selection.Mark();
+    m_env.events.Tell(EEditEvent::SelectionMade);
 }

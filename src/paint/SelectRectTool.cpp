@@ -11,6 +11,6 @@ void CSelectRectTool::Move(CPoint pt) {
 void CSelectRectTool::Release(CPoint pt) {
     const CPoint ptStart = Hand().m_ptStart;
     m_env.selection.m_rcSelect = {ptStart.x, ptStart.y, pt.x, pt.y};
-    m_env.selection.m_bSelection = true;
-    if (pt != ptStart) m_env.host.EnableSelectionCommands(true);
+    m_env.selection.Mark();
+    if (pt != ptStart) m_env.events.Tell(EEditEvent::SelectionMade);
 }

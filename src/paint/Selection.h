@@ -13,20 +13,28 @@ class CSelection {
     // Outside of the region, and where it lies beside the picture.
     static constexpr CColor kBeside{255, 255, 255};
 
-    bool m_bSelection = false;  // a selection has been marked
-    bool m_bClipReady = false;  // Copy or Cut has run, Paste may run; stays for the whole run
-    bool m_bFloating = false;   // a pasted selection floats
-    CRect m_rcSelect;           // the rectangle as it was drawn, corners in any order; else the region's box
+    CRect m_rcSelect;  // the rectangle as it was drawn, corners in any order; else the region's box
     CFreeOutline m_free;
     CRegion m_region;
     CxImage m_imgFloat;  // the floating pixels; its corner is that of the region's box
 
+    // Something has been marked that can be copied, cut or cropped to.
+    bool IsMarked() const { return m_bSelection; }
+    void Mark() { m_bSelection = true; }
+    void Unmark() { m_bSelection = false; }
+    // Copy or Cut has run, so that Paste may run. That stays for the whole run.
+    bool IsClipReady() const { return m_bClipReady; }
+    void SetClipReady() { m_bClipReady = true; }
+    // A pasted selection floats over the picture.
+    bool IsFloating() const { return m_bFloating; }
+    void SetFloating(bool bFloating) { m_bFloating = bFloating; }
+
     // Makes the region of what the selection tool of that number has marked. False, and the region stays, if
     // nothing is inside.
-    bool Build(int nTool, const CHand& hand);
+    [[nodiscard]] bool Build(int nTool, const CHand& hand);
 
     // The pixels of the region in a picture as large as its box. Empty if memory is short.
-    CPixels Lift(const CSurface& surface) const;
+    [[nodiscard]] CPixels Lift(const CSurface& surface) const;
 
     // Moves the region so that its box begins at pt.
     void MoveTo(CPoint pt);
@@ -36,6 +44,11 @@ class CSelection {
     CRect FloatBox() const;
     // The dotted line around the float.
     void DrawFloatOutline(CSurface& surface) const;
+
+  private:
+    bool m_bSelection = false;
+    bool m_bClipReady = false;
+    bool m_bFloating = false;
 };
 
 // The pen of selections.

@@ -45,7 +45,7 @@ CToolBox::CToolBox(const CPaintEnvironment& env, CToolState& options, const std:
     add(kToolFill, std::make_unique<CFillTool>(m_env));
     add(kToolAirbrush, std::make_unique<CAirbrushTool>(m_env));
     add(kToolEraser, std::make_unique<CEraserTool>(m_env));
-    m_arrTools[kToolMagnifier] = std::make_unique<CMagnifierTool>(m_env);
+    add(kToolMagnifier, std::make_unique<CMagnifierTool>(m_env));
     add(kToolLine, std::make_unique<CLineTool>(m_env));
     add(kToolCurve, std::make_unique<CCurveTool>(m_env));
     add(kToolRectangle, std::make_unique<CBoxTool>(m_env, BoxFigure::kRectangle));

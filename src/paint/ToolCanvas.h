@@ -13,7 +13,10 @@ class CToolCanvas {
     // There is no selection any more; the outline stays until the next Revert.
     virtual void ForgetSelection() = 0;
     virtual bool IsFloating() const = 0;
-    // Merges the floating selection into the picture. The tool becomes the one to resume.
+    // Makes sure that the floating selection, if there is one, can be merged. False, behind a message, if
+    // memory is short.
+    [[nodiscard]] virtual bool PrepareDrop() = 0;
+    // Merges it into the picture. The tool becomes the one to resume. Behind PrepareDrop, or with none.
     virtual void DropFloat() = 0;
     // Sets scroll sizes and place of the picture for a new zoom and repaints.
     virtual void ApplyZoom() = 0;

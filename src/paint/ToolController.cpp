@@ -73,7 +73,8 @@ COptionGrid* CToolController::GridOf(int nTool) {
 // --- tools ---
 
 void CToolController::OnToolButton(int nTool) {
-    m_env.host.EnableSelectionCommands(false);
+    if (!m_env.canvas.PrepareDrop()) return;
+    m_env.events.Tell(EEditEvent::SelectionGone);
     const bool bShapeOpen = m_env.canvas.IsShapeOpen();
     m_env.canvas.AbandonShape();
     if (bShapeOpen) m_env.canvas.Revert();
@@ -93,9 +94,21 @@ void CToolController::EnterTool() {
     if (m_env.state.m_bImageOpen) {
         m_env.canvas.Revert();
         m_env.canvas.ForgetSelection();
-        if (m_env.canvas.IsFloating()) m_env.canvas.DropFloat();
+        m_env.canvas.DropFloat();
     }
     TakeOption();
+}
+
+void CToolController::EnterMagnifier() {
+    m_env.tools.m_nTool = kToolMagnifier;
+    EnterTool();
+}
+
+void CToolController::ReenterCurrentTool() {
+    const int nTool = m_env.tools.m_nTool;
+    EnterMagnifier();
+    m_env.tools.m_nTool = nTool;
+    FocusCurrentTool();
 }
 
 // The current tool's option becomes the setting that the tool goes by. The other settings stay: two tools may
@@ -117,7 +130,7 @@ void CToolController::TakeOption() {
             break;
         case kOptZoom:
             tools.m_nZoom = nOption == 0 ? 1 : 2 * nOption;
-            m_env.canvas.ApplyZoom();
+            if (m_env.state.m_bImageOpen) m_env.canvas.ApplyZoom();
             break;
         case kOptFill:
             tools.m_nFillMode = nOption;
@@ -131,6 +144,7 @@ void CToolController::ResetZoom() {
     m_env.tools.m_nZoom = 1;
     m_options.m_nOptZoom = 0;
     GridOf(kToolMagnifier)->Select(0);
+    if (m_nPanel + 1 == kToolMagnifier) DrawPanel(kToolMagnifier);
 }
 
 void CToolController::FocusCurrentTool() {
@@ -143,6 +157,7 @@ void CToolController::FocusCurrentTool() {
 bool CToolController::OnPanelPress(CPoint pt) {
     COptionGrid* const pGrid = m_pCurItem->m_pGrid;
     if (pGrid == nullptr || !pGrid->GetRect().Contains(pt)) return false;
+    if (!m_env.canvas.PrepareDrop()) return true;
     pGrid->HitTest(pt);
     Remember(pGrid->Selected());
     DrawPanel(m_nPanel + 1);
@@ -159,9 +174,9 @@ void CToolController::Remember(int nOption) {
 }
 
 void CToolController::ClearToolPanel() {
-    m_toolPanel.Clear(m_env.host.PanelArea());
-    m_toolPanel.Draw(m_env.host.PanelArea());
-    m_env.host.PresentPanel();
+    m_toolPanel.Clear(m_env.panel.Client());
+    m_toolPanel.Draw(m_env.panel.Client());
+    m_env.panel.Present();
 }
 
 void CToolController::DrawPanel(int nTool) {
@@ -170,15 +185,15 @@ void CToolController::DrawPanel(int nTool) {
     COptionGrid& grid = *GridOf(nTool);
     grid.Select(m_options.*pPanel->pOption);
     m_toolPanel.Layout(grid, pPanel->nOptNum);
-    m_toolPanel.Clear(m_env.host.PanelArea());
-    grid.Draw(m_env.host.PanelArea());
-    m_toolPanel.Draw(m_env.host.PanelArea());
-    m_env.host.PresentPanel();
+    m_toolPanel.Clear(m_env.panel.Client());
+    grid.Draw(m_env.panel.Client());
+    m_toolPanel.Draw(m_env.panel.Client());
+    m_env.panel.Present();
 }
 
 // A tool with options comes back as it was left. The magnifier is current already when a paint follows an
 // entry to DRAW, and stays so where no panel is up.
-void CToolController::OnPaintPanel() {
+void CToolController::OnWindowPainted() {
     const int nTool = m_nPanel + 1;
     if (nTool == kToolMagnifier)
         DrawPanel(nTool);
@@ -186,7 +201,7 @@ void CToolController::OnPaintPanel() {
         OnToolButton(nTool);
     else
         ClearToolPanel();
-    m_wellBackdrop.Draw(m_env.host.PanelArea());
+    m_wellBackdrop.Draw(m_env.panel.Client());
     DrawWells();
 }
 
@@ -194,9 +209,9 @@ void CToolController::OnPaintPanel() {
 
 // The foreground well lies on top.
 void CToolController::DrawWells() {
-    m_wellBackground.Draw(m_env.host.PanelArea());
-    m_wellForeground.Draw(m_env.host.PanelArea());
-    m_env.host.PresentPanel();
+    m_wellBackground.Draw(m_env.panel.Client());
+    m_wellForeground.Draw(m_env.panel.Client());
+    m_env.panel.Present();
 }
 
 int CToolController::HelpAt(CPoint pt) const {
@@ -213,7 +228,7 @@ void CToolController::ChooseColor(bool bForeground) {
     const std::optional<CColor> color = m_env.colors.Run(kFirstChoice);
     if (!color) return;
     SetColor(bForeground, *color);
-    m_env.host.RepaintWindow();
+    m_env.panel.Invalidate();
 }
 
 void CToolController::SetColor(bool bForeground, CColor color) {

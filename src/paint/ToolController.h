@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "editor/EditEvents.h"
 #include "editor/EditState.h"
 #include "paint/ColorWell.h"
 #include "paint/ToolCanvas.h"
@@ -12,6 +13,7 @@
 #include "window/Choosers.h"
 #include "window/ControlSet.h"
 #include "window/Events.h"
+#include "window/PanelHost.h"
 
 // The option last chosen, per tool. Lasts for the whole run. Line and curve are one choice: both always hold
 // the same.
@@ -30,7 +32,7 @@ struct CToolOptions {
 
 // Which paint tool is current and with which options and colours: the tool buttons, the option panel below
 // them and the colour wells.
-class CToolController : public CToolPort {
+class CToolController {
   public:
     // All of these outlive the controller.
     struct CEnvironment {
@@ -40,6 +42,8 @@ class CToolController : public CToolPort {
         CToolCanvas& canvas;
         CColorDialogs& colors;
         CTextRasterizer& text;
+        CPanelHost& panel;
+        CEditEvents& events;
         CToolHost& host;
     };
     explicit CToolController(const CEnvironment& env);
@@ -52,11 +56,15 @@ class CToolController : public CToolPort {
     // button. A switch of the mode does not touch it.
     int Panel() const { return m_nPanel; }
 
-    int CurrentTool() const override { return m_env.tools.m_nTool; }
-    void SetCurrentTool(int nTool) override { m_env.tools.m_nTool = nTool; }
-    void EnterTool() override;
-    void ResetZoom() override;
-    void FocusCurrentTool() override;
+    int CurrentTool() const { return m_env.tools.m_nTool; }
+    // A picture has come onto the canvas: the magnifier is entered, which applies the zoom.
+    void EnterMagnifier();
+    // The same, and the current tool stays.
+    void ReenterCurrentTool();
+    // Zoom and the magnifier's option back to 1x.
+    void ResetZoom();
+    // Gives the keyboard focus to the current tool's button.
+    void FocusCurrentTool();
 
     // A click of a tool's button. Also for the tool that is current already: selections and floats end.
     void OnToolButton(int nTool);
@@ -73,12 +81,13 @@ class CToolController : public CToolPort {
     // The colour picker's find: the well shows it at once.
     void PickColor(bool bForeground, CColor color);
 
-    // At the end of every paint of the main window in DRAW, which has covered the panel. This settles the
-    // tool as well: the panel's tool is selected again.
-    void OnPaintPanel();
+    // Behind every paint of the main window in DRAW, which has covered the panel: brings it and the wells
+    // back. This settles the tool as well: the panel's tool is selected again.
+    void OnWindowPainted();
 
   private:
     COptionGrid* GridOf(int nTool);
+    void EnterTool();
     void ClearToolPanel();
     void DrawPanel(int nTool);
     void DrawWells();

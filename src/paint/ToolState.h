@@ -1,6 +1,5 @@
 #pragma once
 
-#include "editor/CanvasPort.h"
 #include "image/Color.h"
 
 // The tools by number, in the order of their buttons. kToolFloat has no button: it is current while a pasted
@@ -15,7 +14,8 @@ enum ETool {
     kToolFill,
     kToolAirbrush,
     kToolEraser,
-    kToolLine = kToolMagnifier + 1,
+    kToolMagnifier,  // the tool that is current on every entry to DRAW
+    kToolLine,
     kToolCurve,
     kToolRectangle,
     kToolPolygon,

@@ -27,7 +27,7 @@ std::string ChooseMenuItem(CStage& stage, int nId) {
     const CEditState& state = stage.dialog.State();
     constexpr char kNoMenu[] = "no menu comes up here";
     // There a right press is not for the menu.
-    if (!state.m_bImageOpen || state.m_bDrawMode || state.m_bFontMode) return kNoMenu;
+    if (!state.m_bImageOpen || state.IsUp(EMode::Draw) || state.IsUp(EMode::Font)) return kNoMenu;
     CAnswer answer;
     answer.question = EQuestion::Menu;
     answer.nMenuId = nId;
@@ -54,7 +54,7 @@ std::string Command(CStage& stage, const CWords& arrWords) {
 std::string Mode(CStage& stage, const CWords& arrWords) {
     const std::optional<int> nMode = ParseNumber(arrWords[0]);
     if (!nMode || *nMode < 0 || *nMode >= static_cast<int>(kTabs.size())) return NotA(arrWords[0], "mode");
-    if (*nMode == stage.dialog.State().m_nMode) return "that mode is up already";
+    if (stage.dialog.State().IsUp(static_cast<EMode>(*nMode))) return "that mode is up already";
     return stage.host.Click(kTabs[static_cast<std::size_t>(*nMode)]);
 }
 

@@ -95,23 +95,22 @@ std::string Shell(CStage& stage, const CWords& /*arrWords*/) {
 // The picture of that name; empty pixels if there is none.
 bool FindPicture(CStage& stage, const std::string& strWhich, CPixels& pixels) {
     const CWorkingImages& images = stage.dialog.Images();
-    const std::array kImages = {std::pair{"work", &images.m_pImgWork},
-                                std::pair{"display", &images.m_pImgDisplay},
-                                std::pair{"opened", &images.m_pImgOpened}};
-    for (const auto& [szName, ppImage] : kImages) {
+    const std::array kImages = {std::pair{"work", &images.m_imgWork},
+                                std::pair{"display", &images.m_imgDisplay},
+                                std::pair{"opened", &images.m_imgOpened}};
+    for (const auto& [szName, pImage] : kImages) {
         if (strWhich != szName) continue;
-        if (*ppImage) pixels = (*ppImage)->Pixels();
+        pixels = pImage->Pixels();
         return true;
     }
     if (strWhich == "preview") {
-        const CxImage* pPreview = stage.dialog.Effects().Preview();
-        if (pPreview != nullptr) pixels = pPreview->Pixels();
+        pixels = stage.dialog.Effects().Preview().Pixels();
         return true;
     }
-    const CMySCrollView& canvas = stage.dialog.Canvas();
-    if (strWhich == "canvas") pixels = canvas.Surface().Pixels();
-    if (strWhich == "committed") pixels = canvas.Paper().Committed().Pixels();
-    if (strWhich == "scratch") pixels = canvas.Paper().Scratch().Pixels();
+    const CPaper& paper = stage.dialog.Draw().Paper();
+    if (strWhich == "canvas") pixels = stage.dialog.Canvas().Surface().Pixels();
+    if (strWhich == "committed") pixels = paper.Committed().Pixels();
+    if (strWhich == "scratch") pixels = paper.Scratch().Pixels();
     if (strWhich == "window") pixels = ComposeWindow(stage.host, stage.platform.Bitmaps()).Pixels();
     return strWhich == "canvas" || strWhich == "committed" || strWhich == "scratch" || strWhich == "window";
 }

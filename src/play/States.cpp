@@ -17,18 +17,18 @@ std::string Pair(CSize size) {
 
 std::string Mode(const CStage& stage) {
     constexpr std::array kNames = {"THUM", "DRAW", "EFFECT", "FONT", "STICK"};
-    const int nMode = stage.dialog.State().m_nMode;
-    return std::to_string(nMode) + " " + kNames.at(static_cast<std::size_t>(nMode));
+    const auto nMode = static_cast<std::size_t>(stage.dialog.State().m_nMode);
+    return std::to_string(nMode) + " " + kNames.at(nMode);
 }
 
 std::string Work(const CStage& stage) {
-    const auto& pImage = stage.dialog.Images().m_pImgWork;
-    return pImage ? Pair(pImage->GetSize()) : "none";
+    const CxImage& image = stage.dialog.Images().m_imgWork;
+    return image.IsValid() ? Pair(image.GetSize()) : "none";
 }
 
 std::string Image(const CStage& stage) {
-    const auto& pImage = stage.dialog.Images().m_pImgDisplay;
-    return pImage ? Flag(stage.dialog.State().m_bImageOpen) + " " + Pair(pImage->GetSize()) : "0";
+    const CxImage& image = stage.dialog.Images().m_imgDisplay;
+    return image.IsValid() ? Flag(stage.dialog.State().m_bImageOpen) + " " + Pair(image.GetSize()) : "0";
 }
 
 std::string FileList(const CStage& stage) {
@@ -46,8 +46,8 @@ std::string Selected(const CStage& stage) {
 }
 
 std::string Preview(const CStage& stage) {
-    const CxImage* pPreview = stage.dialog.Effects().Preview();
-    return pPreview == nullptr ? "none" : Pair(pPreview->GetSize());
+    const CxImage& image = stage.dialog.Effects().Preview();
+    return image.IsValid() ? Pair(image.GetSize()) : "none";
 }
 
 std::string Hex(CColor color) {
@@ -83,16 +83,16 @@ constexpr CStateEntry kStates[] = {
      "The effect that was chosen last, 0 to 30."},
     {"level", [](const CStage& s) { return std::to_string(s.dialog.Effects().Level()); }, "Its level."},
     {"preview", Preview, "Width and height of the effect's preview, or none."},
-    {"pending", [](const CStage& s) { return Flag(s.dialog.State().m_bEffectPending); },
+    {"pending", [](const CStage& s) { return Flag(s.dialog.Effects().IsPending()); },
      "Whether an effect's preview waits for CONFIRM."},
-    {"float", [](const CStage& s) { return Flag(s.dialog.Canvas().IsFloating()); },
+    {"float", [](const CStage& s) { return Flag(s.dialog.Draw().IsFloating()); },
      "Whether a selection floats over the picture."},
-    {"selection", [](const CStage& s) { return Flag(s.dialog.Canvas().Selection().m_bSelection); },
+    {"selection", [](const CStage& s) { return Flag(s.dialog.Draw().Selection().IsMarked()); },
      "Whether something is selected to cut or copy."},
     {"connected", [](const CStage& s) { return Flag(s.dialog.Link().IsConnected()); },
      "Whether the phone is connected."},
     {"sizerule",
-     [](const CStage& s) { return std::string(s.dialog.Images().m_bPhoneSize ? "phone" : "image"); },
+     [](const CStage& s) { return std::string(s.dialog.Images().IsPhoneSize() ? "phone" : "image"); },
      "Which size rules, the picture's or the phone's."},
     {"tree", [](const CStage& s) { return Quote(s.platform.OnDrive(s.dialog.Thum().Tree().CurrentPath())); },
      "The folder that the tree stands on, by its drive."},

@@ -48,10 +48,10 @@ constexpr CControlTemplate kControls[] = {
     {kFileList, IconList, At(325, 129, 658, 543)},
     {kProgress, Progress, At(323, 676, 661, 16), "", false},
     // The canvas
-    {kCanvas, View, At(325, 130, 659, 543), "", false},
+    {kCanvas, View, At(325, 130, kCanvasSize.cx, kCanvasSize.cy), "", false},
     // EFFECT
     {kEffectList, PictureList, At(58, 149, 206, 276), "", false},
-    {kEffectPreview, Place, At(64, 476, 158, 122), "", false},
+    {kEffectPreview, Place, At(64, 476, kEffectPreviewSize.cx, kEffectPreviewSize.cy), "", false},
     {kEffectSlider, Slider, At(239, 488, 24, 132), "", false},
     {kEffectLevel, Static, At(236, 468, 30, 14), "", false},
     {kConfirm, BitmapButton, At(76, 635, 78, 22), "CONFIRM", false},

@@ -23,8 +23,12 @@ QWidget* WidgetOf(const CPerson& person, int nId) {
     return person.MainWindow() == nullptr ? nullptr : person.MainWindow()->WidgetOf(nId);
 }
 
+const CControl& ControlOf(const CPerson& person, int nId) {
+    return *person.MainWindow()->Dialog().Controls().Find(nId);
+}
+
 const CControl& SliderOf(const CPerson& person) {
-    return *person.MainWindow()->Dialog().Controls().Find(kEffectSlider);
+    return ControlOf(person, kEffectSlider);
 }
 
 // A box of what is seen, which has more pixels on a dense screen.
@@ -35,7 +39,7 @@ QRect OnScreen(const QImage& image, const QRect& rc) {
 
 QImage LookAtPreview(const CPerson& person) {
     const QImage image = person.LookAtWindow();
-    return image.copy(OnScreen(image, ToQt(CEffectFlow::kPreviewBox)));
+    return image.copy(OnScreen(image, ToQt(ControlOf(person, kEffectPreview).rcPlace)));
 }
 
 // What the list's samples show, but for tiles and blocks, which are small on a preview of a large picture.

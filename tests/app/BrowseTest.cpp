@@ -39,26 +39,26 @@ class BrowseTest : public Workshop {
 TEST_F(BrowseTest, LeavingTheBrowserEndsAFillAndTheWayBackReadsTheFolderAnew) {
     EXPECT_EQ(List().Path(), Start(""));
     EXPECT_EQ(List().Model().Count(), 22);
-    for (const int nMode : {kModeDraw, kModeEffect, kModeFont, kModeStick}) {
+    for (const EMode nMode : {EMode::Draw, EMode::Effect, EMode::Font, EMode::Stick}) {
         SCOPED_TRACE(nMode);
         EXPECT_TRUE(List().IsFilling());
         EXPECT_EQ(m_platform.WaitDepth(), 1);
         GoTo(nMode);
         ExpectNoFill();
         EXPECT_FALSE(Controls().IsShown(kFileList) || Controls().IsShown(kFolderTree));
-        const std::string strNew = std::string("new") + std::to_string(nMode) + ".jpg";
+        const std::string strNew = std::string("new") + testing::PrintToString(nMode) + ".jpg";
         m_folder.Write("start/" + kFolder + "/" + strNew, "");
-        GoTo(kModeThum);
+        GoTo(EMode::Thum);
         EXPECT_NE(Item(strNew), -1);
     }
     // A picture opened out of a running fill ends it as well.
     DoubleClick("p7.jpg");
     ExpectNoFill();
-    EXPECT_EQ(State().m_nMode, kModeEffect);
-    EXPECT_EQ(Images().m_pImgWork->GetSize(), (CSize{37, 20}));
+    EXPECT_EQ(State().m_nMode, EMode::Effect);
+    EXPECT_EQ(Images().m_imgWork.GetSize(), (CSize{37, 20}));
     EXPECT_EQ(State().m_strFilePath, Start("p7.jpg"));
-    GoTo(kModeThum);
-    EXPECT_TRUE(List().IsFilling());
+    GoTo(EMode::Thum);
+    EXPECT_TRUE(List().IsFilling() && Controls().IsShown(kProgress));
     List().FinishFill();
     ExpectNoFill();
     for (int n = 0; n < List().Model().Count(); ++n) {
@@ -75,7 +75,7 @@ TEST_F(BrowseTest, WhatCannotBeOpenedLeavesTheBrowserAsItIs) {
     std::filesystem::remove(Start("p3.jpg"));
     DoubleClick("p3.jpg");
     ExpectBoxes({box});
-    EXPECT_EQ(State().m_nMode, kModeThum);
+    EXPECT_EQ(State().m_nMode, EMode::Thum);
     EXPECT_FALSE(State().m_bImageOpen);
     EXPECT_TRUE(Controls().IsShown(kFileList) && !Controls().IsShown(kCanvas));
     EXPECT_EQ(List().Model().Count(), 22);
@@ -123,10 +123,10 @@ TEST_F(BrowseTest, EnterAndDeleteAreTheListsOwn) {
 TEST_F(BrowseTest, TreeAndListFollowASavedPicture) {
     DoubleClick("p7.jpg");
     SaveAs(Start("in/copy.jpg"));
-    EXPECT_EQ(State().m_nMode, kModeEffect);
+    EXPECT_EQ(State().m_nMode, EMode::Effect);
     EXPECT_TRUE(Controls().IsShown(kCanvas) && !Controls().IsShown(kFileList));
     ExpectNoFill();
-    GoTo(kModeThum);
+    GoTo(EMode::Thum);
     EXPECT_EQ(List().Path(), Start("in/"));
     EXPECT_EQ(Item("copy.jpg"), 0);
     const CTreeModel& tree = m_dialog.Thum().Tree().Model();

@@ -21,12 +21,12 @@ class DrawTest : public PaintWorkshop {
         Drag({20, 10}, {30, 20});
         Click(kCmdCopy);
         Click(kCmdPaste);
-        ASSERT_TRUE(Canvas().IsFloating());
+        ASSERT_TRUE(Draw().IsFloating());
     }
     void OpenPolygon() {
         Tool(kToolPolygon);
         Drag({5, 20}, {25, 20});
-        ASSERT_TRUE(Canvas().IsShapeOpen());
+        ASSERT_TRUE(Draw().IsShapeOpen());
     }
     static CPixels WithStroke() {
         CPixels pixels = NumberedPixels(kPicture.cx, kPicture.cy);
@@ -43,11 +43,11 @@ class DrawTest : public PaintWorkshop {
     // As a fresh start; the clipboard stays.
     void OpenAgain() {
         OpenNumbered(kPicture.cx, kPicture.cy);
-        GoTo(kModeDraw);
+        GoTo(EMode::Draw);
     }
-    const CPixels& Work() const { return Images().m_pImgWork->Pixels(); }
+    const CPixels& Work() const { return Images().m_imgWork.Pixels(); }
     void ExpectNothingOpen() {
-        EXPECT_FALSE(Canvas().IsFloating() || Canvas().IsShapeOpen());
+        EXPECT_FALSE(Draw().IsFloating() || Draw().IsShapeOpen());
         EXPECT_NE(Tools().m_nTool, kToolFloat);
     }
 };
@@ -56,7 +56,7 @@ class DrawTest : public PaintWorkshop {
 
 // Paint goes along to EFFECT, FONT and STICK, a float is merged on the way, and an open shape leaves nothing.
 TEST_F(DrawTest, WhatIsPaintedGoesAlongToThePictureModes) {
-    for (const int nMode : {kModeEffect, kModeFont, kModeStick}) {
+    for (const EMode nMode : {EMode::Effect, EMode::Font, EMode::Stick}) {
         SCOPED_TRACE(nMode);
         OpenAgain();
         Stroke();
@@ -77,8 +77,8 @@ TEST_F(DrawTest, WhatIsPaintedGoesAlongToThePictureModes) {
         GoTo(nMode);
         EXPECT_EQ(Work(), NumberedPixels(kPicture.cx, kPicture.cy));
         EXPECT_EQ(Undos(), 0);
-        GoTo(kModeDraw);
-        EXPECT_TRUE(Canvas().Paper().Scratch().Pixels() == Work());
+        GoTo(EMode::Draw);
+        EXPECT_TRUE(Draw().Paper().Scratch().Pixels() == Work());
     }
 }
 
@@ -88,10 +88,10 @@ TEST_F(DrawTest, TheLastStrokeIsLostOnTheWayToTheList) {
     Stroke();
     Tool(kToolPen);
     Drag({5, 20}, {15, 20});
-    GoTo(kModeThum);
+    GoTo(EMode::Thum);
     EXPECT_EQ(Work(), WithStroke());
-    GoTo(kModeDraw);
-    EXPECT_EQ(Canvas().CommittedPixels(), WithStroke());
+    GoTo(EMode::Draw);
+    EXPECT_EQ(Draw().Paper().Committed().Pixels(), WithStroke());
     EXPECT_EQ(Undos(), 2);
 }
 
@@ -113,7 +113,7 @@ TEST_F(DrawTest, EveryCommandBeginsWithThePictureAsItIsPainted) {
                 EXPECT_EQ(CxImage(m_folder.Path("painted.png"), ImageType::kPng).Pixels(), Work());
             }
             ExpectNothingOpen();
-            EXPECT_EQ(Canvas().CommittedPixels(), Work());
+            EXPECT_EQ(Draw().Paper().Committed().Pixels(), Work());
         };
         OpenAgain();
         Stroke();
@@ -137,7 +137,7 @@ TEST_F(DrawTest, UndoTakesAFloatBackAndRedoBringsItMerged) {
     Click(kCmdUndo);
     ExpectNothingOpen();
     EXPECT_EQ(Work(), WithStroke());
-    EXPECT_EQ(Canvas().CommittedPixels(), WithStroke());
+    EXPECT_EQ(Draw().Paper().Committed().Pixels(), WithStroke());
     Click(kCmdUndo);
     EXPECT_EQ(Work(), NumberedPixels(kPicture.cx, kPicture.cy));
     Click(kCmdRedo);
@@ -145,9 +145,9 @@ TEST_F(DrawTest, UndoTakesAFloatBackAndRedoBringsItMerged) {
     OpenPolygon();
     Click(kCmdReset);
     ExpectNothingOpen();
-    EXPECT_EQ(Canvas().CommittedPixels(), NumberedPixels(kPicture.cx, kPicture.cy));
+    EXPECT_EQ(Draw().Paper().Committed().Pixels(), NumberedPixels(kPicture.cx, kPicture.cy));
     Click(kCmdUndo);
-    EXPECT_EQ(Canvas().CommittedPixels(), WithStroke());
+    EXPECT_EQ(Draw().Paper().Committed().Pixels(), WithStroke());
 }
 
 TEST_F(DrawTest, ANewPictureLeavesNothingOfTheOldOneOpen) {
@@ -164,9 +164,9 @@ TEST_F(DrawTest, ANewPictureLeavesNothingOfTheOldOneOpen) {
                 OpenNumbered(20, 25, 9);
             ExpectNothingOpen();
             const CPixels before = Work();
-            GoTo(kModeDraw);
+            GoTo(EMode::Draw);
             Tool(kToolPolygon);
-            GoTo(kModeEffect);
+            GoTo(EMode::Effect);
             EXPECT_EQ(Work(), before);
         }
     }
@@ -175,7 +175,7 @@ TEST_F(DrawTest, ANewPictureLeavesNothingOfTheOldOneOpen) {
 // At a zoom and scrolled: the float comes up where the eye is, and Crop leaves tool and zoom alone.
 TEST_F(DrawTest, PasteAndCropAtAZoom) {
     OpenNumbered(600, 500);
-    GoTo(kModeDraw);
+    GoTo(EMode::Draw);
     Tool(kToolSelectRect);
     Drag({20, 10}, {30, 20});
     Click(kCmdCopy);
@@ -185,16 +185,17 @@ TEST_F(DrawTest, PasteAndCropAtAZoom) {
     Canvas().ScrollTo({301, 205});
     Tool(kToolPen);
     Click(kCmdPaste);
-    EXPECT_EQ(Canvas().Selection().m_region.Box(), (CRect{150, 102, 160, 112}));
+    EXPECT_EQ(Draw().Selection().m_region.Box(), (CRect{150, 102, 160, 112}));
     Tool(kToolPen);
-    EXPECT_EQ(PixelAt(Canvas().CommittedPixels(), 150, 102), PixelAt(NumberedPixels(600, 500), 20, 10));
+    EXPECT_EQ(PixelAt(Draw().Paper().Committed().Pixels(), 150, 102),
+              PixelAt(NumberedPixels(600, 500), 20, 10));
     Click(kCmdUndo);
 
     Tool(kToolMagnifier);
     PressWindow({205, 373});
     Tool(kToolSelectRect);
     Canvas().ScrollTo({0, 0});
-    const CPoint ptOrigin = Canvas().Origin();
+    const CPoint ptOrigin = Draw().Origin();
     const auto at = [&](int x, int y) { return CPoint{2 * x - ptOrigin.x, 2 * y - ptOrigin.y}; };
     Drag(at(40, 50), at(100, 80));
     Click(kCmdCrop);
@@ -216,12 +217,12 @@ TEST_F(DrawTest, TheClipboardByKeys) {
     Drag({20, 10}, {30, 20});
     EXPECT_TRUE(CtrlKey('C'));
     EXPECT_TRUE(CtrlKey('X'));
-    EXPECT_EQ(PixelAt(Canvas().CommittedPixels(), 25, 15), (CColor{255, 255, 255}));
+    EXPECT_EQ(PixelAt(Draw().Paper().Committed().Pixels(), 25, 15), (CColor{255, 255, 255}));
     EXPECT_TRUE(CtrlKey('V'));
-    EXPECT_TRUE(Canvas().IsFloating());
+    EXPECT_TRUE(Draw().IsFloating());
     // What was cut last is white; it was cut behind the copy.
-    EXPECT_EQ(PixelAt(Canvas().Paper().Scratch().Pixels(), 5, 5), PixelAt(NumberedPixels(40, 30), 25, 15));
-    GoTo(kModeStick);
+    EXPECT_EQ(PixelAt(Draw().Paper().Scratch().Pixels(), 5, 5), PixelAt(NumberedPixels(40, 30), 25, 15));
+    GoTo(EMode::Stick);
     EXPECT_FALSE(CtrlKey('V'));
     EXPECT_FALSE(CtrlKey('C'));
     EXPECT_EQ(Undos(), 2);

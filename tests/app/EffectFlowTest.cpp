@@ -24,11 +24,8 @@ class EffectFlowTest : public Workshop {
         const CControl& slider = *Controls().Find(kEffectSlider);
         return slider.nMin < 0 ? -nLevel : slider.nMax - nLevel;
     }
-    const CPixels& Preview() {
-        static const CPixels none;
-        return m_dialog.Effects().Preview() == nullptr ? none : m_dialog.Effects().Preview()->Pixels();
-    }
-    const CPixels& Work() const { return Images().m_pImgWork->Pixels(); }
+    const CPixels& Preview() { return m_dialog.Effects().Preview().Pixels(); }
+    const CPixels& Work() const { return Images().m_imgWork.Pixels(); }
 
     // What the engine makes of these pixels; its random sequence goes on from call to call.
     CPixels Engine(const CPixels& pixels, int nEffect, int nLevel, bool bFull) {
@@ -48,9 +45,9 @@ class EffectFlowTest : public Workshop {
             EXPECT_EQ(ListPicture(i), std::to_string((i == nLit ? 198 : 229) + i));
     }
     void ExpectNoPreview() {
-        EXPECT_FALSE(State().m_bEffectPending);
-        EXPECT_TRUE(State().m_bNoEffectLevel);
-        EXPECT_EQ(m_dialog.Effects().Preview(), nullptr);
+        EXPECT_FALSE(m_dialog.Effects().IsPending());
+        EXPECT_TRUE(m_dialog.Effects().HasNoLevel());
+        EXPECT_FALSE(m_dialog.Effects().Preview().IsValid());
         for (const int nId : {kConfirm, kCancel, kEffectSlider}) EXPECT_FALSE(Controls().IsShown(nId)) << nId;
     }
     void ExpectSliderAtRest() {
@@ -104,14 +101,14 @@ TEST_F(EffectFlowTest, AChoiceSetsUpEverything) {
         EXPECT_EQ(slider.bEnabled, row.bHasLevel);
         EXPECT_EQ((std::array{slider.nMin, slider.nMax, slider.nPos}),
                   (std::array{row.nMin, row.nMax, row.nStart}));
-        EXPECT_EQ(State().m_bNoEffectLevel, !row.bHasLevel);
+        EXPECT_EQ(m_dialog.Effects().HasNoLevel(), !row.bHasLevel);
         EXPECT_EQ(Controls().Text(kEffectLevel), row.bHasLevel ? "0" : kBlank);
         for (const int nId : {kEffectPreview, kEffectLevel, kConfirm, kCancel})
             EXPECT_TRUE(Controls().IsShown(nId) && Controls().IsEnabled(nId)) << nId;
         for (const int nId : kOffWhilePending) EXPECT_FALSE(Controls().IsEnabled(nId)) << nId;
         EXPECT_TRUE(Controls().IsEnabled(kCmdOpen) && Controls().IsEnabled(kCmdConnect));
         ExpectLit(n);
-        EXPECT_TRUE(State().m_bEffectPending);
+        EXPECT_TRUE(m_dialog.Effects().IsPending());
         EXPECT_EQ(Controls().Focus(), kEffectList);
         EXPECT_EQ(Preview(), Engine(SmallWork({158, 105}), n, 0, false)) << "from the picture, at level 0";
         if (HasFailure()) return;
@@ -192,7 +189,7 @@ TEST_F(EffectFlowTest, ConfirmRunsEachEffectOnThePictureItself) {
         Click(kConfirm);
         EXPECT_EQ(Work(), Engine(before.work, n, nLevel, true));
         const CSize size = Images().DisplaySize();
-        EXPECT_EQ(Images().m_pImgDisplay->Pixels(), NaiveResample(Work(), size.cx, size.cy));
+        EXPECT_EQ(Images().m_imgDisplay.Pixels(), NaiveResample(Work(), size.cx, size.cy));
         EXPECT_EQ(Undos(), before.nUndo + 1);
         ExpectNoPreview();
         ExpectSliderAtRest();
@@ -210,7 +207,7 @@ TEST_F(EffectFlowTest, ConfirmBringsTheCommandsBack) {
     Edit(1);
     Edit(2);
     Click(kCmdUndo);
-    GoTo(kModeEffect);
+    GoTo(EMode::Effect);
     CSnapshot before = Snapshot();
     ASSERT_TRUE(Controls().IsEnabled(kCmdUndo) && Controls().IsEnabled(kCmdRedo));
     Choose(kNegative);
@@ -221,10 +218,10 @@ TEST_F(EffectFlowTest, ConfirmBringsTheCommandsBack) {
     EXPECT_EQ(Snapshot().arrEnabled, before.arrEnabled);
     // The list tells changes only: the same effect again takes the way over another.
     Choose(kNegative);
-    EXPECT_FALSE(State().m_bEffectPending);
+    EXPECT_FALSE(m_dialog.Effects().IsPending());
     Choose(kArt);
     Choose(kNegative);
-    EXPECT_TRUE(State().m_bEffectPending);
+    EXPECT_TRUE(m_dialog.Effects().IsPending());
 }
 
 TEST_F(EffectFlowTest, ConfirmAtLevelZeroAndInThePhonesSize) {
@@ -233,13 +230,13 @@ TEST_F(EffectFlowTest, ConfirmAtLevelZeroAndInThePhonesSize) {
     Click(kConfirm);
     EXPECT_EQ(Undos(), 1) << "a step all the same";
     EXPECT_EQ(Work(), NumberedPixels(60, 40));
-    GoTo(kModeStick);
+    GoTo(EMode::Stick);
     Click(kRadioPhoneSize);
-    GoTo(kModeEffect);
+    GoTo(EMode::Effect);
     Choose(kNegative);
     Click(kConfirm);
-    EXPECT_EQ(Images().m_pImgDisplay->Pixels(), NaiveResample(Work(), 176, 144));
-    EXPECT_EQ(Images().m_pImgWork->GetSize(), (CSize{60, 40}));
+    EXPECT_EQ(Images().m_imgDisplay.Pixels(), NaiveResample(Work(), 176, 144));
+    EXPECT_EQ(Images().m_imgWork.GetSize(), (CSize{60, 40}));
 }
 
 TEST_F(EffectFlowTest, CancelLeavesAllAsItWas) {
@@ -247,7 +244,7 @@ TEST_F(EffectFlowTest, CancelLeavesAllAsItWas) {
     Edit(1);
     Edit(2);
     Click(kCmdUndo);
-    GoTo(kModeEffect);
+    GoTo(EMode::Effect);
     CSnapshot before = Snapshot();
     ASSERT_EQ(before.nRedo, 1);
     Choose(kTile);
@@ -264,13 +261,13 @@ TEST_F(EffectFlowTest, CancelLeavesAllAsItWas) {
 
 // Whatever waits is dropped without a word, and the new mode's own rules hold.
 TEST_F(EffectFlowTest, AModeSwitchDropsThePreview) {
-    for (const int nMode : kAllModes) {
-        if (nMode == kModeEffect) continue;
-        SCOPED_TRACE("mode " + std::to_string(nMode));
+    for (const EMode nMode : kAllModes) {
+        if (nMode == EMode::Effect) continue;
+        SCOPED_TRACE("mode " + testing::PrintToString(nMode));
         OpenNumbered(300, 200);
         GoTo(nMode);
         const CSnapshot wanted = Snapshot();
-        GoTo(kModeEffect);
+        GoTo(EMode::Effect);
         Choose(kSharpness);
         Slide(-4);
         GoTo(nMode);
@@ -282,12 +279,12 @@ TEST_F(EffectFlowTest, AModeSwitchDropsThePreview) {
         EXPECT_EQ(now.nUndo, wanted.nUndo);
         EXPECT_EQ(Controls().Text(kEffectLevel), "     ");
         ExpectNoPreview();
-        GoTo(kModeEffect);
+        GoTo(EMode::Effect);
         ExpectNoPreview();
         ExpectSliderAtRest();
         ExpectLit(kSharpness);
         Choose(kArt);
-        EXPECT_TRUE(State().m_bEffectPending);
+        EXPECT_TRUE(m_dialog.Effects().IsPending());
     }
 }
 
@@ -305,21 +302,32 @@ TEST_F(EffectFlowTest, AnotherChoiceStartsFromThePictureAgain) {
 TEST_F(EffectFlowTest, CtrlZUndoesUnderAPreview) {
     OpenNumbered(60, 40);
     Edit(77);
-    GoTo(kModeEffect);
+    Edit(78);
+    GoTo(EMode::Effect);
+    Choose(kNegative);
+    EXPECT_TRUE(CtrlKey('Z'));
+    EXPECT_FALSE(Controls().IsEnabled(kCmdUndo)) << "a step that is left lights nothing";
+    EXPECT_TRUE(Controls().IsEnabled(kCmdRedo)) << "the one that has come does";
+    GoTo(EMode::Thum);
+    EXPECT_TRUE(CtrlKey('Z'));
+    EXPECT_TRUE(CtrlKey('Y'));
+    EXPECT_TRUE(Controls().IsEnabled(kCmdUndo)) << "a push is a push in THUM too";
+    GoTo(EMode::Effect);
+    Choose(kArt);
     Choose(kNegative);
     const CPixels preview = Preview();
     EXPECT_TRUE(CtrlKey('Z'));
     EXPECT_EQ(Work(), NumberedPixels(60, 40));
-    EXPECT_TRUE(State().m_bEffectPending);
+    EXPECT_TRUE(m_dialog.Effects().IsPending());
     EXPECT_EQ(Preview(), preview) << "the preview stays as it was";
-    EXPECT_EQ(Redos(), 1);
+    EXPECT_EQ(Redos(), 2);
     Click(kConfirm);
     EXPECT_EQ(Work(), Engine(NumberedPixels(60, 40), kNegative, 0, true)) << "what is there is changed";
     EXPECT_EQ(Redos(), 0);
 }
 
 TEST_F(EffectFlowTest, WithoutAPictureAChoiceIsTheListsOwn) {
-    GoTo(kModeEffect);
+    GoTo(EMode::Effect);
     CSnapshot before = Snapshot();
     Choose(3);
     EXPECT_EQ(Snapshot(), before);

@@ -29,7 +29,7 @@ class InputTest : public Workshop {
 TEST_F(InputTest, EscapeAndEnterDoNothing) {
     for (const bool bPicture : {false, true}) {
         if (bPicture) OpenNumbered(20, 20);
-        for (const int nMode : kAllModes) {
+        for (const EMode nMode : kAllModes) {
             GoTo(nMode);
             const CSnapshot before = Snapshot();
             for (const int nKey : {kKeyEscape, kKeyEnter}) {
@@ -55,13 +55,13 @@ TEST_F(InputTest, CtrlKeysNeedAPictureAndTheCtrlKey) {
     for (const int nKey : std::vector<int>{'A', 'B', kKeyDelete}) EXPECT_FALSE(CtrlKey(nKey));
     EXPECT_TRUE(Snapshot() == before);
     // The paint clipboard's keys belong to the controls outside DRAW.
-    for (const int nMode : kAllModes) {
+    for (const EMode nMode : kAllModes) {
         GoTo(nMode);
-        for (const int nKey : std::vector<int>{'C', 'V', 'X'}) EXPECT_EQ(CtrlKey(nKey), nMode == kModeDraw);
+        for (const int nKey : std::vector<int>{'C', 'V', 'X'}) EXPECT_EQ(CtrlKey(nKey), nMode == EMode::Draw);
         // Nothing is selected.
         const CMessageBox copy{kTextNothingToCopy, kTitleNotice, EBoxIcon::Exclamation, EBoxButtons::Ok};
         const CMessageBox cut{kTextNothingToCut, kTitleNotice, EBoxIcon::Exclamation, EBoxButtons::Ok};
-        ExpectBoxes(nMode == kModeDraw ? std::vector{copy, copy, cut} : std::vector<CMessageBox>{});
+        ExpectBoxes(nMode == EMode::Draw ? std::vector{copy, copy, cut} : std::vector<CMessageBox>{});
     }
 }
 
@@ -69,13 +69,13 @@ TEST_F(InputTest, CtrlKeysNeedAPictureAndTheCtrlKey) {
 TEST_F(InputTest, CtrlZAndCtrlYGoByTheCounts) {
     OpenNumbered(20, 20);
     Edit(1);
-    for (const int nMode : kAllModes) {
+    for (const EMode nMode : kAllModes) {
         SCOPED_TRACE(nMode);
         GoTo(nMode);
         Controls().Enable(kCmdUndo, false);
         EXPECT_TRUE(CtrlKey('Z'));
         EXPECT_EQ(std::pair(Undos(), Redos()), std::pair(0, 1));
-        EXPECT_EQ(Images().m_pImgWork->Pixels(), NumberedPixels(20, 20));
+        EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(20, 20));
         EXPECT_FALSE(CtrlKey('Z'));
         Controls().Enable(kCmdRedo, false);
         EXPECT_TRUE(CtrlKey('Y'));
@@ -89,14 +89,14 @@ TEST_F(InputTest, CtrlZAndCtrlYGoByTheCounts) {
 TEST_F(InputTest, TheMenuComesInEffectAndInStickAtThePicturesSize) {
     OpenNumbered(20, 20);
     EXPECT_EQ(MenuItems().size(), 11U);
-    GoTo(kModeStick);
+    GoTo(EMode::Stick);
     EXPECT_EQ(MenuItems().size(), 11U);
     Click(kRadioPhoneSize);
     EXPECT_TRUE(MenuItems().empty());
     // The phone's size matters in STICK only.
-    GoTo(kModeEffect);
+    GoTo(EMode::Effect);
     EXPECT_EQ(MenuItems().size(), 11U);
-    for (const int nMode : {kModeFont, kModeDraw}) {
+    for (const EMode nMode : {EMode::Font, EMode::Draw}) {
         GoTo(nMode);
         EXPECT_TRUE(MenuItems().empty());
     }
@@ -126,23 +126,11 @@ TEST_F(InputTest, TheMenuIsGreyOnlyWhereThereIsNoStep) {
     expect(true, true);
 }
 
-TEST_F(InputTest, AMenuItemDoesWhatItsButtonDoes) {
-    OpenNumbered(20, 20);
-    Edit(1);
-    MenuItems(kMenuUndo);
-    EXPECT_EQ(Images().m_pImgWork->Pixels(), NumberedPixels(20, 20));
-    MenuItems(kMenuRedo);
-    EXPECT_EQ(WorkColor().r, 1);
-    MenuItems(kMenuReset);
-    EXPECT_EQ(Images().m_pImgWork->Pixels(), NumberedPixels(20, 20));
-    EXPECT_EQ(Undos(), 2);
-}
-
 TEST_F(InputTest, TheVersionPlateAnswersInEveryMode) {
     const CMessageBox box{"Build Date : Dec  7 2005", "Orvo Fotarium Version", EBoxIcon::None,
                           EBoxButtons::Ok};
     OpenNumbered(20, 20);
-    for (const int nMode : kAllModes) {
+    for (const EMode nMode : kAllModes) {
         GoTo(nMode);
         for (const CPoint pt : {CPoint{38, 676}, {49, 689}}) {
             Press(EMouseButton::Left, pt);
@@ -158,22 +146,22 @@ TEST_F(InputTest, TheVersionPlateAnswersInEveryMode) {
 // A left press beside the controls fetches what the canvas holds, in DRAW only and without an undo step.
 TEST_F(InputTest, APressBesideTheControlsFetchesThePaint) {
     OpenNumbered(20, 20);
-    for (const int nMode : kAllModes) {
+    for (const EMode nMode : kAllModes) {
         GoTo(nMode);
-        PaintOver(*Images().m_pImgWork, {3, 3, 3});
+        PaintOver(Touch(Images().m_imgWork), {3, 3, 3});
         Press(EMouseButton::Right, {20, 400});
         EXPECT_EQ(WorkColor().r, 3);
         Press(EMouseButton::Left, {20, 400});
-        EXPECT_EQ(Images().m_pImgWork->Pixels() == NumberedPixels(20, 20), nMode == kModeDraw);
+        EXPECT_EQ(Images().m_imgWork.Pixels() == NumberedPixels(20, 20), nMode == EMode::Draw);
         EXPECT_EQ(Undos(), 0);
-        if (nMode != kModeDraw) Click(kCmdNew);
+        if (nMode != EMode::Draw) Click(kCmdNew);
         OpenNumbered(20, 20);
     }
 }
 
 TEST_F(InputTest, TheHelpLineFollowsTheMouseInDraw) {
     OpenNumbered(20, 20);
-    GoTo(kModeDraw);
+    GoTo(EMode::Draw);
     const auto helpAt = [&](CPoint pt) {
         EXPECT_EQ(m_host.MouseOnWindow(EMouseAction::Move, EMouseButton::None, pt), "");
         std::string strText = Controls().Text(kHelpLine);
@@ -193,14 +181,14 @@ TEST_F(InputTest, TheHelpLineFollowsTheMouseInDraw) {
     EXPECT_EQ(helpAt({241, 503}), "");
     EXPECT_EQ(helpAt({40, 30}), "");
     // In other modes the mouse does not touch the line.
-    GoTo(kModeFont);
+    GoTo(EMode::Font);
     const std::string strFont = Controls().Text(kHelpLine);
     helpAt({40, 30});
     EXPECT_EQ(Controls().Text(kHelpLine), strFont);
 }
 
 TEST_F(InputTest, ALabelClickedDoesWhatItsControlDoes) {
-    GoTo(kModeFont);
+    GoTo(EMode::Font);
     EXPECT_TRUE(Controls().IsChecked(kCheckLines));
     Click(kLabelLines);
     EXPECT_FALSE(Controls().IsChecked(kCheckLines));
@@ -217,7 +205,7 @@ TEST_F(InputTest, TheCloseBoxEndsWithoutAQuestion) {
     EXPECT_TRUE(m_dialog.HasEnded());
     m_dialog.OnDestroy();
     EXPECT_FALSE(State().m_bImageOpen);
-    EXPECT_EQ(Images().m_pImgWork, nullptr);
+    EXPECT_FALSE(Images().m_imgWork.IsValid());
     EXPECT_EQ(std::pair(Undos(), Redos()), std::pair(0, 0));
     EXPECT_EQ(m_platform.Timers().Count(), 0);
 }

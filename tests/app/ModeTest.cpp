@@ -1,45 +1,29 @@
 #include <set>
 
+#include "app/WantedKeys.h"
 #include "app/Workshop.h"
 #include "resources/ToolTable.h"
 
 namespace {
 
-// When a command is on, a letter a mode in the order THUM, EFFECT, STICK, FONT, DRAW: '+' on, '-' off, 'u'
-// with an undo step, 'r' with a redo step.
-struct CCommandRow {
-    std::vector<int> arrIds;
-    const char* szModes;
-};
-const CCommandRow kCommands[] = {
-    {{kCmdOpen, kCmdNew, kCmdConnect}, "+++++"},
-    {{kCmdSave, kCmdPrint, kCmdReset}, "-++++"},
-    {{kCmdUndo}, "-uuuu"},
-    {{kCmdRedo}, "-rrrr"},
-    {{kCmdCut, kCmdCopy, kCmdPaste, kCmdCrop}, "-----"},
-    {{kCmdSize, kCmdLarge, kCmdActual, kCmdSmall}, "-++--"},
-    {{kCmdFlipVertical, kCmdFlipHorizontal, kCmdTurnLeft, kCmdTurnRight}, "-++-+"},
-    {{kCmdSend, kCmdTake}, "-----"},  // no phone
-};
-
-std::size_t ColumnOf(int nMode) {
+std::size_t ColumnOf(EMode nMode) {
     constexpr std::size_t kColumns[] = {0, 4, 1, 3, 2};
-    return kColumns[nMode];
+    return kColumns[static_cast<std::size_t>(nMode)];
 }
 
 // What is seen beside the top bar, tabs and info lines.
-std::set<int> PanelOf(int nMode, bool bOpen) {
+std::set<int> PanelOf(EMode nMode, bool bOpen) {
     std::set<int> setIds;
     switch (nMode) {
-        case kModeThum:
+        case EMode::Thum:
             return {kFolderTree, kFileList};
-        case kModeEffect:
+        case EMode::Effect:
             setIds = {kEffectList, kEffectPreview, kEffectLevel};
             break;
-        case kModeStick:
+        case EMode::Stick:
             setIds = {1139, 1146, 1187, 1188, 1246, 1247};
             break;
-        case kModeFont:
+        case EMode::Font:
             setIds = {1050, 1051, 1052, 1053, 1054, 1248, 1249, 1057, 1064,
                       1058, 1148, 1150, 1151, 1119, 1250, 1122, 1121, 1028};
             break;
@@ -47,35 +31,34 @@ std::set<int> PanelOf(int nMode, bool bOpen) {
             for (int nId = 1168; nId <= 1184; ++nId) setIds.insert(nId);
     }
     if (bOpen) setIds.insert(kCanvas);
-    if (bOpen && (nMode == kModeDraw || nMode == kModeFont)) setIds.insert(kHelpLine);
+    if (bOpen && (nMode == EMode::Draw || nMode == EMode::Font)) setIds.insert(kHelpLine);
     return setIds;
 }
 
 class ModeTest : public Workshop {
   protected:
-    void ExpectCommands(int nMode) {
-        for (const CCommandRow& row : kCommands)
-            for (const int nId : row.arrIds) {
-                const char cRule = row.szModes[ColumnOf(nMode)];
-                bool bOn = cRule == '+' || (cRule == 'u' && Undos() > 0) || (cRule == 'r' && Redos() > 0);
-                if (!State().m_bImageOpen && nId != kCmdOpen && nId != kCmdNew && nId != kCmdConnect)
-                    bOn = false;
-                EXPECT_EQ(Controls().IsEnabled(nId), bOn) << "command " << nId << " in mode " << nMode;
-            }
+    void ExpectCommands(EMode nMode) {
+        for (const CWantedKey& key : kWantedKeys) {
+            const char cRule = key.szRow[ColumnOf(nMode)];
+            bool bOn = cRule == '+' || (cRule == 'u' && Undos() > 0) || (cRule == 'r' && Redos() > 0);
+            const bool bAlways = key.nId == kCmdOpen || key.nId == kCmdNew || key.nId == kCmdConnect;
+            if (bAlways || !State().m_bImageOpen) bOn = bAlways;
+            EXPECT_EQ(Controls().IsEnabled(key.nId), bOn) << "command " << key.nId << " in mode " << nMode;
+        }
     }
 
-    void ExpectLooks(int nMode) {
+    void ExpectLooks(EMode nMode) {
         const bool bOpen = State().m_bImageOpen;
         std::set<int> setWanted = PanelOf(nMode, bOpen);
-        for (const CCommandRow& row : kCommands) setWanted.insert(row.arrIds.begin(), row.arrIds.end());
-        for (const int nTabMode : kAllModes)
+        for (const CWantedKey& key : kWantedKeys) setWanted.insert(key.nId);
+        for (const EMode nTabMode : kAllModes)
             if (nTabMode != nMode) setWanted.insert(TabOf(nTabMode));
         std::set<int> setShown;
         for (const CControl& control : Controls().All())
             if (control.bShown) setShown.insert(control.nId);
         // The lines of the browsed file belong to what is clicked in THUM; those of the edit to a picture.
         for (const int nId : {kBrowseName, kBrowseSize, kBrowseDepth}) setShown.erase(nId);
-        const bool bLines = nMode != kModeThum && bOpen;
+        const bool bLines = nMode != EMode::Thum && bOpen;
         for (const int nId : {kInfoName, kInfoSize, kInfoDepth}) {
             EXPECT_EQ(setShown.erase(nId) > 0, bLines) << nId;
             EXPECT_FALSE(bLines && Controls().IsShown(kBrowseName));
@@ -83,29 +66,27 @@ class ModeTest : public Workshop {
         EXPECT_EQ(setShown, setWanted) << "mode " << nMode;
     }
 
-    void ExpectFlags(int nMode) {
+    void ExpectFlags(EMode nMode) {
         const bool bOpen = State().m_bImageOpen;
         EXPECT_EQ(State().m_nMode, nMode);
-        EXPECT_EQ(State().m_nLastMode, nMode);
-        EXPECT_EQ(State().m_bThumbMode, nMode == kModeThum);
-        EXPECT_EQ(State().m_bDrawMode, nMode == kModeDraw);
-        EXPECT_EQ(State().m_bEffectMode, bOpen && nMode == kModeEffect);
-        EXPECT_EQ(State().m_bFontMode, bOpen && nMode == kModeFont);
-        EXPECT_EQ(State().m_bStickMode, bOpen && nMode == kModeStick);
-        EXPECT_EQ(State().m_bEditSource, bOpen && nMode != kModeThum);
-        EXPECT_EQ(State().m_bEditInfo, bOpen && nMode != kModeThum);
+        EXPECT_EQ(State().IsUp(EMode::Thum), nMode == EMode::Thum);
+        EXPECT_EQ(State().IsUp(EMode::Draw), nMode == EMode::Draw);
+        EXPECT_EQ(State().IsAtWork(EMode::Effect), bOpen && nMode == EMode::Effect);
+        EXPECT_EQ(State().IsAtWork(EMode::Font), bOpen && nMode == EMode::Font);
+        EXPECT_EQ(State().IsAtWork(EMode::Stick), bOpen && nMode == EMode::Stick);
+        EXPECT_EQ(m_dialog.Lines().IsEditInfo(), bOpen && nMode != EMode::Thum);
     }
 
-    void ExpectFocus(int nMode) {
+    void ExpectFocus(EMode nMode) {
         const bool bOpen = State().m_bImageOpen;
         const int nFocus = Controls().Focus();
-        const int nRadio = Images().m_bPhoneSize ? kRadioPhoneSize : kRadioImageSize;
-        EXPECT_TRUE(nMode != kModeEffect || nFocus == kEffectList);
-        EXPECT_TRUE(nMode != kModeStick || !bOpen || nFocus == nRadio);
-        EXPECT_TRUE(nMode != kModeDraw || FindTool(nFocus) != 0);
+        const int nRadio = Images().IsPhoneSize() ? kRadioPhoneSize : kRadioImageSize;
+        EXPECT_TRUE(nMode != EMode::Effect || nFocus == kEffectList);
+        EXPECT_TRUE(nMode != EMode::Stick || !bOpen || nFocus == nRadio);
+        EXPECT_TRUE(nMode != EMode::Draw || FindTool(nFocus) != 0);
     }
 
-    void ExpectAll(int nMode) {
+    void ExpectAll(EMode nMode) {
         ExpectCommands(nMode);
         ExpectLooks(nMode);
         ExpectFlags(nMode);
@@ -114,10 +95,10 @@ class ModeTest : public Workshop {
 
     // Every mode after every other.
     void WalkAllPairs() {
-        for (const int nFrom : kAllModes)
-            for (const int nTo : kAllModes) {
+        for (const EMode nFrom : kAllModes)
+            for (const EMode nTo : kAllModes) {
                 GoTo(nFrom);
-                SCOPED_TRACE("from " + std::to_string(nFrom) + " to " + std::to_string(nTo));
+                SCOPED_TRACE(testing::Message() << "from " << nFrom << " to " << nTo);
                 GoTo(nTo);
                 ExpectAll(nTo);
             }
@@ -127,7 +108,7 @@ class ModeTest : public Workshop {
 }  // namespace
 
 TEST_F(ModeTest, StartsInThumWithNothingOpen) {
-    ExpectAll(kModeThum);
+    ExpectAll(EMode::Thum);
     EXPECT_TRUE(Controls().IsChecked(kCheckLines));
     EXPECT_TRUE(Controls().IsChecked(kRadioProjection) && !Controls().IsChecked(kRadioMesh));
     EXPECT_TRUE(Controls().IsChecked(kRadioImageSize) && !Controls().IsChecked(kRadioPhoneSize));
@@ -141,100 +122,71 @@ TEST_F(ModeTest, AnyModeFollowsAnyWithoutAPicture) {
 
 TEST_F(ModeTest, AnyModeFollowsAnyWithAPicture) {
     OpenNumbered(60, 40);
-    ExpectAll(kModeEffect);
+    ExpectAll(EMode::Effect);
     WalkAllPairs();
     Edit(10);
     Edit(20);
     WalkAllPairs();  // something to undo
-    GoTo(kModeEffect);
+    GoTo(EMode::Effect);
     Click(kCmdUndo);
     WalkAllPairs();  // to undo and to redo
-    GoTo(kModeEffect);
+    GoTo(EMode::Effect);
     Click(kCmdUndo);
     EXPECT_EQ(Undos(), 0);
     WalkAllPairs();  // to redo only
-    GoTo(kModeStick);
+    GoTo(EMode::Stick);
     Click(kRadioPhoneSize);
     WalkAllPairs();  // under the phone's size
-    EXPECT_EQ(Images().m_pImgWork->Pixels(), NumberedPixels(60, 40));
-}
-
-TEST_F(ModeTest, HistoryButtonsFollowTheirCounts) {
-    OpenNumbered(20, 20);
-    Edit(1);
-    for (const int nMode : {kModeStick, kModeEffect, kModeFont, kModeDraw}) {
-        GoTo(nMode);
-        ExpectCommands(nMode);
-        Click(kCmdUndo);
-        ExpectCommands(nMode);
-        EXPECT_TRUE(Controls().IsEnabled(kCmdRedo) && !Controls().IsEnabled(kCmdUndo));
-        Click(kCmdRedo);
-        ExpectCommands(nMode);
-        EXPECT_TRUE(Controls().IsEnabled(kCmdUndo) && !Controls().IsEnabled(kCmdRedo));
-    }
+    EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(60, 40));
 }
 
 TEST_F(ModeTest, SliderAndLevelRestOnEntryToEffect) {
     OpenNumbered(20, 20);
     Controls().SetPosition(kEffectSlider, 3);
     Controls().SetText(kEffectLevel, "97");
-    GoTo(kModeStick);
+    GoTo(EMode::Stick);
     EXPECT_EQ(Controls().Text(kEffectLevel), "     ");
-    GoTo(kModeEffect);
+    GoTo(EMode::Effect);
     const CControl& slider = *Controls().Find(kEffectSlider);
     EXPECT_EQ((std::vector{slider.nMin, slider.nMax, slider.nPos}), (std::vector{-100, 100, 100}));
     EXPECT_FALSE(slider.bEnabled || slider.bShown);
-    EXPECT_TRUE(State().m_bNoEffectLevel);
-    EXPECT_FALSE(State().m_bEffectPending);
+    EXPECT_TRUE(m_dialog.Effects().HasNoLevel());
+    EXPECT_FALSE(m_dialog.Effects().IsPending());
 }
 
 // The display image in each mode: ruled size, fitted, or the full working image.
 TEST_F(ModeTest, DisplayImageFollowsTheMode) {
     OpenNumbered(700, 500);
     const CPixels work = NumberedPixels(700, 500);
-    const auto expectSize = [&](int nMode, CSize size) {
+    const auto expectSize = [&](EMode nMode, CSize size) {
         GoTo(nMode);
-        EXPECT_EQ(Images().m_pImgDisplay->Pixels(), NaiveResample(work, size.cx, size.cy)) << nMode;
+        EXPECT_EQ(Images().m_imgDisplay.Pixels(), NaiveResample(work, size.cx, size.cy)) << nMode;
         EXPECT_EQ(Images().DisplaySize(), (CSize{700, 500}));
     };
     for (const bool bPhone : {false, true}) {
         const CSize sizeRuled = bPhone ? CSize{176, 144} : CSize{700, 500};
-        for (const int nBefore : kAllModes) {
-            for (const int nMode : {kModeEffect, kModeStick}) {
+        for (const EMode nBefore : kAllModes) {
+            for (const EMode nMode : {EMode::Effect, EMode::Stick}) {
                 GoTo(nBefore);
                 expectSize(nMode, sizeRuled);
             }
             GoTo(nBefore);
-            expectSize(kModeFont, {649, 464});  // 659/710
+            expectSize(EMode::Font, {649, 464});  // 659/710
         }
-        GoTo(kModeDraw);
-        EXPECT_EQ(m_dialog.Canvas().Paper().Committed().Pixels(), work);
-        GoTo(kModeStick);
+        GoTo(EMode::Draw);
+        EXPECT_EQ(m_dialog.Draw().Paper().Committed().Pixels(), work);
+        GoTo(EMode::Stick);
         if (!bPhone) Click(kRadioPhoneSize);
     }
-    EXPECT_EQ(Images().m_pImgOpened->Pixels(), work);
+    EXPECT_EQ(Images().m_imgOpened.Pixels(), work);
 }
 
 TEST_F(ModeTest, DrawBeginsWithTheMagnifierAtOneToOne) {
     OpenNumbered(20, 20);
-    for (const int nMode : {kModeThum, kModeEffect, kModeFont, kModeStick}) {
+    for (const EMode nMode : {EMode::Thum, EMode::Effect, EMode::Font, EMode::Stick}) {
         GoTo(nMode);
-        GoTo(kModeDraw);
+        GoTo(EMode::Draw);
         EXPECT_EQ(m_dialog.Tools().CurrentTool(), 10);
         EXPECT_EQ(m_dialog.Tools().State().m_nZoom, 1);
     }
-}
-
-// Paint goes with every way out of DRAW but that to THUM; an untouched visit changes nothing.
-TEST_F(ModeTest, AVisitToDrawLeavesThePixels) {
-    OpenNumbered(61, 43);
-    for (const int nMode : {kModeThum, kModeEffect, kModeFont, kModeStick}) {
-        GoTo(kModeDraw);
-        PaintOver(*Images().m_pImgWork, {1, 2, 3});  // the canvas has the picture, whatever this one holds
-        GoTo(nMode);
-        const bool bFetched = Images().m_pImgWork->Pixels() == NumberedPixels(61, 43);
-        EXPECT_EQ(bFetched, nMode != kModeThum);
-        if (!bFetched) OpenNumbered(61, 43);
-    }
-    EXPECT_EQ(Undos(), 0);
 }

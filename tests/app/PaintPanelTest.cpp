@@ -91,16 +91,16 @@ TEST_F(PaintPanelTest, EachOptionOfEachPanel) {
     for (const COption& option : kOptions) {
         SCOPED_TRACE(testing::Message() << option.nTool << " at " << option.pt.x << "," << option.pt.y);
         if (Tools().m_nTool != option.nTool) Tool(option.nTool);
-        PaintOver(*Images().m_pImgWork, {3, 3, 3});
+        PaintOver(Touch(Images().m_imgWork), {3, 3, 3});
         PressWindow(option.pt);
         EXPECT_EQ(SettingOf(option.nTool), option.nWanted);
-        EXPECT_EQ(Images().m_pImgWork->Pixels(), NumberedPixels(40, 30));
+        EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(40, 30));
         const CPixels panel = PanelPixels();
         // Beside the options all stays, and the picture is fetched all the same.
-        PaintOver(*Images().m_pImgWork, {3, 3, 3});
+        PaintOver(Touch(Images().m_imgWork), {3, 3, 3});
         PressWindow(kBesideOptions);
         EXPECT_EQ(SettingOf(option.nTool), option.nWanted);
-        EXPECT_EQ(Images().m_pImgWork->Pixels(), NumberedPixels(40, 30));
+        EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(40, 30));
         EXPECT_EQ(PanelPixels(), panel);
         EXPECT_EQ(Tools().m_nTool, option.nTool);
     }
@@ -111,11 +111,11 @@ TEST_F(PaintPanelTest, AToolChosenAgainTakesTheSelection) {
     OpenInDraw(40, 30);
     Tool(kToolSelectRect);
     Drag({5, 5}, {20, 20});
-    EXPECT_TRUE(Canvas().Selection().m_bSelection && Controls().IsEnabled(kCmdCrop));
+    EXPECT_TRUE(Draw().Selection().IsMarked() && Controls().IsEnabled(kCmdCrop));
     Tool(kToolSelectRect);
-    EXPECT_FALSE(Canvas().Selection().m_bSelection);
+    EXPECT_FALSE(Draw().Selection().IsMarked());
     for (const int nId : {kCmdCut, kCmdCopy, kCmdCrop}) EXPECT_FALSE(Controls().IsEnabled(nId));
-    EXPECT_TRUE(Canvas().Paper().Scratch().Pixels() == Canvas().CommittedPixels());
+    EXPECT_TRUE(Draw().Paper().Scratch().Pixels() == Draw().Paper().Committed().Pixels());
 }
 
 // With a float up: another tool, an option, a press beside the options, a new colour.
@@ -129,16 +129,16 @@ TEST_F(PaintPanelTest, WhateverEntersAToolMergesTheFloat) {
         PressWindow({182, 373});
         Click(kCmdPaste);
         EXPECT_EQ(Tools().m_nTool, kToolFloat);
-        EXPECT_TRUE(Canvas().IsFloating());
-        EXPECT_FALSE(Canvas().CommittedPixels() == Canvas().Paper().Scratch().Pixels());
+        EXPECT_TRUE(Draw().IsFloating());
+        EXPECT_FALSE(Draw().Paper().Committed().Pixels() == Draw().Paper().Scratch().Pixels());
     };
     const auto expectMerged = [&](int nTool) {
-        EXPECT_FALSE(Canvas().IsFloating());
+        EXPECT_FALSE(Draw().IsFloating());
         EXPECT_EQ(Tools().m_nTool, nTool);
-        EXPECT_EQ(PixelAt(Canvas().CommittedPixels(), 3, 4), (CColor{23, 14, 0}));
-        EXPECT_TRUE(Canvas().CommittedPixels() == Canvas().Paper().Scratch().Pixels());
+        EXPECT_EQ(PixelAt(Draw().Paper().Committed().Pixels(), 3, 4), (CColor{23, 14, 0}));
+        EXPECT_TRUE(Draw().Paper().Committed().Pixels() == Draw().Paper().Scratch().Pixels());
         Click(kCmdUndo);
-        EXPECT_EQ(Images().m_pImgWork->Pixels(), NumberedPixels(40, 30));
+        EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(40, 30));
         EXPECT_EQ(Undos(), 0);
     };
     paste();
@@ -164,16 +164,16 @@ TEST_F(PaintPanelTest, APressBesideThePanelEndsAnOpenShapeAndOneInsideDoesNot) {
     Tool(kToolPolygon);
     Drag({5, 5}, {20, 6});
     PressWindow({205, 384});
-    EXPECT_TRUE(Canvas().IsShapeOpen());
+    EXPECT_TRUE(Draw().IsShapeOpen());
     EXPECT_EQ(Tools().m_nFillMode, kFillOther);
-    EXPECT_TRUE(Canvas().Paper().Scratch().Pixels() == Canvas().CommittedPixels());
+    EXPECT_TRUE(Draw().Paper().Scratch().Pixels() == Draw().Paper().Committed().Pixels());
     PressWindow({100, 600});
-    EXPECT_FALSE(Canvas().IsShapeOpen());
+    EXPECT_FALSE(Draw().IsShapeOpen());
     Drag({5, 5}, {20, 6});
     Tool(kToolCurve);
-    EXPECT_FALSE(Canvas().IsShapeOpen());
-    EXPECT_TRUE(Canvas().Paper().Scratch().Pixels() == Canvas().CommittedPixels());
-    EXPECT_EQ(Canvas().CommittedPixels(), NumberedPixels(40, 30));
+    EXPECT_FALSE(Draw().IsShapeOpen());
+    EXPECT_TRUE(Draw().Paper().Scratch().Pixels() == Draw().Paper().Committed().Pixels());
+    EXPECT_EQ(Draw().Paper().Committed().Pixels(), NumberedPixels(40, 30));
 }
 
 // There and back by every tab with every tool: a tool with options comes back as it was left, any other
@@ -183,14 +183,14 @@ TEST_F(PaintPanelTest, AModeSwitchThereAndBack) {
     Tool(kToolPen);
     const CPixels empty = PanelPixels();
     for (int nTool = 1; nTool <= 16; ++nTool)
-        for (const int nMode : {kModeThum, kModeEffect, kModeFont, kModeStick}) {
+        for (const EMode nMode : {EMode::Thum, EMode::Effect, EMode::Font, EMode::Stick}) {
             SCOPED_TRACE(testing::Message() << "tool " << nTool << ", mode " << nMode);
             Tool(nTool);
             PressWindow({205, 405});
             const int nSetting = SettingOf(nTool);
             const CPixels panel = PanelPixels();
             GoTo(nMode);
-            GoTo(kModeDraw);
+            GoTo(EMode::Draw);
             EXPECT_EQ(Tools().m_nTool, HasOptions(nTool) ? nTool : kToolMagnifier);
             EXPECT_EQ(Tools().m_nZoom, 1);
             if (nTool == kToolMagnifier) {
@@ -209,9 +209,9 @@ TEST_F(PaintPanelTest, AModeSwitchThereAndBack) {
 }
 
 TEST_F(PaintPanelTest, TheFirstEntryShowsTheMagnifierWithoutOptions) {
-    GoTo(kModeDraw);
+    GoTo(EMode::Draw);
     const CPixels empty = PanelPixels();
-    GoTo(kModeThum);
+    GoTo(EMode::Thum);
     OpenInDraw(40, 30);
     EXPECT_EQ(Tools().m_nTool, kToolMagnifier);
     EXPECT_EQ(PanelPixels(), empty);
@@ -220,7 +220,7 @@ TEST_F(PaintPanelTest, TheFirstEntryShowsTheMagnifierWithoutOptions) {
 }
 
 TEST_F(PaintPanelTest, ToolsCanBeChosenWithoutAPicture) {
-    GoTo(kModeDraw);
+    GoTo(EMode::Draw);
     for (const COption& option : kOptions) {
         Tool(option.nTool);
         PressWindow(option.pt);
@@ -237,7 +237,7 @@ TEST_F(PaintPanelTest, TheZoomChangesSizesAndPlaceButNotTheScrolling) {
     Tool(kToolMagnifier);
     PressWindow({205, 388});  // 4x
     EXPECT_EQ(Canvas().ScrollSizes(), (CSize{1000, 800}));
-    EXPECT_EQ(Canvas().Origin(), (CPoint{0, 0}));
+    EXPECT_EQ(Draw().Origin(), (CPoint{0, 0}));
     EXPECT_EQ(m_host.ScrollView(kCanvas, {101, 77}), "");
     PressWindow({205, 403});  // 6x
     EXPECT_EQ(Canvas().ScrollSizes(), (CSize{1500, 1200}));
@@ -257,14 +257,14 @@ TEST_F(PaintPanelTest, TheZoomChangesSizesAndPlaceButNotTheScrolling) {
     Click(kCmdReset);
     EXPECT_EQ(Tools().m_nZoom, 1);
     EXPECT_EQ(Canvas().ScrollSizes(), (CSize{250, 200}));
-    EXPECT_EQ(Canvas().Origin(), (CPoint{204, 171}));
+    EXPECT_EQ(Draw().Origin(), (CPoint{204, 171}));
     // So does a new entry.
     Tool(kToolMagnifier);
     PressWindow({205, 373});
     EXPECT_EQ(Canvas().ScrollSizes(), (CSize{500, 400}));
-    EXPECT_EQ(Canvas().Origin(), (CPoint{79, 71}));
-    GoTo(kModeStick);
-    GoTo(kModeDraw);
+    EXPECT_EQ(Draw().Origin(), (CPoint{79, 71}));
+    GoTo(EMode::Stick);
+    GoTo(EMode::Draw);
     EXPECT_EQ(Canvas().ScrollSizes(), (CSize{250, 200}));
 }
 
@@ -291,10 +291,10 @@ TEST_F(PaintPanelTest, WellsTakeTheirColourFromTheDialogAndShowIt) {
     Click(kPaintColor);
     EXPECT_EQ(Tools().m_crForeground, (CColor{1, 1, 200}));
     // Colours last through modes and new pictures, and nobody is asked in another mode.
-    GoTo(kModeEffect);
+    GoTo(EMode::Effect);
     DoubleClickWindow({30, 500}, EMouseButton::Left);
     OpenNumbered(20, 20);
-    GoTo(kModeDraw);
+    GoTo(EMode::Draw);
     EXPECT_EQ(Seen({230, 510}), (CColor{1, 1, 200}));
     EXPECT_EQ(Undos(), 0);
 }

@@ -8,6 +8,7 @@ class PaintWorkshop : public Workshop {
   protected:
     const CToolState& Tools() const { return m_dialog.Tools().State(); }
     CMySCrollView& Canvas() { return m_dialog.Canvas(); }
+    CDrawGuest& Draw() { return m_dialog.Draw(); }
     void Tool(int nTool) { Click(FindToolButton(nTool)); }
     void Window(EMouseAction action, CPoint pt, EMouseButton button = EMouseButton::Left) {
         EXPECT_EQ(m_host.MouseOnWindow(action, button, pt), "");
@@ -24,7 +25,7 @@ class PaintWorkshop : public Workshop {
     }
     // On the canvas, in picture pixels at zoom 1.
     void Mouse(EMouseAction action, CPoint pt, EMouseButton button = EMouseButton::Left) {
-        const CPoint ptOrigin = Canvas().Origin();
+        const CPoint ptOrigin = Draw().Origin();
         if (action == EMouseAction::Move) button = EMouseButton::None;
         EXPECT_EQ(m_host.MouseOnView(kCanvas, action, button, {pt.x + ptOrigin.x, pt.y + ptOrigin.y}), "");
     }
@@ -35,6 +36,6 @@ class PaintWorkshop : public Workshop {
     }
     void OpenInDraw(int nWidth, int nHeight) {
         OpenNumbered(nWidth, nHeight);
-        GoTo(kModeDraw);
+        GoTo(EMode::Draw);
     }
 };

@@ -37,8 +37,8 @@ class SaveTest : public Workshop {
         Edit(1);
         Edit(2);
         Click(kCmdUndo);
-        PaintOver(*Images().m_pImgWork, {60, 120, 180});
-        GoTo(kModeEffect);
+        PaintOver(Touch(Images().m_imgWork), {60, 120, 180});
+        GoTo(EMode::Effect);
     }
 
     CxImage Load(const std::string& strName) {
@@ -110,7 +110,7 @@ TEST_F(SaveTest, AsksWithTheNameOfThePicture) {
 
 TEST_F(SaveTest, EachModeWritesWhatItShows) {
     OpenNumbered(700, 500);
-    GoTo(kModeStick);
+    GoTo(EMode::Stick);
     Click(kRadioPhoneSize);
     Click(kRadioImageSize);
     Click(kCmdUndo);
@@ -121,48 +121,48 @@ TEST_F(SaveTest, EachModeWritesWhatItShows) {
               sizeDisplay);  // smaller than the working image, by the rule of the edit
 
     struct {
-        int nMode;
+        EMode nMode;
         CSize size;
-    } const kCases[] = {{kModeEffect, sizeDisplay},
-                        {kModeStick, sizeDisplay},
-                        {kModeFont, {649, 464}},
-                        {kModeDraw, {700, 500}}};
+    } const kCases[] = {{EMode::Effect, sizeDisplay},
+                        {EMode::Stick, sizeDisplay},
+                        {EMode::Font, {649, 464}},
+                        {EMode::Draw, {700, 500}}};
     for (const auto& [nMode, size] : kCases) {
         GoTo(nMode);
         SCOPED_TRACE(nMode);
         SaveAs(m_folder.Path("out.png"));
         EXPECT_EQ(Load("out.png").Pixels(), NaiveResample(work, size.cx, size.cy));
         EXPECT_EQ(State().m_nMode, nMode);
-        EXPECT_EQ(Images().m_pImgWork->Pixels(), work);
+        EXPECT_EQ(Images().m_imgWork.Pixels(), work);
     }
-    EXPECT_EQ(m_dialog.Canvas().CommittedPixels(), work);
+    EXPECT_EQ(m_dialog.Draw().Paper().Committed().Pixels(), work);
 }
 
 TEST_F(SaveTest, UnderThePhonesSizeTheFileHasThatSize) {
-    GoTo(kModeStick);
+    GoTo(EMode::Stick);
     Click(kRadioPhoneSize);
-    for (const int nMode : {kModeStick, kModeEffect}) {
+    for (const EMode nMode : {EMode::Stick, EMode::Effect}) {
         GoTo(nMode);
         SaveAs(m_folder.Path("phone.bmp"));
-        EXPECT_EQ(Load("phone.bmp").Pixels(), NaiveResample(Images().m_pImgWork->Pixels(), 176, 144));
+        EXPECT_EQ(Load("phone.bmp").Pixels(), NaiveResample(Images().m_imgWork.Pixels(), 176, 144));
     }
 }
 
 TEST_F(SaveTest, OverTheOpenedFileItself) {
     SaveAs(m_folder.Path("numbered.png"));
-    EXPECT_EQ(Load("numbered.png").Pixels(), Images().m_pImgWork->Pixels());
-    EXPECT_EQ(Images().m_pImgOpened->Pixels(), NumberedPixels(200, 150));
+    EXPECT_EQ(Load("numbered.png").Pixels(), Images().m_imgWork.Pixels());
+    EXPECT_EQ(Images().m_imgOpened.Pixels(), NumberedPixels(200, 150));
     Click(kCmdReset);
-    EXPECT_EQ(Images().m_pImgWork->Pixels(), NumberedPixels(200, 150));
+    EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(200, 150));
 }
 
 TEST_F(SaveTest, WhatCannotBeWrittenIsReportedAndLeavesTheEdit) {
     std::filesystem::create_directory(m_folder.Path("folder.jpg"));
     m_folder.Write("file", "a file and no folder");
-    for (const int nMode : {kModeEffect, kModeStick, kModeFont, kModeDraw}) {
+    for (const EMode nMode : {EMode::Effect, EMode::Stick, EMode::Font, EMode::Draw}) {
         GoTo(nMode);
         // DRAW has fetched the canvas before it writes.
-        if (nMode == kModeDraw) SaveAs(m_folder.Path("first.jpg"));
+        if (nMode == EMode::Draw) SaveAs(m_folder.Path("first.jpg"));
         for (const char* const szName : {"photo.unknown", "photo.", "photo.emf", "photo.wmf",
                                          "none/photo.jpg", "none/photo", "file/photo.jpg", "folder.jpg"}) {
             SCOPED_TRACE(szName);

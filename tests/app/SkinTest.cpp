@@ -44,7 +44,7 @@ class SkinTest : public testing::Test {
   protected:
     SkinTest() : m_dialog(m_platform.Get()), m_host(m_platform, m_dialog, &m_bitmaps) { m_host.Init(); }
 
-    void GoTo(int nMode) {
+    void GoTo(EMode nMode) {
         EXPECT_TRUE(m_dialog.State().m_nMode == nMode || m_host.Click(TabOf(nMode)).empty());
     }
     void Hover(CPoint pt) { EXPECT_EQ(m_host.MouseOnWindow(EMouseAction::Move, EMouseButton::None, pt), ""); }
@@ -65,16 +65,16 @@ class SkinTest : public testing::Test {
 };
 
 struct CLook {
-    int nMode;
+    EMode nMode;
     int nTabRow;
     int nPanel;  // the background where a mode has none
     int nStrip;
 };
-constexpr CLook kLooks[] = {{kModeThum, 486, 522, 503},
-                            {kModeEffect, 487, 522, 504},
-                            {kModeFont, 488, 296, 505},
-                            {kModeStick, 489, 286, 506},
-                            {kModeDraw, 490, 343, 507}};
+constexpr CLook kLooks[] = {{EMode::Thum, 486, 522, 503},
+                            {EMode::Effect, 487, 522, 504},
+                            {EMode::Font, 488, 296, 505},
+                            {EMode::Stick, 489, 286, 506},
+                            {EMode::Draw, 490, 343, 507}};
 
 struct CHintRow {
     int nId;
@@ -105,9 +105,9 @@ TEST_F(SkinTest, EachModePaintsBackgroundTabRowAndPanel) {
                 int nWanted = 522;
                 if (CRect::FromPlace(0, 79, 310, 32).Contains({x, y})) nWanted = look.nTabRow;
                 if (CRect::FromPlace(0, 111, 310, 563).Contains({x, y})) nWanted = look.nPanel;
-                if (look.nMode == kModeFont && kSwatch.Contains({x, y})) nWanted = 0;
+                if (look.nMode == EMode::Font && kSwatch.Contains({x, y})) nWanted = 0;
                 // The tool panel and the wells are the tools' own.
-                const bool bTools = look.nMode == kModeDraw && CRect{160, 340, 260, 540}.Contains({x, y});
+                const bool bTools = look.nMode == EMode::Draw && CRect{160, 340, 260, 540}.Contains({x, y});
                 if (bTools) continue;
                 ASSERT_EQ(SeenAt(x, y), nWanted) << x << "," << y;
             }
@@ -120,7 +120,7 @@ TEST_F(SkinTest, EveryControlOfTheTableBringsUpItsHint) {
         SCOPED_TRACE(row.nId);
         setIds.insert(row.nId);
         const bool bTab = row.pt.y == 110;
-        GoTo(row.nId == kTabThum ? kModeEffect : kModeThum);
+        GoTo(row.nId == kTabThum ? EMode::Effect : EMode::Thum);
         m_dialog.Controls().Enable(row.nId, true);
         m_dialog.Controls().SetFocus(kTabStick);
         HoverOver(row.nId);
@@ -174,13 +174,13 @@ TEST_F(SkinTest, AHintLeftAloneStandsForOneSecond) {
         m_platform.Tick(1);
         EXPECT_EQ(SeenAt(50, 62), 440);
 
-        const bool bStick = look.nMode == kModeStick;
+        const bool bStick = look.nMode == EMode::Stick;
         HoverOver(bStick ? kTabFont : kTabStick);
         m_platform.Tick(999);
         EXPECT_EQ(SeenAt(bStick ? 215 : 160, 112), bStick ? 317 : 327);
         m_platform.Tick(1);
         EXPECT_EQ(SeenAt(bStick ? 215 : 160, 112), look.nStrip);
-        EXPECT_EQ(SeenAt(245, 260) == 0, look.nMode == kModeFont);
+        EXPECT_EQ(SeenAt(245, 260) == 0, look.nMode == EMode::Font);
         EXPECT_EQ(m_platform.Timers().Count(), 0);
     }
 }
@@ -213,7 +213,7 @@ TEST_F(SkinTest, EachStripHasASecondOfItsOwn) {
 }
 
 TEST_F(SkinTest, TheSwatchOfFontSurvivesHints) {
-    GoTo(kModeFont);
+    GoTo(EMode::Font);
     for (const int nId : {kTabDraw, kCmdOpen}) {
         HoverOver(nId);
         EXPECT_EQ(SeenAt(237, 257), 0);

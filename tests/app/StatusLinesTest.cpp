@@ -7,7 +7,10 @@ namespace {
 
 class StatusLinesTest : public testing::Test {
   protected:
-    StatusLinesTest() : m_controls(kMainDialog.arrControls), m_lines(m_state, m_images, m_controls) {}
+    StatusLinesTest()
+        : m_controls(kMainDialog.arrControls),
+          m_desk({m_state, m_images, m_selection, m_controls, [] { return false; }}),
+          m_lines(m_state, m_images, m_controls, m_desk) {}
 
     void ExpectPairs(bool bEdit) {
         for (const int nId : {kInfoName, kInfoSize, kInfoDepth}) EXPECT_EQ(m_controls.IsShown(nId), bEdit);
@@ -18,6 +21,8 @@ class StatusLinesTest : public testing::Test {
     CEditState m_state;
     CWorkingImages m_images;
     CControlSet m_controls;
+    CSelection m_selection;
+    CControlDesk m_desk;
     CStatusLines m_lines;
 };
 
@@ -42,22 +47,22 @@ TEST(PadColumnsTest, CountsTwoColumnsForACharacterBeyondAscii) {
 TEST_F(InfoLinesTest, SayWhatEachModeHasToSay) {
     OpenNumbered(640, 480);
     const std::string strName = "文件名: numbered.png" + Blanks(62 - 12);
-    const auto expect = [&](int nMode, const std::string& strSize) {
+    const auto expect = [&](EMode nMode, const std::string& strSize) {
         GoTo(nMode);
         EXPECT_EQ(Controls().Text(kInfoSize), strSize) << nMode;
         EXPECT_EQ(Controls().Text(kInfoName), strName);
         EXPECT_EQ(Controls().Text(kInfoDepth), "色度: 24 ");
     };
-    expect(kModeEffect, "大小 :  640X480      ");
-    expect(kModeStick, "大小 :  640X480      ");
-    expect(kModeFont, "大小 :编辑模式       ");
-    expect(kModeDraw, "大小 :编辑模式       ");
-    GoTo(kModeStick);
+    expect(EMode::Effect, "大小 :  640X480      ");
+    expect(EMode::Stick, "大小 :  640X480      ");
+    expect(EMode::Font, "大小 :编辑模式       ");
+    expect(EMode::Draw, "大小 :编辑模式       ");
+    GoTo(EMode::Stick);
     Click(kRadioPhoneSize);
     // Under the phone's size STICK tells that one, EFFECT the display size.
-    expect(kModeStick, "大小 :  176X144      ");
-    expect(kModeEffect, "大小 :  640X480      ");
-    expect(kModeFont, "大小 :编辑模式       ");
+    expect(EMode::Stick, "大小 :  176X144      ");
+    expect(EMode::Effect, "大小 :  640X480      ");
+    expect(EMode::Font, "大小 :编辑模式       ");
     Click(kCmdNew);
     EXPECT_EQ(Controls().Text(kInfoName), "文件名: No Title" + Blanks(62 - 8));
 }
@@ -66,25 +71,25 @@ TEST_F(InfoLinesTest, TellTheDepthOfTheFile) {
     Open(m_folder.Write("grey.pgm", "P5\n2 2\n255\nabcd"));
     EXPECT_EQ(Controls().Text(kInfoDepth), "色度: 8  ");
     // Paint takes 24 bits.
-    GoTo(kModeDraw);
-    GoTo(kModeEffect);
+    GoTo(EMode::Draw);
+    GoTo(EMode::Effect);
     EXPECT_EQ(Controls().Text(kInfoDepth), "色度: 24 ");
 }
 
 TEST_F(InfoLinesTest, GoBlankInAnEditModeWithoutAPicture) {
-    for (const int nMode : {kModeEffect, kModeStick, kModeFont, kModeDraw}) {
+    for (const EMode nMode : {EMode::Effect, EMode::Stick, EMode::Font, EMode::Draw}) {
         for (const int nId : {kBrowseName, kBrowseSize, kBrowseDepth}) Controls().SetText(nId, "old");
         GoTo(nMode);
         EXPECT_EQ(Controls().Text(kBrowseName), Blanks(90));
         EXPECT_EQ(Controls().Text(kBrowseSize), Blanks(60));
         EXPECT_EQ(Controls().Text(kBrowseDepth), Blanks(20));
-        GoTo(kModeThum);
+        GoTo(EMode::Thum);
     }
 }
 
 TEST_F(StatusLinesTest, TellOfAFolderByItsName) {
     for (const bool bEdit : {false, true}) {
-        m_state.m_bEditInfo = bEdit;
+        bEdit ? m_lines.TellOfEdit() : m_lines.TellOfBrowsing();
         m_lines.ShowFileInfo("照片", EFileInfo::Folder);
         ExpectPairs(bEdit);
         EXPECT_EQ(m_controls.Text(bEdit ? kInfoName : kBrowseName), "文件名 : 照片" + Blanks(58));
@@ -110,21 +115,14 @@ TEST_F(StatusLinesTest, TellOfAPictureFileBySizeAndDepth) {
                         {"bad.jpg", "大小 :    0X0        ", "色度: 0  "},
                         {"none.jpg", "大小 :    0X0        ", "色度: 0  "}};
     for (const auto& row : kCases) {
-        m_controls.Show(kCanvas, true);
-        m_controls.Show(kProgress, true);
-        m_controls.Show(kFileList, false);
         m_lines.ShowFileInfo(folder.Path(row.szName), EFileInfo::Picture);
-        EXPECT_EQ(m_controls.Text(kBrowseName).find("文件名: " + folder.Path(row.szName)), 0U);
+        EXPECT_EQ(m_controls.Text(kBrowseName).find(std::string("文件名: ") + row.szName), 0U);
         EXPECT_EQ(m_controls.Text(kBrowseSize), row.szSize);
         EXPECT_EQ(m_controls.Text(kBrowseDepth), row.szDepth);
-        EXPECT_TRUE(m_controls.IsShown(kFileList));
-        EXPECT_FALSE(m_controls.IsShown(kCanvas) || m_controls.IsShown(kProgress));
     }
     // A name without extension stops before any of this.
-    m_controls.Show(kFileList, false);
     m_lines.ShowFileInfo("plain", EFileInfo::Picture);
     EXPECT_EQ(m_controls.Text(kBrowseSize), "大小 :    0X0        ");
-    EXPECT_FALSE(m_controls.IsShown(kFileList));
 }
 
 TEST_F(StatusLinesTest, AnUnknownHelpCodeShowsTheLineAndLeavesItsText) {

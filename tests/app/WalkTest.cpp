@@ -51,14 +51,14 @@ class WalkTest : public Workshop {
 
     // Another hand paints on the working image behind a push, as the flows of the modes do.
     void PaintSomething() {
-        if (!m_model.bOpen || State().m_bDrawMode) return;
+        if (!m_model.bOpen || State().IsUp(EMode::Draw)) return;
         const CColor color{static_cast<std::uint8_t>(Pick(256)), 1, 2};
-        PaintOver(*Images().m_pImgWork, color);
-        m_model.now.work = Images().m_pImgWork->Pixels();
+        PaintOver(Touch(Images().m_imgWork), color);
+        m_model.now.work = Images().m_imgWork.Pixels();
     }
 
     void Act() {
-        if (State().m_bThumbMode && Pick(3) > 0) return Browse();
+        if (State().IsUp(EMode::Thum) && Pick(3) > 0) return Browse();
         if (Pick(4) == 0) return Shape();
         switch (Pick(14)) {
             case 0:
@@ -101,8 +101,7 @@ class WalkTest : public Workshop {
 
     bool MenuComesUp() const {
         const CEditState& state = State();
-        if (!state.m_bImageOpen || state.m_bThumbMode || state.m_bFontMode || state.m_bDrawMode) return false;
-        return !state.m_bStickMode || Images().m_bImageSize;
+        return state.IsAtWork(EMode::Effect) || (state.IsAtWork(EMode::Stick) && !Images().IsPhoneSize());
     }
     // A command of shape and size, by its button or from the menu. False if nobody could give it.
     bool Give(int nButton, int nMenuItem) {
@@ -265,7 +264,7 @@ class WalkTest : public Workshop {
     }
     void CheckBrowser() {
         ASSERT_EQ(m_platform.WaitDepth(), List().IsFilling() ? 1 : 0);
-        ASSERT_TRUE(State().m_bThumbMode || !List().IsFilling());
+        ASSERT_TRUE(State().IsUp(EMode::Thum) || !List().IsFilling());
         ASSERT_TRUE(List().IsFilling() || !Controls().IsShown(kProgress));
         const CTreeModel& tree = Tree().Model();
         const CTreeItem selected = tree.Selected();
@@ -296,49 +295,42 @@ class WalkTest : public Workshop {
         ASSERT_EQ(State().m_bImageOpen, m_model.bOpen);
         ASSERT_EQ(Undos(), static_cast<int>(m_model.arrUndo.size()));
         ASSERT_EQ(Redos(), static_cast<int>(m_model.arrRedo.size()));
-        ASSERT_EQ(Images().m_bPhoneSize, m_model.now.bPhone);
+        ASSERT_EQ(Images().IsPhoneSize(), m_model.now.bPhone);
         if (!m_model.bOpen) return;
         ASSERT_EQ(Images().DisplaySize(), m_model.now.sizeDisplay);
-        ASSERT_TRUE(Images().m_pImgWork->Pixels() == m_model.now.work);
-        ASSERT_TRUE(Images().m_pImgOpened->Pixels() == m_model.opened);
+        ASSERT_TRUE(Images().m_imgWork.Pixels() == m_model.now.work);
+        ASSERT_TRUE(Images().m_imgOpened.Pixels() == m_model.opened);
     }
 
     void CheckState() {
         const CEditState& state = State();
         const CWorkingImages& images = Images();
         const bool bOpen = state.m_bImageOpen;
-        ASSERT_NE(images.m_bImageSize, images.m_bPhoneSize);
-        ASSERT_EQ(Controls().IsChecked(kRadioImageSize), images.m_bImageSize);
-        ASSERT_EQ(Controls().IsChecked(kRadioPhoneSize), images.m_bPhoneSize);
-        for (const auto* pImage : {&images.m_pImgOpened, &images.m_pImgWork, &images.m_pImgDisplay})
-            ASSERT_EQ(*pImage != nullptr && (*pImage)->IsValid(), bOpen);
-        ASSERT_EQ(state.m_nLastMode, state.m_nMode);
-        ASSERT_EQ(state.m_bThumbMode, state.m_nMode == kModeThum);
-        ASSERT_EQ(state.m_bDrawMode, state.m_nMode == kModeDraw);
-        ASSERT_EQ(state.m_bEffectMode, bOpen && state.m_nMode == kModeEffect);
-        ASSERT_EQ(state.m_bFontMode, bOpen && state.m_nMode == kModeFont);
-        ASSERT_EQ(state.m_bStickMode, bOpen && state.m_nMode == kModeStick);
-        ASSERT_EQ(state.m_bEditSource, bOpen && state.m_nMode != kModeThum);
-        for (const int nMode : kAllModes) ASSERT_EQ(Controls().IsShown(TabOf(nMode)), nMode != state.m_nMode);
-        ASSERT_EQ(Controls().IsShown(kCanvas), bOpen && state.m_nMode != kModeThum);
-        ASSERT_EQ(Controls().IsShown(kFileList), state.m_nMode == kModeThum);
+        ASSERT_EQ(Controls().IsChecked(kRadioImageSize), !images.IsPhoneSize());
+        ASSERT_EQ(Controls().IsChecked(kRadioPhoneSize), images.IsPhoneSize());
+        for (const auto* pImage : {&images.m_imgOpened, &images.m_imgWork, &images.m_imgDisplay})
+            ASSERT_EQ(pImage->IsValid(), bOpen);
+        for (const EMode nMode : kAllModes)
+            ASSERT_EQ(Controls().IsShown(TabOf(nMode)), nMode != state.m_nMode);
+        ASSERT_EQ(Controls().IsShown(kCanvas), bOpen && state.m_nMode != EMode::Thum);
+        ASSERT_EQ(Controls().IsShown(kFileList), state.m_nMode == EMode::Thum);
         ASSERT_TRUE(Controls().IsEnabled(kCmdOpen) && Controls().IsEnabled(kCmdNew));
     }
 
     void CheckPicture() {
         const CWorkingImages& images = Images();
-        if (!State().m_bImageOpen || State().m_nMode == kModeThum) return;
+        if (!State().m_bImageOpen || State().m_nMode == EMode::Thum) return;
         ASSERT_EQ(Controls().IsEnabled(kCmdUndo), Undos() > 0);
         ASSERT_EQ(Controls().IsEnabled(kCmdRedo), Redos() > 0);
-        if (State().m_bEffectMode || State().m_bStickMode) {
-            ASSERT_EQ(images.m_pImgDisplay->GetSize(), images.RuledSize());
+        if (State().IsAtWork(EMode::Effect) || State().IsAtWork(EMode::Stick)) {
+            ASSERT_EQ(images.m_imgDisplay.GetSize(), images.RuledSize());
         }
-        if (State().m_bFontMode) {
-            ASSERT_LE(images.m_pImgDisplay->GetWidth(), 658);
-            ASSERT_LE(images.m_pImgDisplay->GetHeight(), 542);
+        if (State().IsAtWork(EMode::Font)) {
+            ASSERT_LE(images.m_imgDisplay.GetWidth(), 658);
+            ASSERT_LE(images.m_imgDisplay.GetHeight(), 542);
         }
-        if (State().m_bDrawMode) {
-            ASSERT_TRUE(m_dialog.Canvas().CommittedPixels() == images.m_pImgWork->Pixels());
+        if (State().IsUp(EMode::Draw)) {
+            ASSERT_TRUE(m_dialog.Draw().Paper().Committed().Pixels() == images.m_imgWork.Pixels());
         }
         ASSERT_FALSE(m_dialog.Canvas().WantsPaint());
     }

@@ -13,16 +13,20 @@
 #include "support/Pictures.h"
 #include "support/TempFolder.h"
 
-inline constexpr int kAllModes[] = {kModeThum, kModeDraw, kModeEffect, kModeFont, kModeStick};
+inline constexpr EMode kAllModes[] = {EMode::Thum, EMode::Draw, EMode::Effect, EMode::Font, EMode::Stick};
 
-inline int TabOf(int nMode) {
+inline int TabOf(EMode mode) {
     constexpr int kTabs[] = {kTabThum, kTabDraw, kTabEffect, kTabFont, kTabStick};
-    return kTabs[nMode];
+    return kTabs[static_cast<std::size_t>(mode)];
+}
+
+inline std::ostream& operator<<(std::ostream& out, EMode mode) {
+    return out << static_cast<int>(mode);
 }
 
 // All that a refused command must leave alone.
 struct CSnapshot {
-    int nMode = 0;
+    EMode mode = EMode::Thum;
     int nUndo = 0;
     int nRedo = 0;
     CSize sizeDisplay;
@@ -53,7 +57,7 @@ class Workshop : public testing::Test {
 
     void Click(int nId) { EXPECT_EQ(m_host.Click(nId), "") << "control " << nId; }
     bool CtrlKey(int nKey) { return m_dialog.OnKey({nKey, true, false}); }
-    void GoTo(int nMode) {
+    void GoTo(EMode nMode) {
         if (State().m_nMode != nMode) Click(TabOf(nMode));
     }
 
@@ -72,15 +76,17 @@ class Workshop : public testing::Test {
     // Opens a numbered picture from a lossless file.
     void OpenNumbered(int nWidth, int nHeight, int nBlue = 0) {
         Open(SavePicture("numbered.png", NumberedImage(nWidth, nHeight, nBlue)));
-        ASSERT_EQ(Images().m_pImgWork->Pixels(), NumberedPixels(nWidth, nHeight, nBlue));
+        ASSERT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(nWidth, nHeight, nBlue));
     }
+    // A picture of the edit as something else would have left it.
+    static CxImage& Touch(const CxImage& image) { return const_cast<CxImage&>(image); }
     // One step of an edit: a push, and the working image in a new colour. Stays in STICK.
     void Edit(std::uint8_t nColor) {
-        GoTo(kModeStick);
-        Click(Images().m_bPhoneSize ? kRadioPhoneSize : kRadioImageSize);
-        PaintOver(*Images().m_pImgWork, {nColor, nColor, nColor});
+        GoTo(EMode::Stick);
+        Click(Images().IsPhoneSize() ? kRadioPhoneSize : kRadioImageSize);
+        PaintOver(Touch(Images().m_imgWork), {nColor, nColor, nColor});
     }
-    CColor WorkColor() const { return PixelAt(Images().m_pImgWork->Pixels(), 0, 0); }
+    CColor WorkColor() const { return PixelAt(Images().m_imgWork.Pixels(), 0, 0); }
 
     CSnapshot Snapshot() const {
         const CWorkingImages& images = Images();
@@ -88,7 +94,7 @@ class Workshop : public testing::Test {
                       Undos(),
                       Redos(),
                       images.DisplaySize(),
-                      images.m_bPhoneSize,
+                      images.IsPhoneSize(),
                       State().m_bImageOpen,
                       {},
                       {},
@@ -98,9 +104,9 @@ class Workshop : public testing::Test {
                       {},
                       {}};
         if (State().m_bImageOpen) {
-            now.opened = images.m_pImgOpened->Pixels();
-            now.work = images.m_pImgWork->Pixels();
-            now.display = images.m_pImgDisplay->Pixels();
+            now.opened = images.m_imgOpened.Pixels();
+            now.work = images.m_imgWork.Pixels();
+            now.display = images.m_imgDisplay.Pixels();
         }
         for (const CControl& control : m_dialog.Controls().All()) {
             if (control.bShown) now.arrShown.push_back(control.nId);

@@ -86,7 +86,6 @@ TEST_F(FolderTreeTest, ANodeIsReadOnceAndItsMarkAtEachSelection) {
     Choose("a");
     EXPECT_EQ(Words(), std::vector<std::string>{"info a 0"});
     EXPECT_EQ(Dump(Node("c (C:)")), "a*!\n one\nbare\n");
-    EXPECT_TRUE(m_controls.IsShown(kFileList) && !m_controls.IsShown(kCanvas));
 
     // A node that was opened while it had nothing in it has not been read yet.
     Choose("bare");
@@ -233,7 +232,6 @@ TEST_F(FolderTreeTest, ItFollowsASavedFileOnDriveC) {
         EXPECT_EQ(m_list.Path(), strPath);
         EXPECT_TRUE(!test.strPath.empty() || Dump() == strBefore);
         // Nothing is read or shown before the way back to the browser, where the current item rules.
-        m_controls.Show(kCanvas, true);
         EXPECT_EQ(Names(), std::vector<std::string>{"in"});
         m_thum.ReturnToFolder();
         EXPECT_EQ(m_nodes.Selected(), m_tree.CurrentItem());

@@ -6,23 +6,6 @@ namespace {
 
 using CNames = std::vector<std::string>;
 
-// What the progress bar shows, one after the other.
-class CBarWitness : public CControlObserver {
-  public:
-    explicit CBarWitness(CControlSet& controls) : m_controls(controls) { controls.Attach(this); }
-    ~CBarWitness() override { m_controls.Attach(nullptr); }
-    void OnControlChanged(const CControl& control, EControlChange change) override {
-        if (control.nId != kProgress) return;
-        if (change == EControlChange::Position) m_strSeen += std::to_string(control.nPos) + " ";
-        if (change == EControlChange::Shown) m_strSeen += control.bShown ? "up " : "down ";
-    }
-    std::string Take() { return std::exchange(m_strSeen, {}); }
-
-  private:
-    CControlSet& m_controls;
-    std::string m_strSeen;
-};
-
 class PicFileListTest : public ThumBench {
   protected:
     // Two folders and two pictures: items 0 to 3.
@@ -70,32 +53,29 @@ TEST_F(PicFileListTest, FoldersStandBeforeJpegFilesEachByTheBytesOfTheirNames) {
 }
 
 TEST_F(PicFileListTest, TheBarMovesWithTheFilesAndIsGoneAtTheEnd) {
-    CBarWitness bar(m_controls);
     m_list.FillThumbnails();  // no folder yet
     EXPECT_TRUE(m_setTimers.empty());
     MakeFour();
     SaveJpeg("e.jpg", 1, 1);
     SaveJpeg("f.jpg", 1, 1);
     Show(m_folder.Path());
+    EXPECT_EQ(Told(), "fill folder ") << "before the first tick";
     Fill();
-    EXPECT_EQ(bar.Take(), "up 25 37 50 down ");
+    EXPECT_EQ(Told(), "25 37 50 end ");
     EXPECT_EQ(Cells(), "ffpppp");
-    // Outside of the browser's mode it does not come up.
-    m_bThumMode = false;
     m_list.FillThumbnails();
+    EXPECT_EQ(Told(), "0 fill ");
     m_list.FinishFill();
-    EXPECT_EQ(bar.Take(), "0 25 37 50 ");
-    m_bThumMode = true;
     // Only folders, nothing at all, and no folder.
     for (const char* szName : {"A", "B.jpg"}) MakeFolder(std::string("only/") + szName);
     MakeFolder("empty");
     for (const char* szName : {"only", "empty", "gone"}) {
         SCOPED_TRACE(szName);
+        Told();
         Show(m_folder.Path(szName));
-        EXPECT_EQ(m_controls.Position(kProgress), 0);
         Fill();
-        EXPECT_EQ(m_controls.Position(kProgress), 50);
-        EXPECT_FALSE(m_controls.IsShown(kProgress) || m_list.IsFilling());
+        EXPECT_EQ(Told(), "0 fill folder 50 end ");
+        EXPECT_FALSE(m_list.IsFilling());
         EXPECT_EQ(Cells(), szName == std::string("only") ? "ff" : "");
         EXPECT_EQ(m_nWaits, 0);
     }
@@ -136,7 +116,7 @@ TEST_F(PicFileListTest, ANewFillEndsTheFormerAndAStopLeavesWhatIsThere) {
     m_list.StopFill();
     m_list.StopFill();
     EXPECT_EQ(Names(), (CNames{"A", "B.jpg", "other", "d.JPEG", "late.jpg"}));
-    EXPECT_FALSE(Tick() || m_controls.IsShown(kProgress) || m_nWaits != 0);
+    EXPECT_FALSE(Tick() || m_nWaits != 0);
     m_list.FillThumbnails();
     m_list.FinishFill();
     EXPECT_EQ(Cells(), "fffep");
@@ -145,26 +125,24 @@ TEST_F(PicFileListTest, ANewFillEndsTheFormerAndAStopLeavesWhatIsThere) {
 TEST_F(PicFileListTest, AClickTellsOfTheItemAndLightsAFolder) {
     MakeFour();
     MakeFolder("A2");
-    Show(m_folder.Path());  // A, A2, B.jpg, c.jpg, d.JPEG
+    Show(m_folder.Path());
     Fill();
+    const CNames kNames = {"A", "A2", "B.jpg", "c.jpg", "d.JPEG"};
     struct CStep {
         int nItem;
         const char* szCells;
-        const char* szInfo;
     };
-    const CStep kSteps[] = {
-        {0, "lffpp", "info A 0"},     {0, "lffpp", "info A 0"},      {1, "flfpp", "info A2 0"},
-        {3, "fffpp", "info c.jpg 1"}, {0, "lffpp", "info A 0"},      {2, "fffpp", "info B.jpg 1"},
-        {1, "flfpp", "info A2 0"},    {4, "fffpp", "info d.JPEG 1"}, {1, "flfpp", "info A2 0"},
-    };
+    const CStep kSteps[] = {{0, "lffpp"}, {0, "lffpp"}, {1, "flfpp"}, {3, "fffpp"}, {0, "lffpp"},
+                            {2, "fffpp"}, {1, "flfpp"}, {4, "fffpp"}, {1, "flfpp"}};
     for (const CStep& step : kSteps) {
-        SCOPED_TRACE(step.szInfo);
-        std::filesystem::current_path("/");
+        const std::string& strName = kNames[static_cast<std::size_t>(step.nItem)];
+        SCOPED_TRACE(strName);
+        const bool bPicture = step.nItem > 1;
+        Told();
         m_hand.OnItemClick(step.nItem);
-        EXPECT_EQ(Words(), (CNames{"browse", step.szInfo}));
+        EXPECT_EQ(Words(), (CNames{"browse", "info " + m_folder.Path(strName) + (bPicture ? " 1" : " 0")}));
+        EXPECT_EQ(Told(), bPicture ? "file " : "");
         EXPECT_EQ(Cells(), step.szCells);
-        // The lines open a picture by its bare name.
-        EXPECT_TRUE(step.szCells[1] == 'l' || step.szCells[0] == 'l' || CurrentFolder() == m_folder.Path());
     }
     m_hand.OnItemClick(-1);
     m_hand.OnItemClick(5);
@@ -266,84 +244,43 @@ TEST_F(PicFileListTest, EnterGivesTheOneSelectedItemToTheSystem) {
 TEST_F(PicFileListTest, ADeleteAsksOnceDeletesAndReadsTheListAnew) {
     const std::string strSub = m_folder.Path("top/sub/");
     const auto path = [&](const char* szName) { return " " + strSub + szName; };
+    const std::string strA = path("A");
+    const std::string strB = path("B");
+    const std::string strD = path("d.jpg");
+    enum EHow { kPlain, kShift, kRefused };
     struct CCase {
         std::vector<int> arrItems;  // of A, B, C.jpg, d.jpg, e.jpg
-        bool bShift;
-        EBoxAnswer answer;
-        bool bRefused;
-        std::string strDelete;  // empty if the system is not asked
+        int nHow;
+        std::string strDelete;  // what the system is asked; empty if it is not
         const char* szAsked;    // by the program; null for nothing
         CNames arrLeft;
-        const char* szNodes;
+        const char* szNodes = "A+\nB\nC.jpg\n";
     };
     const CNames kAll = {"A", "B", "C.jpg", "d.jpg", "e.jpg"};
-    const char* const kAllNodes = "A+\nB\nC.jpg\n";
-    using enum EBoxAnswer;
+    // With a file behind it, or a folder with a picture's name, the tree is not looked after.
     const CCase kCases[] = {
-        {{3},
-         false,
-         Yes,
-         false,
-         "delete to bin" + path("d.jpg"),
-         "d.jpg",
-         {"A", "B", "C.jpg", "e.jpg"},
-         kAllNodes},
-        {{3}, false, No, false, "", "d.jpg", kAll, kAllNodes},
-        {{3},
-         true,
-         No,
-         false,
-         "delete ask" + path("d.jpg"),
-         nullptr,
-         {"A", "B", "C.jpg", "e.jpg"},
-         kAllNodes},
-        {{3}, true, No, true, "delete ask" + path("d.jpg"), nullptr, kAll, kAllNodes},
-        {{0},
-         false,
-         Yes,
-         false,
-         "delete to bin" + path("A"),
-         "A",
-         {"B", "C.jpg", "d.jpg", "e.jpg"},
-         "B\nC.jpg\n"},
-        {{0}, false, No, false, "", "A", kAll, kAllNodes},
-        {{0}, false, Yes, true, "delete to bin" + path("A"), "A", kAll, kAllNodes},
-        {{0, 1},
-         false,
-         No,
-         false,
-         "delete to bin ask" + path("A") + path("B"),
-         nullptr,
-         {"C.jpg", "d.jpg", "e.jpg"},
-         "C.jpg\n"},
-        {{1, 4},
-         true,
-         No,
-         false,
-         "delete ask" + path("B") + path("e.jpg"),
-         nullptr,
-         {"A", "C.jpg", "d.jpg"},
-         kAllNodes},  // the last one is a file: the tree is not looked after
-        {{0, 2},
-         false,
-         No,
-         false,
-         "delete to bin ask" + path("A") + path("C.jpg"),
-         nullptr,
-         {"B", "d.jpg", "e.jpg"},
-         kAllNodes},  // and so it is for a folder with a picture's name
+        {{3}, kPlain, "to bin" + strD, "d.jpg", {"A", "B", "C.jpg", "e.jpg"}},
+        {{3}, kPlain, "", "d.jpg", kAll},
+        {{3}, kShift, "ask" + strD, nullptr, {"A", "B", "C.jpg", "e.jpg"}},
+        {{3}, kShift | kRefused, "ask" + strD, nullptr, kAll},
+        {{0}, kPlain, "to bin" + strA, "A", {"B", "C.jpg", "d.jpg", "e.jpg"}, "B\nC.jpg\n"},
+        {{0}, kPlain, "", "A", kAll},
+        {{0}, kRefused, "to bin" + strA, "A", kAll},
+        {{0, 1}, kPlain, "to bin ask" + strA + strB, nullptr, {"C.jpg", "d.jpg", "e.jpg"}, "C.jpg\n"},
+        {{1, 4}, kShift, "ask" + strB + path("e.jpg"), nullptr, {"A", "C.jpg", "d.jpg"}},
+        {{0, 2}, kPlain, "to bin ask" + strA + path("C.jpg"), nullptr, {"B", "d.jpg", "e.jpg"}},
     };
     for (const CCase& test : kCases) {
-        SCOPED_TRACE(test.strDelete + (test.bRefused ? " refused" : ""));
+        SCOPED_TRACE(test.strDelete + " " + std::to_string(test.nHow));
         m_arrDrives.clear();
         Remove("top");
         ShowFourInTree();
-        m_answer = test.answer;
-        m_bShellRefuses = test.bRefused;
+        m_answer = test.strDelete.empty() ? EBoxAnswer::No : EBoxAnswer::Yes;
+        m_bShellRefuses = (test.nHow & kRefused) != 0;
         Select(test.arrItems);
-        m_hand.OnKeyDown(kKeyDelete, test.bShift);
+        m_hand.OnKeyDown(kKeyDelete, (test.nHow & kShift) != 0);
         CNames arrWords = {"info  -1"};
-        if (!test.strDelete.empty()) arrWords.insert(arrWords.begin(), test.strDelete);
+        if (!test.strDelete.empty()) arrWords.insert(arrWords.begin(), "delete " + test.strDelete);
         EXPECT_EQ(Words(), arrWords);
         std::vector<CMessageBox> arrBoxes;
         if (test.szAsked != nullptr)

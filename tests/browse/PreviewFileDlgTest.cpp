@@ -44,22 +44,28 @@ TEST_F(PreviewFileDlg, ScalesToTheHeightOrTheWidthOfThePlace) {
     struct {
         CSize size;
         CSize sizePreview;
-        CPoint pt;  // in a view of 125 by 142
-    } const kCases[] =
-        {
-            {{1, 1}, {117, 117}, {4, 12}},    {{500, 500}, {117, 117}, {4, 12}},
-            {{100, 200}, {68, 136}, {28, 3}}, {{200, 100}, {117, 58}, {4, 42}},
-            {{60, 61}, {133, 136}, {0, 3}},  // wider than the place: cut at its right
-            {{1000, 9}, {117, 1}, {4, 70}},
-        };
+        CRect rcBox;  // in a view of 125 by 142
+    } const kCases[] = {
+        {{1, 1}, {117, 117}, {4, 12, 121, 129}},
+        {{500, 500}, {117, 117}, {4, 12, 121, 129}},
+        {{100, 200}, {68, 136}, {28, 3, 96, 139}},
+        {{200, 100}, {117, 58}, {4, 42, 121, 100}},
+        {{60, 61}, {133, 136}, {0, 3, 125, 139}},  // wider than the place: cut at its right
+        {{1000, 9}, {117, 1}, {4, 70, 121, 71}},
+        // Too thin to be scaled: as it is, from the place's edge on.
+        {{1, 1500}, {0, 136}, {62, 0, 63, 142}},
+        {{1500, 2}, {117, 0}, {0, 70, 125, 72}},
+        {{90, 12500}, {0, 136}, {17, 0, 107, 142}},
+    };
     for (const auto& row : kCases) {
         SCOPED_TRACE(row.size.cx);
         EXPECT_EQ(CPreviewFileDlg::PreviewSize(row.size), row.sizePreview);
-        const std::string strName = std::to_string(row.size.cx) + ".png";
-        m_dialog.OnFileNameChange(Save(strName, FlatImage(row.size.cx, row.size.cy, {200, 0, 0})));
-        EXPECT_TRUE(IsShown());
-        const CRect rc = CRect::FromPlace(row.pt.x, row.pt.y, row.sizePreview.cx, row.sizePreview.cy);
-        EXPECT_EQ(PaintedBox(), rc.Intersect({0, 0, 125, 142}));
+        for (const char* szType : {".png", ".jpg"}) {
+            const std::string strName = std::to_string(row.size.cx) + szType;
+            m_dialog.OnFileNameChange(Save(strName, FlatImage(row.size.cx, row.size.cy, {200, 0, 0})));
+            EXPECT_TRUE(IsShown());
+            EXPECT_EQ(PaintedBox(), row.rcBox) << szType;
+        }
     }
     // Sides whose product does not fit into 32 bits.
     EXPECT_EQ(CPreviewFileDlg::PreviewSize({40000000, 50000000}), (CSize{108, 136}));
@@ -88,8 +94,10 @@ TEST_F(PreviewFileDlg, StaysEmptyBehindItsOnePaint) {
     // The same path brings nothing new, another one does.
     m_dialog.OnFileNameChange(strPath);
     EXPECT_TRUE(PaintedBox().IsEmpty());
-    m_dialog.OnFileNameChange(Save("b.png", FlatImage(30, 30, {200, 0, 0})));
-    EXPECT_FALSE(PaintedBox().IsEmpty());
+    // Of two quick changes the second is painted.
+    m_dialog.OnFileNameChange(Save("b.png", FlatImage(100, 200, {200, 0, 0})));
+    m_dialog.OnFileNameChange(Save("c.png", FlatImage(200, 100, {0, 200, 0})));
+    EXPECT_EQ(Painted().GetPixel(60, 60), (CColor{0, 200, 0}));
 }
 
 TEST_F(PreviewFileDlg, LeavesTheLastPictureForOtherKinds) {
@@ -132,11 +140,4 @@ TEST_F(PreviewFileDlg, CheckBoxHidesAndReadsAgain) {
     m_dialog.OnCommand(kPreviewCheck);
     m_dialog.OnCommand(kPreviewCheck);
     EXPECT_EQ(PaintedBox(), CRect::FromPlace(4, 42, 117, 58));
-}
-
-TEST_F(PreviewFileDlg, OfTwoQuickChangesTheSecondIsPainted) {
-    m_dialog.OnFileNameChange(Save("a.png", FlatImage(100, 200, {200, 0, 0})));
-    m_dialog.OnFileNameChange(Save("b.png", FlatImage(200, 100, {0, 200, 0})));
-    EXPECT_EQ(PaintedBox(), CRect::FromPlace(4, 42, 117, 58));
-    EXPECT_EQ(Painted().GetPixel(60, 60), (CColor{0, 200, 0}));
 }

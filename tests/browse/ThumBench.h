@@ -26,13 +26,15 @@ class ThumBench : public testing::Test,
                   public CMessageBoxes,
                   public CTimers,
                   public CWaitCursor,
-                  public CBitmaps {
+                  public CBitmaps,
+                  public CEditEvents,
+                  public CControlObserver {
   protected:
     ThumBench()
         : m_strFolderBefore(std::filesystem::current_path().string()),
           m_controls(kMainDialog.arrControls),
-          m_thum(*this, {m_controls, *this, *this, *this, *this, *this, *this, *this}) {
-        m_controls.SetRange(kProgress, 0, 50);
+          m_thum(*this, {m_controls, *this, *this, *this, *this, *this, *this, *this, *this}) {
+        m_controls.Attach(this);
     }
     ~ThumBench() override {
         std::error_code error;
@@ -77,6 +79,8 @@ class ThumBench : public testing::Test,
         }
     }
     std::vector<std::string> Words() { return std::exchange(m_arrWords, {}); }
+    // The events, and the places of the progress bar between them.
+    std::string Told() { return std::exchange(m_strTold, {}); }
 
     std::vector<std::string> Names() const {
         std::vector<std::string> arrNames;
@@ -133,7 +137,12 @@ class ThumBench : public testing::Test,
         Say("open " + strFolder + " " + strName);
     }
     void LeaveEditInfo() override { Say("browse"); }
-    bool IsThumMode() const override { return m_bThumMode; }
+
+    void Tell(EEditEvent event) override { m_strTold += kEventWords.at(event); }
+    void OnControlChanged(const CControl& control, EControlChange change) override {
+        EXPECT_TRUE(control.nId == kProgress && change == EControlChange::Position) << "another's control";
+        m_strTold += std::to_string(control.nPos) + ' ';
+    }
 
     char Separator() const override { return '/'; }
     std::string CurrentFolder() const override { return std::filesystem::current_path().string(); }
@@ -166,6 +175,10 @@ class ThumBench : public testing::Test,
         return strName == "415" ? &m_imgLit : nullptr;
     }
 
+    static inline const std::map<EEditEvent, std::string> kEventWords = {{EEditEvent::FolderShown, "folder "},
+                                                                         {EEditEvent::FileShown, "file "},
+                                                                         {EEditEvent::FillBegun, "fill "},
+                                                                         {EEditEvent::FillEnded, "end "}};
     static constexpr CColor kFolder{10, 20, 30};
     static constexpr CColor kLit{40, 50, 60};
 
@@ -176,7 +189,6 @@ class ThumBench : public testing::Test,
     EBoxAnswer m_answer = EBoxAnswer::Yes;
     std::set<std::pair<CTimerTarget*, int>> m_setTimers;
     int m_nWaits = 0;
-    bool m_bThumMode = true;
     bool m_bShellRefuses = false;
     CxImage m_imgFolder = FlatImage(122, 123, kFolder);
     CxImage m_imgLit = FlatImage(122, 125, kLit);
@@ -191,4 +203,5 @@ class ThumBench : public testing::Test,
   private:
     void Say(const std::string& strWord) { m_arrWords.push_back(strWord); }
     std::vector<std::string> m_arrWords;
+    std::string m_strTold;
 };

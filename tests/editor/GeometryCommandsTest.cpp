@@ -1,142 +1,111 @@
 #include "editor/EditorBench.h"
-#include "editor/ShortMemory.h"
 
 namespace {
 
-using CCommand = void (CGeometryCommands::*)();
-using CWords = std::vector<std::string>;
+using CCommand = std::function<bool(CGeometryCommands&, const CxImage&)>;
 
-class GeometryCommandsTest : public EditorBench {
-  protected:
-    GeometryCommandsTest() {
-        m_controls.Show(kEffectList, true);
-        m_fnRun = [this](CDialog& dialog) {
-            dialog.Controls().Check(kSizeKeepRatio, false);
-            dialog.Controls().SetText(kSizeWidth, std::to_string(m_sizeAnswer.cx));
-            dialog.Controls().SetText(kSizeHeight, std::to_string(m_sizeAnswer.cy));
-            dialog.OnCommand(m_bCancel ? kSizeCancel : kSizeOk);
-        };
-    }
-    void Do(CCommand command) { (m_geometry.*command)(); }
-
-    CSize m_sizeAnswer{300, 200};
-    bool m_bCancel = false;
+struct CCase {
+    const char* szName;
+    CCommand command;
+    CSize sizeDisplay;  // from one of 50 by 40
+    CSize sizeWork;
 };
+const CCase kCases[] = {
+    {"flip", [](auto& g, const CxImage& base) { return g.Flip(base, EFlip::Vertical); }, {50, 40}, {30, 20}},
+    {"mirror",
+     [](auto& g, const CxImage& base) { return g.Flip(base, EFlip::Horizontal); },
+     {50, 40},
+     {30, 20}},
+    {"left", [](auto& g, const CxImage& base) { return g.Turn(base, ETurn::Left); }, {40, 50}, {20, 30}},
+    {"right", [](auto& g, const CxImage& base) { return g.Turn(base, ETurn::Right); }, {40, 50}, {20, 30}},
+    {"size",
+     [](auto& g, const CxImage& base) {
+         return g.ChangeSize(base, {300, 200});
+     },
+     {300, 200},
+     {30, 20}},
+    {"large", [](auto& g, const CxImage& base) { return g.ZoomIn(base); }, {62, 50}, {30, 20}},
+    {"small", [](auto& g, const CxImage& base) { return g.ZoomOut(base); }, {37, 30}, {30, 20}},
+    {"actual", [](auto& g, const CxImage& base) { return g.ZoomToActual(base); }, {30, 20}, {30, 20}},
+};
+
+using GeometryCommandsTest = EditorBench;
 
 }  // namespace
 
-TEST_F(GeometryCommandsTest, EachCommandGoesThroughItsStepsInOrder) {
-    const CWords kChange = {"abandon", "fit", "repaint"};
-    const CWords kZoom = {"fit", "repaint"};
-    const CWords kFlipDraw = {"drop", "abandon", "load", "focus 7"};
-    const CWords kTurnDraw = {"drop", "abandon", "load"};
-    struct CCase {
-        const char* szName;
-        CCommand command;
-        CWords arrWords;
-        CWords arrWordsDraw;  // none for a command that is off there
-        CSize sizeDisplay;
-        CSize sizeWork;
-    };
-    const CCase kCases[] = {
-        {"flip", &CGeometryCommands::OnFlipVertical, kChange, kFlipDraw, {50, 40}, {30, 20}},
-        {"mirror", &CGeometryCommands::OnFlipHorizontal, kChange, kFlipDraw, {50, 40}, {30, 20}},
-        {"left", &CGeometryCommands::OnTurnLeft, kChange, kTurnDraw, {40, 50}, {20, 30}},
-        {"right", &CGeometryCommands::OnTurnRight, kChange, kTurnDraw, {40, 50}, {20, 30}},
-        {"size", &CGeometryCommands::OnSize, kZoom, {}, {300, 200}, {30, 20}},
-        {"large", &CGeometryCommands::OnLarge, kZoom, {}, {62, 50}, {30, 20}},
-        {"small", &CGeometryCommands::OnSmall, kZoom, {}, {37, 30}, {30, 20}},
-        {"actual", &CGeometryCommands::OnActual, kChange, {}, {30, 20}, {30, 20}},
-    };
+TEST_F(GeometryCommandsTest, EachCommandIsOneStepFromItsBase) {
     for (const CCase& test : kCases) {
-        for (const int nMode : {kModeEffect, kModeStick, kModeDraw}) {
-            SCOPED_TRACE(testing::Message() << test.szName << " in mode " << nMode);
-            const bool bDraw = nMode == kModeDraw;
-            if (bDraw && test.arrWordsDraw.empty()) continue;
-            m_images.m_stackUndo.Clear();
-            Open(nMode);
-            m_images.SetDisplaySize({50, 40});
-            m_editor.PushRedo();
-            m_bFloating = bDraw;
-            m_nResumeTool = 7;
-            m_controls.SetFocus(kCmdOpen);
-            Do(test.command);
-            EXPECT_EQ(Words(), bDraw ? test.arrWordsDraw : test.arrWords);
-            EXPECT_EQ(m_images.m_stackUndo.Count(), 1);
-            EXPECT_TRUE(m_images.m_stackRedo.IsEmpty() && m_controls.IsEnabled(kCmdUndo));
-            // The step holds the state before, with the float merged into the paper of DRAW.
-            const CUndoEntry& entry = m_images.m_stackUndo.Top();
-            EXPECT_EQ((CSize{entry.nWidth, entry.nHeight}), (CSize{50, 40}));
-            EXPECT_EQ(PixelAt(entry.pImage->Pixels(), 0, 0), (bDraw ? CColor{0, 200, 0} : CColor{0, 0, 0}));
-            EXPECT_EQ(m_images.DisplaySize(), test.sizeDisplay);
-            EXPECT_EQ(m_images.m_pImgDisplay->GetSize(), test.sizeDisplay);
-            EXPECT_EQ(m_images.m_pImgWork->GetSize(), test.sizeWork);
-            EXPECT_EQ(m_pixelsCanvas == Work(), bDraw);
-            EXPECT_EQ(m_controls.Focus() == kEffectList, nMode == kModeEffect);
-            EXPECT_EQ(m_nWaits, 0);
-            EXPECT_TRUE(m_arrBoxes.empty());
-        }
+        SCOPED_TRACE(test.szName);
+        Open(EMode::Stick);
+        m_images.SetDisplaySize({50, 40});
+        const CxImage base = FlatImage(30, 20, {0, 200, 0});
+        EXPECT_TRUE(test.command(m_geometry, base));
+        ASSERT_EQ(m_images.m_stackUndo.Count(), 1);
+        const CUndoEntry& entry = m_images.m_stackUndo.Top();
+        EXPECT_EQ((CSize{entry.nWidth, entry.nHeight}), (CSize{50, 40}));
+        EXPECT_EQ(entry.image.Pixels(), base.Pixels());
+        EXPECT_EQ(m_images.DisplaySize(), test.sizeDisplay);
+        EXPECT_EQ(m_images.m_imgDisplay.GetSize(), test.sizeDisplay);
+        EXPECT_EQ(Work().GetSize(), test.sizeWork);
+        EXPECT_EQ(PixelAt(Work().Pixels(), 0, 0), (CColor{0, 200, 0}));
+        EXPECT_TRUE(TakeBoxes().empty());
     }
 }
 
 // The picture without its frame goes along as long as the frame can be swapped.
 TEST_F(GeometryCommandsTest, FlipsAndTurnsMoveThePictureWithoutItsFrameToo) {
     const CPixels bare = NumberedPixels(30, 20, 99);
-    const std::pair<CCommand, CPixels> kCases[] = {
-        {&CGeometryCommands::OnFlipVertical, NaiveFlip(bare, true)},
-        {&CGeometryCommands::OnFlipHorizontal, NaiveFlip(bare, false)},
-        {&CGeometryCommands::OnTurnLeft, NaiveTurn(bare, false)},
-        {&CGeometryCommands::OnTurnRight, NaiveTurn(bare, true)},
-        {&CGeometryCommands::OnLarge, bare},
-    };
-    for (const auto& [command, turned] : kCases) {
+    const CPixels kWanted[] = {NaiveFlip(bare, true), NaiveFlip(bare, false), NaiveTurn(bare, false),
+                               NaiveTurn(bare, true)};
+    for (std::size_t i = 0; i < std::size(kCases); ++i)
         for (const bool bFrameOn : {true, false}) {
-            Open(kModeStick);
-            m_images.m_pImgNoFrame = std::make_unique<CxImage>(NumberedImage(30, 20, 99));
+            Open(EMode::Stick);
+            m_images.m_imgNoFrame = NumberedImage(30, 20, 99);
             m_images.m_bFrameOn = bFrameOn;
-            Do(command);
-            EXPECT_EQ(m_images.m_pImgNoFrame->Pixels(), bFrameOn ? turned : bare);
+            EXPECT_TRUE(kCases[i].command(m_geometry, Work()));
+            EXPECT_EQ(m_images.m_imgNoFrame.Pixels(), bFrameOn && i < std::size(kWanted) ? kWanted[i] : bare);
             EXPECT_EQ(m_images.m_bFrameOn, bFrameOn);
         }
-    }
     // A frame that is on without a picture below it.
     m_images.m_bFrameOn = true;
-    m_images.m_pImgNoFrame.reset();
-    m_geometry.OnFlipVertical();
-    m_geometry.OnTurnLeft();
+    m_images.m_imgNoFrame = {};
+    EXPECT_TRUE(m_geometry.Flip(Work(), EFlip::Vertical) && m_geometry.Turn(Work(), ETurn::Left));
 }
 
-TEST_F(GeometryCommandsTest, NothingHappensWithoutAPictureOrBehindACancel) {
-    for (const CCommand command :
-         {&CGeometryCommands::OnFlipVertical, &CGeometryCommands::OnFlipHorizontal,
-          &CGeometryCommands::OnTurnLeft, &CGeometryCommands::OnTurnRight, &CGeometryCommands::OnSize,
-          &CGeometryCommands::OnLarge, &CGeometryCommands::OnSmall, &CGeometryCommands::OnActual})
-        Do(command);
-    EXPECT_TRUE(Words().empty() && m_arrBoxes.empty() && m_images.m_stackUndo.IsEmpty());
-    Open(kModeEffect);
-    m_bCancel = true;
-    m_geometry.OnSize();
-    EXPECT_TRUE(Words().empty() && m_images.m_stackUndo.IsEmpty());
-    EXPECT_EQ(m_controls.Focus(), kEffectList);
-    EXPECT_EQ(m_images.DisplaySize(), (CSize{30, 20}));
-}
-
-TEST_F(GeometryCommandsTest, WithoutMemoryForItsStepACommandLeavesAllAsItWas) {
-    Open(kModeStick);
-    m_editor.PushUndo();
-    m_editor.PushRedo();
-    const CPixels work = Work();
-    for (const CCommand command :
-         {&CGeometryCommands::OnFlipVertical, &CGeometryCommands::OnTurnRight, &CGeometryCommands::OnLarge,
-          &CGeometryCommands::OnSmall, &CGeometryCommands::OnActual}) {
-        {
-            const CShortMemory memory(0);
-            Do(command);
-        }
-        EXPECT_EQ(std::exchange(m_arrBoxes, {}).size(), 1U);
-        EXPECT_EQ(m_images.m_stackUndo.Count() + m_images.m_stackRedo.Count(), 2);
-        EXPECT_TRUE(Work().SharesWith(work));
-        EXPECT_EQ(m_images.DisplaySize(), (CSize{30, 20}));
-        EXPECT_EQ(m_nWaits, 0);
+TEST_F(GeometryCommandsTest, AFlipUnderThePhonesSizeKeepsItOutsideDraw) {
+    for (const EMode mode : {EMode::Effect, EMode::Draw}) {
+        Open(mode);
+        m_images.m_sizeRule = ESizeRule::PhoneScreen;
+        EXPECT_TRUE(m_geometry.Flip(Work(), EFlip::Vertical));
+        EXPECT_EQ(m_images.m_imgDisplay.GetSize(), (mode == EMode::Draw ? CSize{30, 20} : CSize{176, 144}));
     }
+}
+
+TEST_F(GeometryCommandsTest, AsksForASizeAndRefusesOneOutOfBounds) {
+    struct {
+        CSize size;
+        const char* szBox;
+    } const kAnswers[] = {
+        {{20, 3200}, nullptr},
+        {{3201, 19}, "最大以上的大小"},
+        {{3201, 3200}, "最大以上的大小"},
+        {{19, 400}, "最小以下的大小"},
+    };
+    Open(EMode::Effect);
+    for (const auto& [size, szBox] : kAnswers) {
+        m_fnRun = [&, size = size](CDialog& dialog) {
+            dialog.Controls().Check(kSizeKeepRatio, false);
+            dialog.Controls().SetText(kSizeWidth, std::to_string(size.cx));
+            dialog.Controls().SetText(kSizeHeight, std::to_string(size.cy));
+            dialog.OnCommand(kSizeOk);
+        };
+        EXPECT_EQ(m_geometry.ChooseSize({}), szBox == nullptr ? std::optional(size) : std::nullopt);
+        const std::vector<CMessageBox> arrBoxes = TakeBoxes();
+        ASSERT_EQ(arrBoxes.size(), szBox == nullptr ? 0U : 1U);
+        if (szBox == nullptr) continue;
+        EXPECT_EQ(arrBoxes[0], (CMessageBox{szBox, "图像大小变更", EBoxIcon::Stop, EBoxButtons::Ok}));
+    }
+    m_fnRun = [](CDialog& dialog) { dialog.OnCommand(kSizeCancel); };
+    EXPECT_EQ(m_geometry.ChooseSize({}), std::nullopt);
+    EXPECT_TRUE(m_images.m_stackUndo.IsEmpty());
 }

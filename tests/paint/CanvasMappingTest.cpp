@@ -11,21 +11,21 @@ class CanvasMapping : public ToolBench {
     // The vertex that a press at that client point leaves: it is not kept inside.
     CPoint PictureOf(CPoint ptClient) {
         m_tools.m_nTool = kToolPolygon;
-        m_canvas.AbandonShape();
+        m_draw.AbandonShape();
         m_canvas.OnMouse({EMouseAction::Press, kLeft, ptClient, 0});
         m_canvas.OnMouse({EMouseAction::Release, kLeft, ptClient, 0});
-        return m_canvas.Hand().m_ptVertex[0];
+        return m_draw.Hand().m_ptVertex[0];
     }
 };
 
 }  // namespace
 
 TEST_F(CanvasMapping, ACentredPictureIsMappedWithTheFractionCutTowardZero) {
-    EXPECT_EQ(m_canvas.Origin(), (CPoint{299, 246}));
+    EXPECT_EQ(m_draw.Origin(), (CPoint{299, 246}));
     EXPECT_EQ(PictureOf({299, 246}), (CPoint{0, 0}));
     EXPECT_EQ(PictureOf({298, 300}), (CPoint{-1, 54}));
     Zoom(4);
-    EXPECT_EQ(m_canvas.Origin(), (CPoint{209, 171}));
+    EXPECT_EQ(m_draw.Origin(), (CPoint{209, 171}));
     EXPECT_EQ(PictureOf({209, 171}), (CPoint{0, 0}));
     EXPECT_EQ(PictureOf({212, 175}), (CPoint{0, 1}));
     EXPECT_EQ(PictureOf({206, 166}), (CPoint{0, -1}));
@@ -37,10 +37,10 @@ TEST_F(CanvasMapping, ACentredPictureIsMappedWithTheFractionCutTowardZero) {
 TEST_F(CanvasMapping, ScrollingAndZoomAreCutOneByOne) {
     Open(400, 300);
     Zoom(4);
-    EXPECT_EQ(m_canvas.Origin(), (CPoint{0, 0}));
+    EXPECT_EQ(m_draw.Origin(), (CPoint{0, 0}));
     EXPECT_EQ(m_canvas.ScrollSizes(), (CSize{1600, 1200}));
     m_canvas.ScrollTo({6, 9});
-    EXPECT_EQ(m_canvas.VisibleCorner(), (CPoint{1, 2}));
+    EXPECT_EQ(m_draw.VisibleCorner(), (CPoint{1, 2}));
     EXPECT_EQ(PictureOf({0, 0}), (CPoint{1, 2}));
     EXPECT_EQ(PictureOf({1, 3}), (CPoint{1, 3}));
     EXPECT_EQ(PictureOf({2, 3}), (CPoint{2, 3}));
@@ -50,7 +50,7 @@ TEST_F(CanvasMapping, ScrollingAndZoomAreCutOneByOne) {
     m_canvas.ScrollTo({1700, 1200});
     Zoom(1);
     EXPECT_EQ(m_canvas.ScrollPosition(), (CPoint{0, 0}));
-    EXPECT_EQ(m_canvas.Origin(), (CPoint{129, 121}));
+    EXPECT_EQ(m_draw.Origin(), (CPoint{129, 121}));
 }
 
 // A new picture at a higher zoom keeps the zoom but has the scroll sizes of the picture as it is.
@@ -58,7 +58,7 @@ TEST_F(CanvasMapping, APictureThatIsLoadedAtAZoomScrollsByItsOwnSize) {
     Zoom(6);
     Open(700, 90);
     EXPECT_EQ(m_canvas.ScrollSizes(), (CSize{700, 90}));
-    EXPECT_EQ(m_canvas.Origin(), (CPoint{0, 0}));
+    EXPECT_EQ(m_draw.Origin(), (CPoint{0, 0}));
     m_canvas.ScrollTo({41, 0});
     m_canvas.Paint();
     ExpectScreen(Committed());
@@ -79,7 +79,7 @@ TEST_F(CanvasMapping, TheScreenFollowsEveryEventByItsBox) {
         m_canvas.TakeDamage();
         for (int n = 0; n < 60; ++n) {
             m_tools.m_nTool = 1 + pick(kToolButtonCount);
-            m_canvas.AbandonShape();
+            m_draw.AbandonShape();
             const CPoint pt{pick(30) + 60, pick(30) + 50};
             Press(pt);
             Tick();

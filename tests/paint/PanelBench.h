@@ -16,6 +16,8 @@
 class PanelBench : public testing::Test,
                    private CToolCanvas,
                    private CToolHost,
+                   private CEditEvents,
+                   private CPanelHost,
                    private CColorDialogs,
                    private CTextRasterizer,
                    private CBitmaps {
@@ -25,9 +27,10 @@ class PanelBench : public testing::Test,
     PanelBench()
         : m_controls(kMainDialog.arrControls),
           m_client({1014, 710}),
-          m_controller({m_state, m_tools, m_controls, *this, *this, *this, *this}) {
+          m_controller({m_state, m_tools, m_controls, *this, *this, *this, *this, *this, *this}) {
         SetDensity(1);
-        m_state.m_bImageOpen = m_state.m_bDrawMode = true;
+        m_state.m_bImageOpen = true;
+        m_state.m_nMode = EMode::Draw;
     }
     void SetDensity(int nDensity) { m_client.SetUp(this, nDensity); }
 
@@ -66,18 +69,20 @@ class PanelBench : public testing::Test,
     void Revert() override { Call("revert"); }
     void ForgetSelection() override { Call("forget"); }
     bool IsFloating() const override { return m_bFloating; }
+    bool PrepareDrop() override { return true; }
     void DropFloat() override {
+        if (!m_bFloating) return;
         m_bFloating = false;
         m_tools.m_nTool = m_tools.m_nResumeTool;
         Call("drop");
     }
     void ApplyZoom() override { Call(("zoom" + std::to_string(m_tools.m_nZoom)).c_str()); }
 
-    CClientArea& PanelArea() override { return m_client; }
-    void PresentPanel() override {}
-    void RepaintWindow() override { Call("repaint"); }
+    CClientArea& Client() override { return m_client; }
+    void Present() override {}
+    void Invalidate() override { Call("repaint"); }
     void SetHelp(int nCode) override { Call(("help" + std::to_string(nCode)).c_str()); }
-    void EnableSelectionCommands(bool bEnable) override { Call(bEnable ? "on" : "off"); }
+    void Tell(EEditEvent event) override { Call(event == EEditEvent::SelectionGone ? "off" : "on"); }
 
     std::optional<CColor> Run(CColor colorStart) override {
         m_arrAsked.push_back(colorStart);

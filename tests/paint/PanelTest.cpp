@@ -242,7 +242,7 @@ TEST_F(PanelTest, OnADenseScreenRoundAndSlantedGlyphsAndTextsAreFiner) {
 TEST_F(PanelTest, TheForegroundWellLiesOnTop) {
     m_controller.PickColor(true, {200, 0, 0});
     m_controller.PickColor(false, {0, 0, 200});
-    m_controller.OnPaintPanel();
+    m_controller.OnWindowPainted();
     EXPECT_EQ(At(210, 489), (CColor{128, 128, 128}));
     EXPECT_EQ(At(255, 534), kWhite);
     EXPECT_EQ(At(245, 495), (CColor{0xD2, 0xD2, 0xD2}));

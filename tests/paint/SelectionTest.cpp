@@ -12,14 +12,14 @@ class SelectionTest : public ToolBench {
   protected:
     SelectionTest() { Open(NumberedImage(60, 50, 9)); }
 
-    CSelection& Selection() { return m_canvas.Selection(); }
-    bool Build() { return Selection().Build(m_tools.m_nTool, m_canvas.Hand()); }
-    CPixels Lifted() { return Selection().Lift(m_canvas.Paper().Committed()); }
+    CSelection& Selection() { return m_draw.Selection(); }
+    bool Build() { return Selection().Build(m_tools.m_nTool, m_draw.Hand()); }
+    CPixels Lifted() { return Selection().Lift(m_draw.Paper().Committed()); }
     // No mark reaches the picture, and none is a step.
     void ExpectUntouched() {
         EXPECT_EQ(Committed(), NumberedPixels(60, 50, 9));
         EXPECT_TRUE(m_arrSteps.empty());
-        m_canvas.Revert();
+        m_draw.Revert();
         EXPECT_EQ(Scratch(), NumberedPixels(60, 50, 9));
     }
 };
@@ -39,7 +39,7 @@ TEST_F(SelectionTest, ARectangleIsTheSameFromBothEnds) {
         page.Rectangle({10, 8, 40, 30});
         EXPECT_TRUE(Scratch() == page.Pixels());
         Release(ptTo);
-        EXPECT_TRUE(Selection().m_bSelection);
+        EXPECT_TRUE(Selection().IsMarked());
         EXPECT_TRUE(m_bSelectionCommands);
         ASSERT_TRUE(Build());
         EXPECT_EQ(Selection().m_rcSelect, (CRect{10, 8, 40, 30}));
@@ -56,9 +56,9 @@ TEST_F(SelectionTest, AClickSelectsNothingAndTurnsNothingOn) {
     for (const int nTool : {kToolSelectRect, kToolSelectFree}) {
         m_tools.m_nTool = nTool;
         m_tools.m_nLineWidth = 5;
-        Selection().m_bSelection = false;
+        Selection().Unmark();
         Click({20, 20});
-        EXPECT_TRUE(Selection().m_bSelection);
+        EXPECT_TRUE(Selection().IsMarked());
         EXPECT_FALSE(m_bSelectionCommands);
         EXPECT_FALSE(Build());
         ExpectUntouched();
@@ -79,12 +79,12 @@ TEST_F(SelectionTest, APolygonIsFilledByTheWindingRule) {
         Release(star[n]);
         if (n + 1 < star.size()) Press({3, 3});
     }
-    EXPECT_FALSE(Selection().m_bSelection);
+    EXPECT_FALSE(Selection().IsMarked());
     Double({44, 44});
-    EXPECT_TRUE(Selection().m_bSelection);
+    EXPECT_TRUE(Selection().IsMarked());
     EXPECT_TRUE(m_bSelectionCommands);
     Release({44, 44});
-    EXPECT_EQ(m_canvas.VertexCount(), 0);
+    EXPECT_EQ(m_draw.Hand().m_nVertexCount, 0);
     ASSERT_TRUE(Build());
     EXPECT_TRUE(Selection().m_region.Contains({30, 25}));
     EXPECT_TRUE(Selection().m_region.Contains({30, 10}));

@@ -91,7 +91,7 @@ TEST_F(ShapeTools, APolygonRunsFromDragToDrag) {
     Line(band, {10, 10}, {40, 12});
     Line(band, {40, 12}, {30, 40});
     EXPECT_TRUE(Scratch() == band.Pixels());
-    EXPECT_EQ(m_canvas.VertexCount(), 2);
+    EXPECT_EQ(m_draw.Hand().m_nVertexCount, 2);
     Release({30, 40});
     EXPECT_TRUE(Committed() == Page().Pixels());
     EXPECT_TRUE(m_arrSteps.empty());
@@ -104,10 +104,10 @@ TEST_F(ShapeTools, APolygonRunsFromDragToDrag) {
     page.SelectBrush(CBrush::Solid(kBack));
     page.Polygon(std::array<CPoint, 4>{CPoint{10, 10}, {40, 12}, {30, 40}, {12, 30}});
     ExpectStroke(page.Pixels(), Page().Pixels());
-    EXPECT_EQ(m_canvas.VertexCount(), 0);
+    EXPECT_EQ(m_draw.Hand().m_nVertexCount, 0);
     Press({50, 10}, kRight);
-    EXPECT_EQ(m_canvas.VertexCount(), 1);
-    EXPECT_EQ(m_canvas.Hand().m_ptVertex[0], (CPoint{50, 10}));
+    EXPECT_EQ(m_draw.Hand().m_nVertexCount, 1);
+    EXPECT_EQ(m_draw.Hand().m_ptVertex[0], (CPoint{50, 10}));
 }
 
 TEST_F(ShapeTools, APolygonClosedAtOnceLeavesADotOrNothing) {
@@ -117,7 +117,7 @@ TEST_F(ShapeTools, APolygonClosedAtOnceLeavesADotOrNothing) {
     m_tools.m_nLineWidth = 3;
     DoubleClick({20, 20});
     EXPECT_EQ(Count(Committed(), kFore), 5);
-    EXPECT_EQ(m_canvas.VertexCount(), 0);
+    EXPECT_EQ(m_draw.Hand().m_nVertexCount, 0);
 }
 
 // A vertex in the margin keeps its place; a start point would be kept inside.
@@ -143,7 +143,7 @@ TEST_F(ShapeTools, TheHundredthVertexIsTheLast) {
     }
     Press(points[0]);
     for (std::size_t n = 1; n < points.size(); ++n) Release(points[n]);
-    EXPECT_EQ(m_canvas.VertexCount(), 100);
+    EXPECT_EQ(m_draw.Hand().m_nVertexCount, 100);
     Move({59, 49});
     DoubleClick({59, 49});
     CSurface page = Page();
@@ -176,7 +176,7 @@ TEST_F(ShapeTools, ACurveIsALineAndTwoPulls) {
     Move({40, 45});
     Release({40, 45});
     ExpectStroke(curve({CPoint{5, 25}, {20, 5}, {40, 45}, {52, 25}}), Page().Pixels());
-    EXPECT_EQ(m_canvas.VertexCount(), -1);
+    EXPECT_EQ(m_draw.Hand().m_nVertexCount, -1);
 }
 
 // A click is a pull at its point, a double click two.
@@ -189,7 +189,7 @@ TEST_F(ShapeTools, ADoubleClickEndsACurve) {
     page.Bezier({CPoint{5, 25}, {20, 5}, {20, 5}, {50, 25}});
     ExpectStroke(page.Pixels(), Page().Pixels());
     // A press of its own would have begun the next one.
-    EXPECT_FALSE(m_canvas.IsShapeOpen());
+    EXPECT_FALSE(m_draw.IsShapeOpen());
 }
 
 TEST_F(ShapeTools, AnOpenShapeThatIsGivenUpLeavesNoTrace) {
@@ -198,16 +198,16 @@ TEST_F(ShapeTools, AnOpenShapeThatIsGivenUpLeavesNoTrace) {
         Drag({{10, 10}, {40, 12}});
         Press({20, 30});
         Move({30, 30});
-        EXPECT_TRUE(m_canvas.IsShapeOpen());
-        m_canvas.AbandonShape();
+        EXPECT_TRUE(m_draw.IsShapeOpen());
+        m_draw.AbandonShape();
         EXPECT_FALSE(Scratch() == Page().Pixels());
         // The button is still held.
         Move({35, 35});
-        m_canvas.Revert();
+        m_draw.Revert();
         EXPECT_TRUE(Scratch() == Page().Pixels());
         EXPECT_TRUE(Committed() == Page().Pixels());
         Release({35, 35});
-        m_canvas.AbandonShape();
+        m_draw.AbandonShape();
         EXPECT_TRUE(m_arrSteps.empty());
     }
 }
@@ -215,7 +215,7 @@ TEST_F(ShapeTools, AnOpenShapeThatIsGivenUpLeavesNoTrace) {
 TEST_F(ShapeTools, ABoxCountsAsAnOpenShapeBehindItsFirstPress) {
     m_tools.m_nTool = kToolEllipse;
     Drag({{10, 10}, {40, 30}});
-    EXPECT_EQ(m_canvas.VertexCount(), 1);
+    EXPECT_EQ(m_draw.Hand().m_nVertexCount, 1);
     Drag({{20, 20}, {30, 30}});
-    EXPECT_EQ(m_canvas.Hand().m_ptVertex[0], (CPoint{10, 10}));
+    EXPECT_EQ(m_draw.Hand().m_ptVertex[0], (CPoint{10, 10}));
 }

@@ -204,7 +204,7 @@ TEST_F(StrokeTools, TheAirbrushSpraysTwentyDotsATick) {
         Release({30, 25});
         EXPECT_FALSE(m_bTimer);
         EXPECT_TRUE(Scratch() == page.Pixels());
-        m_canvas.Revert();
+        m_draw.Revert();
         EXPECT_TRUE(Scratch() == Page().Pixels());
         ASSERT_EQ(m_arrSteps.size(), 1U);
         EXPECT_TRUE(m_arrSteps[0] == Page().Pixels());
@@ -245,27 +245,6 @@ TEST_F(StrokeTools, TheAirbrushGoesOnUntilTheCanvasSeesItsRelease) {
     EXPECT_FALSE(m_bTimer);
     m_tools.m_nTool = kToolAirbrush;
     Press({30, 25});
-    m_state.m_bDrawMode = false;
-    Tick();
+    m_draw.Leave();
     EXPECT_FALSE(m_bTimer);
-}
-
-// Without memory for the step the picture stays as it is and the drag is over.
-TEST_F(StrokeTools, NothingIsPaintedThatCouldNotBeTakenBack) {
-    m_bNoMemory = true;
-    for (int nTool = kToolPen; nTool <= kToolRoundRect; ++nTool) {
-        SCOPED_TRACE(nTool);
-        m_tools.m_nTool = nTool;
-        Press({20, 20});
-        Move({30, 30});
-        Move({40, 20});
-        const bool bStroke = nTool < kToolMagnifier;
-        EXPECT_TRUE(!bStroke || !m_canvas.Hand().m_bButtonDown);
-        EXPECT_TRUE(!bStroke || Scratch() == Page().Pixels());
-        if (nTool >= kToolLine) DoubleClick({40, 20});
-        EXPECT_TRUE(Committed() == Page().Pixels());
-        EXPECT_FALSE(m_bTimer);
-        m_canvas.AbandonShape();
-        m_canvas.Revert();
-    }
 }

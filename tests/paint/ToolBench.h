@@ -5,11 +5,16 @@
 #include <string>
 #include <vector>
 
-#include "paint/MySCrollView.h"
+#include "paint/DrawGuest.h"
 #include "support/Pictures.h"
 
 // A canvas in DRAW with a white picture, and around it a program that only remembers what it was asked.
-class ToolBench : public testing::Test, private CCanvasHost, private CPaintHost, private CTimers {
+class ToolBench : public testing::Test,
+                  private CCanvasHost,
+                  private CPaintHost,
+                  private CTimers,
+                  private CEditEvents,
+                  private CMessageBoxes {
   protected:
     static constexpr CColor kWhite{255, 255, 255};
     static constexpr CColor kFore{200, 10, 20};
@@ -17,7 +22,11 @@ class ToolBench : public testing::Test, private CCanvasHost, private CPaintHost,
     static constexpr EMouseButton kLeft = EMouseButton::Left;
     static constexpr EMouseButton kRight = EMouseButton::Right;
 
-    ToolBench() : m_canvas({m_state, m_images, m_tools, *this, *this, *this, m_random}) {
+    ToolBench()
+        : m_editor({m_images, *this, *this}),
+          m_canvas({m_state, m_images, *this}),
+          m_draw({m_images, m_tools, m_canvas, m_editor, *this, *this, *this, m_random}) {
+        m_canvas.SetGuest(&m_draw);
         m_tools.m_crForeground = kFore;
         m_tools.m_crBackground = kBack;
         Open(60, 50);
@@ -26,21 +35,22 @@ class ToolBench : public testing::Test, private CCanvasHost, private CPaintHost,
     void Open(int nWidth, int nHeight) { Open(FlatImage(nWidth, nHeight, kWhite)); }
     void Open(const CxImage& image) {
         m_images.TakePicture(image);
-        m_state.m_bImageOpen = m_state.m_bDrawMode = true;
-        m_canvas.LoadPicture(*m_images.m_pImgWork);
+        m_state.m_bImageOpen = true;
+        m_state.m_nMode = EMode::Draw;
+        m_draw.LoadCanvas();
         m_canvas.Paint();
     }
     void Zoom(int nZoom) {
         m_tools.m_nZoom = nZoom;
-        m_canvas.ApplyZoom();
+        m_draw.ApplyZoom();
         m_canvas.Paint();
     }
 
     // --- the hand; points are picture pixels, which may lie beside the picture ---
     CPoint ToClient(CPoint pt) const {
         const CPoint ptScroll = m_canvas.ScrollPosition();
-        return {pt.x * m_tools.m_nZoom + m_canvas.Origin().x - ptScroll.x,
-                pt.y * m_tools.m_nZoom + m_canvas.Origin().y - ptScroll.y};
+        return {pt.x * m_tools.m_nZoom + m_draw.Origin().x - ptScroll.x,
+                pt.y * m_tools.m_nZoom + m_draw.Origin().y - ptScroll.y};
     }
     void Press(CPoint pt, EMouseButton button = kLeft) {
         m_canvas.OnMouse({EMouseAction::Press, button, ToClient(pt), 0});
@@ -68,8 +78,8 @@ class ToolBench : public testing::Test, private CCanvasHost, private CPaintHost,
     }
 
     // --- what has come of it ---
-    const CPixels& Committed() const { return m_canvas.CommittedPixels(); }
-    const CPixels& Scratch() const { return m_canvas.Paper().Scratch().Pixels(); }
+    const CPixels& Committed() const { return m_draw.Paper().Committed().Pixels(); }
+    const CPixels& Scratch() const { return m_draw.Paper().Scratch().Pixels(); }
     // The picture as a stroke, or what was on it before, has to leave it.
     CSurface Page() const { return CSurface(FlatImage(60, 50, kWhite).Pixels()); }
     static void Line(CSurface& surface, CPoint ptFrom, CPoint ptTo) {
@@ -97,10 +107,10 @@ class ToolBench : public testing::Test, private CCanvasHost, private CPaintHost,
         const CSurface& screen = m_canvas.Surface();
         const int nZoom = m_tools.m_nZoom;
         const CPoint ptCorner{m_canvas.ScrollPosition().x / nZoom, m_canvas.ScrollPosition().y / nZoom};
-        for (int y = m_canvas.Origin().y; y < screen.Height(); ++y)
-            for (int x = m_canvas.Origin().x; x < screen.Width(); ++x) {
-                const CPoint pt{(x - m_canvas.Origin().x) / nZoom + ptCorner.x,
-                                (y - m_canvas.Origin().y) / nZoom + ptCorner.y};
+        for (int y = m_draw.Origin().y; y < screen.Height(); ++y)
+            for (int x = m_draw.Origin().x; x < screen.Width(); ++x) {
+                const CPoint pt{(x - m_draw.Origin().x) / nZoom + ptCorner.x,
+                                (y - m_draw.Origin().y) / nZoom + ptCorner.y};
                 if (pt.x >= store.Width() || pt.y >= store.Height()) continue;
                 ASSERT_EQ(screen.GetPixel(x, y).ToRef(), PixelAt(store, pt.x, pt.y).ToRef()) << x << "," << y;
             }
@@ -114,21 +124,25 @@ class ToolBench : public testing::Test, private CCanvasHost, private CPaintHost,
     CWorkingImages m_images;
     CToolState m_tools;
     CRandomSequence m_random;
+    CEditor m_editor;
     CMySCrollView m_canvas;
+    CDrawGuest m_draw;
     std::vector<CPixels> m_arrSteps;  // the picture at each snapshot
-    bool m_bNoMemory = false;
+    int m_nBoxes = 0;
     bool m_bSelectionCommands = false;
     bool m_bTimer = false;
 
   private:
     void OnCanvasPainted() override {}
     void OnPictureMenu() override {}
-    bool BeginChange() override {
-        if (m_bNoMemory) return false;
-        m_arrSteps.push_back(Committed());
-        return true;
+    void Tell(EEditEvent event) override {
+        if (event == EEditEvent::UndoPushed) m_arrSteps.push_back(m_images.m_stackUndo.Top().image.Pixels());
+        if (event == EEditEvent::SelectionMade) m_bSelectionCommands = true;
     }
-    void EnableSelectionCommands(bool bEnable) override { m_bSelectionCommands = bEnable; }
+    EBoxAnswer Show(const CMessageBox& /*box*/) override {
+        ++m_nBoxes;
+        return EBoxAnswer::Ok;
+    }
     void PickColor(bool bForeground, CColor color) override {
         (bForeground ? m_tools.m_crForeground : m_tools.m_crBackground) = color;
     }

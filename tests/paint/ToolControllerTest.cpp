@@ -92,7 +92,7 @@ TEST_F(ToolController, ZoomsAreOneTwoFourSix) {
     PressPanel(1, 60);
     m_controller.ResetZoom();
     EXPECT_EQ(std::pair(m_tools.m_nZoom, m_controller.Options().m_nOptZoom), std::pair(1, 0));
-    m_controller.EnterTool();
+    m_controller.EnterMagnifier();
     EXPECT_EQ(m_tools.m_nZoom, 1);
 }
 
@@ -188,11 +188,10 @@ TEST_F(ToolController, APaintSettlesTheTool) {
         m_controller.OnToolButton(nTool);
         const CPixels panel = m_client.Surface().Pixels();
         m_controller.ResetZoom();
-        m_controller.SetCurrentTool(kToolMagnifier);
-        m_controller.EnterTool();
+        m_controller.EnterMagnifier();
         m_client.FillRect(kPanel, {1, 2, 3});
         TakeCalls();
-        m_controller.OnPaintPanel();
+        m_controller.OnWindowPainted();
         const bool bOptions = nTool == 6 || nTool >= 8;
         EXPECT_EQ(m_tools.m_nTool, bOptions ? nTool : kToolMagnifier);
         EXPECT_EQ(m_controller.Panel(), nTool - 1);
@@ -212,7 +211,7 @@ TEST_F(ToolController, APaintSettlesTheTool) {
 
 TEST_F(ToolController, TheFirstEntryFindsAnEmptyPanel) {
     EXPECT_EQ(m_tools.m_nTool, kToolSelectRect);
-    m_controller.OnPaintPanel();
+    m_controller.OnWindowPainted();
     EXPECT_EQ(TakeCalls(), "");
     EXPECT_EQ(At(200, 380), (CColor{0x90, 0x97, 0x97}));
     EXPECT_FALSE(PressPanel(30, 30));
@@ -249,13 +248,13 @@ TEST_F(ToolController, ColoursComeFromTheDialog) {
     EXPECT_EQ(m_tools.m_crForeground, (CColor{10, 11, 12}));
     EXPECT_EQ(TakeCalls(), "");
     // The wells show what is chosen.
-    m_controller.OnPaintPanel();
+    m_controller.OnWindowPainted();
     EXPECT_EQ(At(230, 510), (CColor{10, 11, 12}));
     EXPECT_EQ(At(248, 528), (CColor{7, 8, 9}));
 }
 
 TEST_F(ToolController, ThePickerShowsItsFindAtOnce) {
-    m_controller.OnPaintPanel();
+    m_controller.OnWindowPainted();
     m_controller.PickColor(true, {9, 8, 7});
     EXPECT_EQ(At(230, 510), (CColor{9, 8, 7}));
     m_controller.PickColor(false, {6, 5, 4});

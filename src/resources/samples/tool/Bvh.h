@@ -30,21 +30,21 @@ class CBvh {
     struct CNode {
         CVec3 low;
         CVec3 high;
-        std::uint32_t
-            nFirst;  // of a leaf: its first triangle; else the second child (the first stands behind)
-        std::uint32_t nCount;  // 0 for a node with children
+        // Of a leaf its first triangle; else the second child (the first stands behind).
+        std::uint32_t nFirst = 0;
+        std::uint32_t nCount = 0;  // 0 for a node with children
     };
     struct CPiece {
         CVec3 low;
         CVec3 high;
-        std::uint32_t nTriangle;
+        std::uint32_t nTriangle = 0;
         CVec3 Centre() const { return (low + high) * 0.5F; }
     };
     struct CFlat {
         CVec3 a;
         CVec3 ab;
         CVec3 ac;
-        std::uint32_t nTriangle;
+        std::uint32_t nTriangle = 0;
     };
     struct CSplit {
         int nAxis;

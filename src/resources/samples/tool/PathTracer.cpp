@@ -12,9 +12,9 @@ constexpr float kFireflyLimit = 8;
 struct CHit {
     CSpot spot;
     CVec3 facet;  // normal of the flat triangle, towards the viewer
-    float t;
-    bool bFront;
-    std::uint32_t nMaterial;
+    float t = 0;
+    bool bFront = false;
+    std::uint32_t nMaterial = 0;
 };
 
 // What a path carries on its way.

@@ -4,12 +4,12 @@
 
 // One of the sample photographs: how large it is, how it is taken and developed, how finely it is kept.
 struct CPicture {
-    const char* pszName;  // of the file, without extension
-    int nWidth;
-    int nHeight;
-    int nJpegQuality;
-    int nFineness;  // light paths (or samples) a pixel
-    CFilm (*pTake)(int nWidth, int nHeight, int nFineness);
+    const char* pszName = "";  // of the file, without extension
+    int nWidth = 0;
+    int nHeight = 0;
+    int nJpegQuality = 0;
+    int nFineness = 0;  // light paths (or samples) a pixel
+    CFilm (*pTake)(int nWidth, int nHeight, int nFineness) = nullptr;
     CLook look;
 };
 

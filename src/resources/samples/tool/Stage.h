@@ -14,7 +14,8 @@ struct CSpot {
     CVec3 position;
     CVec3 rest;    // the place on the unmoved thing, for textures
     CVec3 normal;  // smooth, towards the viewer
-    bool bClose;   // seen by the lens or in a mirror: small bumps show; else they need not be worked out
+    bool bClose =
+        false;  // seen by the lens or in a mirror: small bumps show; else they need not be worked out
 };
 struct CSurface {
     CVec3 crBody{0.5F, 0.5F, 0.5F};  // diffuse reflectance

@@ -10,8 +10,8 @@ float Hill(float x, float d, CVec2 at, CVec2 size, float fHeight) {
 
 struct CPeak {
     CVec2 at;
-    float fHeight;
-    float fFoot;
+    float fHeight = 0;
+    float fFoot = 0;
 };
 constexpr CPeak kPeaks[] = {{{-27, 116}, 39, 44}, {{3, 122}, 30, 36},  {{33, 126}, 34, 42},
                             {{-66, 128}, 31, 44}, {{70, 124}, 27, 40}, {{-45, 100}, 16, 26},

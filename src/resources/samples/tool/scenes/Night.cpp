@@ -130,11 +130,11 @@ void AddLanterns(CStage& stage) {
 
 // The image of a lamp that the lens does not hold sharp, in pixels.
 struct CDisk {
-    float cx;
-    float cy;
-    float fRadius;
+    float cx = 0;
+    float cy = 0;
+    float fRadius = 0;
     CVec3 crLight;
-    bool bInWater;
+    bool bInWater = false;
 };
 
 // How bright the disk is at a place given in its own radii; a lens draws the rim a little brighter.

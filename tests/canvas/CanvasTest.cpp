@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "paint/MySCrollView.h"
+#include "canvas/MySCrollView.h"
 #include "support/Pictures.h"
 
 namespace {
@@ -8,33 +8,39 @@ namespace {
 constexpr CColor kGround = CMySCrollView::kGround;
 constexpr CColor kFrame{0, 0, 0};
 
-class Canvas : public testing::Test, public CCanvasHost, public CPaintHost, CTimers {
-  protected:
-    Canvas() : m_canvas({m_state, m_images, m_tools, *this, *this, *this, m_random}) {}
+// Draws the working image, and keeps what it hears.
+class CGuest : public CCanvasGuest {
+  public:
+    explicit CGuest(const CWorkingImages& images) : m_images(images) {}
+    CSize PictureSize() const override { return m_images.m_imgWork.GetSize(); }
+    void OnDraw(CSurface& surface, CPoint pt) override {
+        surface.DrawPixels(m_images.m_imgWork.Pixels(), pt.x, pt.y);
+    }
+    void OnMouse(const CMouseEvent& event) override { m_pt = event.pt; }
+    void OnTimer(int nTimer) override { m_nTimer = nTimer; }
 
-    bool BeginChange() override { return true; }
-    void EnableSelectionCommands(bool) override {}
-    void PickColor(bool, CColor) override {}
-    void SetTimer(CTimerTarget&, int, int) override {}
-    void KillTimer(CTimerTarget&, int) override {}
+    CPoint m_pt;
+    int m_nTimer = 0;
+
+  private:
+    const CWorkingImages& m_images;
+};
+
+class Canvas : public testing::Test, public CCanvasHost {
+  protected:
+    Canvas() : m_guest(m_images), m_canvas({m_state, m_images, *this}) {}
 
     void OnCanvasPainted() override { ++m_nPainted; }
     void OnPictureMenu() override { ++m_nMenus; }
 
-    void Open(CSize size, bool bDraw) {
+    void Open(CSize size, bool bGuest) {
         // No colour of the picture is that of the ground or of the frame.
         m_images.TakePicture(NumberedImage(size.cx, size.cy, 200));
-        m_images.SetDisplaySize(size);
         m_state.m_bImageOpen = true;
-        m_state.m_bDrawMode = bDraw;
-        if (bDraw) {
-            // What shows in DRAW are the canvas's own pixels.
-            m_canvas.LoadPicture(*m_images.m_pImgWork);
-            PaintOver(*m_images.m_pImgDisplay, {5, 5, 5});
-        } else {
-            m_canvas.OnInitialUpdate();
-            PaintOver(*m_images.m_pImgWork, {5, 5, 5});
-        }
+        m_canvas.SetGuest(bGuest ? &m_guest : nullptr);
+        // The guest shows the working image, the canvas alone the display image.
+        (bGuest ? m_images.m_imgDisplay : m_images.m_imgWork) = FlatImage(3, 3, {5, 5, 5});
+        m_canvas.OnInitialUpdate();
     }
 
     // Ground, frame just outside the picture, and the picture with its corner at pt.
@@ -55,8 +61,7 @@ class Canvas : public testing::Test, public CCanvasHost, public CPaintHost, CTim
 
     CEditState m_state;
     CWorkingImages m_images;
-    CToolState m_tools;
-    CRandomSequence m_random;
+    CGuest m_guest;
     CMySCrollView m_canvas;
     int m_nPainted = 0;
     int m_nMenus = 0;
@@ -78,10 +83,10 @@ TEST_F(Canvas, ShowsThePictureCentredOrScrolled) {
         {{100, 700}, {0, 33}, {271, -33}},  // a bar at the right leaves 643 columns
         {{1000, 900}, {0, 0}, {0, 0}},     {{1000, 900}, {357, 373}, {-357, -373}},
     };
-    for (const bool bDraw : {false, true})
+    for (const bool bGuest : {false, true})
         for (const auto& row : kCases) {
-            SCOPED_TRACE(std::to_string(row.size.cx) + (bDraw ? " in DRAW" : ""));
-            Open(row.size, bDraw);
+            SCOPED_TRACE(std::to_string(row.size.cx) + (bGuest ? " of a guest" : ""));
+            Open(row.size, bGuest);
             EXPECT_EQ(m_canvas.ScrollSizes(), row.size);
             m_canvas.ScrollTo(row.ptScroll);
             EXPECT_EQ(m_canvas.ScrollPosition(), row.ptScroll);
@@ -100,7 +105,7 @@ TEST_F(Canvas, TellsItsHostOfEachPaint) {
     EXPECT_EQ(m_nPainted, 1);
     m_canvas.Paint();
     EXPECT_EQ(m_nPainted, 1);
-    m_canvas.Repaint();
+    m_canvas.Invalidate();
     m_canvas.Paint();
     EXPECT_EQ(m_nPainted, 2);
 }
@@ -115,19 +120,34 @@ TEST_F(Canvas, AsksForTheMenuOnARightPressOnly) {
     m_canvas.OnMouse({EMouseAction::Release, EMouseButton::Right, {5, 5}, 0});
     m_canvas.OnMouse({EMouseAction::Press, EMouseButton::Left, {5, 5}, kMouseLeftDown});
     m_canvas.OnMouse({EMouseAction::DoubleClick, EMouseButton::Right, {5, 5}, kMouseRightDown});
-    m_state.m_bFontMode = true;
-    m_canvas.OnMouse(press);
-    m_state.m_bFontMode = false;
-    m_state.m_bDrawMode = true;
-    m_canvas.OnMouse(press);
     EXPECT_EQ(m_nMenus, 1);
 }
 
-// The paper is a picture of its own: writing on the image that it came from is not seen on it.
-TEST_F(Canvas, KeepsItsOwnPicture) {
-    Open({50, 40}, true);
-    PaintOver(*m_images.m_pImgWork, {9, 9, 9});
-    EXPECT_EQ(m_canvas.CommittedPixels(), NumberedPixels(50, 40, 200));
-    EXPECT_EQ(m_canvas.Paper().Scratch().Pixels(), NumberedPixels(50, 40, 200));
-    EXPECT_EQ(m_canvas.Origin(), (CPoint{304, 251}));
+// Mouse and timers are the guest's as long as it stays; the canvas lets it draw at once, but for a paint to
+// come.
+TEST_F(Canvas, HandsMouseTimersAndDrawingToItsGuest) {
+    m_canvas.SetGuest(&m_guest);
+    const CMouseEvent press{EMouseAction::Press, EMouseButton::Right, {7, 5}, kMouseRightDown};
+    m_canvas.OnMouse(press);
+    EXPECT_EQ(m_guest.m_pt, CPoint{});
+    Open({40, 30}, true);
+    m_canvas.OnMouse(press);
+    m_canvas.OnTimer(3);
+    EXPECT_EQ(m_guest.m_pt, press.pt);
+    EXPECT_EQ(m_guest.m_nTimer, 3);
+    EXPECT_EQ(m_nMenus, 0);
+
+    int nDrawn = 0;
+    const auto draw = [&](CSurface& surface) {
+        surface.SetPixel(2, 3, {9, 9, 9});
+        ++nDrawn;
+        return CRect{2, 3, 3, 4};
+    };
+    m_canvas.DrawNow(draw);
+    EXPECT_EQ(nDrawn, 0);
+    m_canvas.Paint();
+    m_canvas.TakeDamage();
+    m_canvas.DrawNow(draw);
+    EXPECT_EQ(m_canvas.TakeDamage(), (CRect{2, 3, 3, 4}));
+    EXPECT_EQ(m_canvas.Surface().GetPixel(2, 3), (CColor{9, 9, 9}));
 }

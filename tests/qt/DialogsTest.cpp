@@ -87,12 +87,7 @@ TEST(Timers, RunUntilKilledAndStartAnew) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return arrTicks.size() == 3; }, 2000));
     QTest::qWait(30);
     EXPECT_EQ(arrTicks, (std::vector{3, 4, 3}));
-}
-
-// An idle program does not run its timers faster than the shortest period, a first tick at once included.
-TEST(Timers, KeepTheShortestPeriod) {
-    CTestPlatform test;
-    CTestDialog dialog(kDialog);
+    // An idle program runs no timer faster than the shortest period, a first tick at once included.
     int nTicks = 0;
     dialog.m_fnTimer = [&](int) { ++nTicks; };
     QElapsedTimer clock;
@@ -100,6 +95,7 @@ TEST(Timers, KeepTheShortestPeriod) {
     test.platform.timers.SetTimer(dialog, 1, 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return nTicks >= 15; }, 5000));
     EXPECT_GE(clock.elapsed(), 14 * CTimers::kLeastPeriod);
+    test.platform.timers.KillTimer(dialog, 1);
 }
 
 TEST(Timers, EndWithTheirDialog) {
@@ -125,37 +121,27 @@ TEST(Timers, EndWithTheirDialog) {
 
 TEST(MessageBoxes, ShowTextToTheLetterAndAnswer) {
     CTestPlatform test;
+    using enum EBoxButtons;
     struct CCase {
         EBoxButtons buttons;
         EBoxIcon icon;
         const char* szPress;  // caption, or empty to close the box by Esc
         EBoxAnswer answer;
-        QStringList arrCaptions;
-        QMessageBox::Icon iconQt;
     };
     const CCase arrCases[] = {
-        {EBoxButtons::Ok, EBoxIcon::None, "确定", EBoxAnswer::Ok, {"确定"}, QMessageBox::NoIcon},
-        {EBoxButtons::Ok, EBoxIcon::Stop, "", EBoxAnswer::Ok, {"确定"}, QMessageBox::Critical},
-        {EBoxButtons::OkCancel,
-         EBoxIcon::Information,
-         "确定",
-         EBoxAnswer::Ok,
-         {"取消", "确定"},
-         QMessageBox::Information},
-        {EBoxButtons::OkCancel,
-         EBoxIcon::Exclamation,
-         "",
-         EBoxAnswer::Cancel,
-         {"取消", "确定"},
-         QMessageBox::Warning},
-        {EBoxButtons::YesNo,
-         EBoxIcon::Exclamation,
-         "是",
-         EBoxAnswer::Yes,
-         {"否", "是"},
-         QMessageBox::Warning},
-        {EBoxButtons::YesNo, EBoxIcon::Exclamation, "", EBoxAnswer::No, {"否", "是"}, QMessageBox::Warning},
+        {Ok, EBoxIcon::None, "确定", EBoxAnswer::Ok},
+        {Ok, EBoxIcon::Stop, "", EBoxAnswer::Ok},
+        {OkCancel, EBoxIcon::Information, "确定", EBoxAnswer::Ok},
+        {OkCancel, EBoxIcon::Exclamation, "", EBoxAnswer::Cancel},
+        {YesNo, EBoxIcon::Exclamation, "是", EBoxAnswer::Yes},
+        {YesNo, EBoxIcon::Exclamation, "", EBoxAnswer::No},
     };
+    const std::map<EBoxButtons, QStringList> mapCaptions = {
+        {Ok, {"确定"}}, {OkCancel, {"取消", "确定"}}, {YesNo, {"否", "是"}}};
+    const std::map<EBoxIcon, QMessageBox::Icon> mapIcons = {{EBoxIcon::None, QMessageBox::NoIcon},
+                                                            {EBoxIcon::Stop, QMessageBox::Critical},
+                                                            {EBoxIcon::Information, QMessageBox::Information},
+                                                            {EBoxIcon::Exclamation, QMessageBox::Warning}};
     const std::string strText = "\n<b>'照片' & 100%</b>\n\n";
     for (const CCase& one : arrCases) {
         Later([&] {
@@ -164,7 +150,7 @@ TEST(MessageBoxes, ShowTextToTheLetterAndAnswer) {
             EXPECT_EQ(pBox->text().toStdString(), strText);
             EXPECT_EQ(pBox->textFormat(), Qt::PlainText);
             EXPECT_EQ(pBox->windowTitle(), "标题");
-            EXPECT_EQ(pBox->icon(), one.iconQt);
+            EXPECT_EQ(pBox->icon(), mapIcons.at(one.icon));
             QStringList arrCaptions;
             QAbstractButton* pPress = nullptr;
             for (QAbstractButton* pButton : pBox->buttons()) {
@@ -172,7 +158,7 @@ TEST(MessageBoxes, ShowTextToTheLetterAndAnswer) {
                 if (pButton->text() == one.szPress) pPress = pButton;
             }
             arrCaptions.sort();
-            EXPECT_EQ(arrCaptions, one.arrCaptions);
+            EXPECT_EQ(arrCaptions, mapCaptions.at(one.buttons));
             if (pPress != nullptr)
                 pPress->click();
             else

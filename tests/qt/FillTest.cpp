@@ -91,36 +91,3 @@ TEST_F(Fill, PaintsAndScrollsMeanwhile) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     for (int i = 0; i < kFiles; ++i) ASSERT_FALSE(m_dialog.Thum().List().Model().Picture(i).IsEmpty()) << i;
 }
-
-TEST_F(Fill, AModeChangeEndsItAndTheReturnBeginsItAnew) {
-    CWatch watch(*List().viewport());
-    RunUntilPainted(watch, 3);
-    ASSERT_TRUE(IsFilling());
-    QTest::mouseClick(m_view.WidgetOf(kTabEffect), Qt::LeftButton);
-    EXPECT_FALSE(IsFilling());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    EXPECT_FALSE(m_view.WidgetOf(kProgress)->isVisible());
-    QTest::mouseClick(m_view.WidgetOf(kTabThum), Qt::LeftButton);
-    EXPECT_TRUE(IsFilling());
-    EXPECT_TRUE(List().isVisible());
-    // A click on another node ends it as well.
-    m_dialog.Thum().Tree().Model().Select(
-        m_dialog.Thum()
-            .Tree()
-            .Model()
-            .Children(m_dialog.Thum().Tree().Model().Children(kNoTreeItem).front())
-            .back());
-    while (IsFilling()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    EXPECT_EQ(List().model()->rowCount(), 1) << "the folder itself, seen from the drive";
-}
-
-TEST_F(Fill, TheWindowClosesInTheMiddle) {
-    CWatch watch(*List().viewport());
-    RunUntilPainted(watch, 3);
-    ASSERT_TRUE(IsFilling());
-    m_view.close();
-    EXPECT_TRUE(m_dialog.HasEnded());
-    m_dialog.OnDestroy();
-    EXPECT_FALSE(IsFilling());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}

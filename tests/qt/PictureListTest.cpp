@@ -173,18 +173,6 @@ TEST_F(PictureList, OnlyThePlainLeftButtonAndKeysCountAndARowStaysChosen) {
     EXPECT_EQ(Selected(), 2) << "there is no rim without a choice";
 }
 
-TEST_F(PictureList, TheFocusGivenAgainPaintsNothing) {
-    m_shown.dialog.Controls().SetFocus(1041);
-    QCoreApplication::processEvents();
-    CPaintWatch watch(*View()->viewport());
-    m_shown.dialog.Controls().SetFocus(1041);
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(watch.m_region.isEmpty());
-    m_shown.dialog.Controls().SetFocus(42);
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(watch.m_region.isEmpty()) << "the rim goes";
-}
-
 TEST_F(PictureList, TheWheelScrollsByRows) {
     Wheel(-120);
     EXPECT_EQ(PictureAt(1), 230);

@@ -62,7 +62,7 @@ class Screen : public MainWindow {
         return qRgb(color.r, color.g, color.b);
     }
     QRgb DisplayPixel(int x, int y) {
-        const CColor color = PixelAt(m_dialog.Images().m_pImgDisplay->Pixels(), x, y);
+        const CColor color = PixelAt(m_dialog.Images().m_imgDisplay.Pixels(), x, y);
         return qRgb(color.r, color.g, color.b);
     }
     void ChooseEffect(int nRow) {

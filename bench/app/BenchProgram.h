@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <filesystem>
 #include <random>
 
@@ -20,7 +21,7 @@ class CBenchProgram {
         CxImage image(kWidth, kHeight);
         std::minstd_rand random(1);
         for (std::uint8_t& byte : image.MutableBytes()) byte = static_cast<std::uint8_t>(random());
-        image.Save((folder / "fotarium-bench.bmp").string(), ImageType::kBmp);
+        if (!image.Save((folder / "fotarium-bench.bmp").string(), ImageType::kBmp)) std::abort();
         m_dialog.OpenFileByName(folder.string(), "fotarium-bench.bmp");
         std::filesystem::remove(folder / "fotarium-bench.bmp");
         m_host.Pump();

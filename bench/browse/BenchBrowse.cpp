@@ -49,10 +49,10 @@ std::string MakeFolder(const char* szName, CSize size, unsigned nFiles, unsigned
     fs::create_directories(folderNew);
     const auto path = [&](unsigned n) { return folderNew / ("photo" + std::to_string(n) + ".jpg"); };
     for (unsigned n = 0; n < nFiles; ++n) {
-        if (n < nDifferent)
-            MakePicture(size, n).Save(path(n).string(), ImageType::kJpeg);
-        else
+        if (n >= nDifferent)
             fs::create_hard_link(path(n % nDifferent), path(n));
+        else if (!MakePicture(size, n).Save(path(n).string(), ImageType::kJpeg))
+            std::abort();
     }
     fs::rename(folderNew, folder);
     return folder.string();

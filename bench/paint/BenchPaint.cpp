@@ -21,10 +21,7 @@ class CBenchCanvas : private CCanvasHost,
         : m_editor({m_images, *this, *this}),
           m_canvas({m_state, m_images, *this}),
           m_draw({m_images, m_tools, m_canvas, m_editor, *this, *this, *this, m_random}) {
-        CPixels pixels;
-        pixels.CreateFilled(size.cx, size.cy, {255, 255, 255});
-        CxImage image;
-        image.CreateFromHBITMAP(std::move(pixels));
+        const CxImage image(CPixels::MakeFilled(size.cx, size.cy, {255, 255, 255}));
         m_images.TakePicture(image);
         m_state.m_bImageOpen = true;
         m_state.m_nMode = EMode::Draw;
@@ -140,9 +137,7 @@ void FloatDrag(benchmark::State& state) {
     CBenchCanvas& canvas = Canvas(state.range(0) != 0);
     CSelection& selection = canvas.Draw().Selection();
     selection.m_region = CRegion::MakeEllipse({100, 100, 401, 401});
-    CPixels pixels;
-    pixels.CreateFilled(300, 300, {0, 0, 200});
-    selection.m_imgFloat.CreateFromHBITMAP(std::move(pixels));
+    selection.m_imgFloat = CxImage(CPixels::MakeFilled(300, 300, {0, 0, 200}));
     selection.SetFloating(true);
     canvas.Select(ETool::Float);
     canvas.Mouse(EMouseAction::Press, {200, 200});
@@ -184,8 +179,7 @@ BENCHMARK(Fill)->Unit(benchmark::kMicrosecond);
 
 // What Fill is measured against.
 void PlainPass(benchmark::State& state) {
-    CPixels pixels;
-    pixels.Create(4000, 3000);
+    CPixels pixels = CPixels::MakeFilled(4000, 3000, {});
     for (auto _ : state) {
         for (std::uint8_t& byte : pixels.MutableBytes()) byte = static_cast<std::uint8_t>(255 - byte);
         benchmark::ClobberMemory();

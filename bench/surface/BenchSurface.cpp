@@ -93,7 +93,7 @@ void FloodFill(benchmark::State& state, Ground kind) {
     for (auto _ : state) {
         state.PauseTiming();
         CPixels pixels = ground.Pixels();
-        pixels.Separate();
+        if (!pixels.Separate()) return state.SkipWithError("no memory");
         CSurface surface(std::move(pixels));
         surface.SelectBrush(CBrush::Solid(kInk));
         state.ResumeTiming();

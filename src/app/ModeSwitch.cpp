@@ -23,7 +23,7 @@ bool CModeSwitch::ChangeMode(EMode mode) {
         // Into THUM the float goes with the canvas.
         if (mode == EMode::Thum && !m_env.draw.PrepareDrop()) return false;
     }
-    Leave();
+    Leave(mode);
     static_cast<CEditPictures&>(m_env.images) = std::move(next);
     m_env.state.m_nMode = mode;
     m_env.canvas.SetGuest(mode == EMode::Draw ? &m_env.draw : nullptr);
@@ -49,13 +49,15 @@ bool CModeSwitch::ChangeMode(EMode mode) {
 
 // A fill of the file list ends here: the list is read anew on the way back. A preview that waits for CONFIRM
 // is dropped: the working image never held it.
-void CModeSwitch::Leave() {
+void CModeSwitch::Leave(EMode modeNext) {
     m_env.thum.List().StopFill();
     m_env.effects.DropPreview();
     m_env.effects.BlankReadout();
     m_env.textArt.ForgetBase();
     if (!m_env.state.IsUp(EMode::Draw)) return;
-    m_env.draw.DropFloat();
+    // A float has gone along into the working image; for THUM, which fetches nothing, it goes with the paper.
+    if (modeNext == EMode::Thum) m_env.draw.DropFloat();
+    m_env.draw.ForgetFloat();
     m_env.draw.Leave();
 }
 

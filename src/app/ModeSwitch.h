@@ -41,7 +41,7 @@ class CModeSwitch {
 
   private:
     bool MakePictures(EMode mode, CEditPictures& next) const;
-    void Leave();
+    void Leave(EMode modeNext);
     void EnterThum();
     void EnterDraw();
 

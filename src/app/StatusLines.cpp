@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "image/ImageHead.h"
 #include "resources/Ids.h"
 #include "resources/Texts.h"
 
@@ -68,10 +69,10 @@ void CStatusLines::ShowFileInfo(const std::string& strPath, EFileInfo kind) {
 void CStatusLines::ShowPicture(const std::string& strPath) {
     const std::string strName = NameOf(strPath);
     if (GetFileExtension(strName).empty()) return;
-    const CxImage image(strPath, FindImageTypeOfName(strName));
+    const CImageHead head = ReadImageHead(strPath, FindImageTypeOfName(strName));
     m_controls.SetText(kBrowseName, std::string(kWordName) + ": " + PadColumns(strName, 100));
-    m_controls.SetText(kBrowseSize, FormatSize(image.GetWidth(), image.GetHeight()));
-    m_controls.SetText(kBrowseDepth, FormatDepth(image.IsValid() ? image.GetBpp() : 0));
+    m_controls.SetText(kBrowseSize, FormatSize(head.size.cx, head.size.cy));
+    m_controls.SetText(kBrowseDepth, FormatDepth(head.nBpp));
 }
 
 void CStatusLines::SetHelp(int nCode) {

@@ -57,10 +57,11 @@ void CPicFileList::FillThumbnails() {
     StopFill();
     m_env.controls.SetPosition(kProgress, 0);
     m_env.events.Tell(EEditEvent::FillBegun);
-    m_env.folders.SetCurrentFolder(m_strPath);
+    // What cannot be entered has nothing that could be shown.
+    const bool bEntered = m_env.folders.SetCurrentFolder(m_strPath);
     m_arrFolders.clear();
     m_arrFiles.clear();
-    for (CFolderEntry& entry : ReadFolder(m_strPath)) {
+    for (CFolderEntry& entry : bEntered ? ReadFolder(m_strPath) : std::vector<CFolderEntry>()) {
         if (entry.bFolder)
             m_arrFolders.push_back(std::move(entry.strName));
         else if (TypeOf(entry.strName) == ImageType::kJpeg)
@@ -151,7 +152,8 @@ void CPicFileList::OnItemClick(int nItem) {
 
 void CPicFileList::OnItemDoubleClick(int nItem) {
     if (nItem < 0 || nItem >= m_model.Count()) return;
-    m_env.folders.SetCurrentFolder(m_strPath);
+    // The whole folder has gone meanwhile.
+    if (!m_env.folders.SetCurrentFolder(m_strPath)) return FillThumbnails();
     const std::string strName = m_model.Text(nItem);
     if (IsPicture(strName))
         m_env.host.OpenPicture(m_strPath, strName);
@@ -174,7 +176,7 @@ void CPicFileList::StepIntoFolder(const std::string& strName) {
 void CPicFileList::OnEnter() {
     const std::vector<int> arrItems = m_model.SelectedItems();
     if (arrItems.size() != 1) return;
-    m_env.folders.SetCurrentFolder(m_strPath);
+    if (!m_env.folders.SetCurrentFolder(m_strPath)) return FillThumbnails();
     m_env.shell.Open(PathOf(m_model.Text(arrItems.front())));
 }
 

@@ -15,9 +15,9 @@ void CImageListBox::ReplaceCell(int nCell, const std::string& strPicture) {
     ShowRows();
 }
 
-int CImageListBox::AddItem(int nImage, std::uint32_t dwData) {
+int CImageListBox::AddItem(int nImage, std::uint32_t dwData, std::string strSpoken) {
     if (nImage > static_cast<int>(m_arrCells.size())) return -1;
-    m_arrRows.push_back({nImage, dwData});
+    m_arrRows.push_back({nImage, dwData, std::move(strSpoken)});
     ShowRows();
     return Count() - 1;
 }
@@ -42,8 +42,8 @@ void CImageListBox::ShowRows() {
     std::vector<CListItem> arrItems;
     for (const CRow& row : m_arrRows) {
         const bool bHasCell = row.nImage >= 0 && row.nImage < static_cast<int>(m_arrCells.size());
-        arrItems.push_back(
-            {bHasCell ? m_arrCells[static_cast<std::size_t>(row.nImage)] : std::string(), row.nImage});
+        arrItems.push_back({bHasCell ? m_arrCells[static_cast<std::size_t>(row.nImage)] : std::string(),
+                            row.nImage, row.strSpoken});
     }
     m_controls.SetItems(m_nId, std::move(arrItems));
 }

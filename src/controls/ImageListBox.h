@@ -21,7 +21,8 @@ class CImageListBox {
 
     // Adds a row that shows the cell; a cell of the number of cells passes, and shows nothing until there is
     // one. The row's index; -1 for a cell beyond that.
-    int AddItem(int nImage, std::uint32_t dwData);
+    // strSpoken: what the row's picture shows, for whoever has it read aloud.
+    int AddItem(int nImage, std::uint32_t dwData, std::string strSpoken = {});
     // -1 if the row does not exist.
     std::int64_t GetItemData(int nRow) const;
     // False if the row does not exist.
@@ -38,6 +39,7 @@ class CImageListBox {
     struct CRow {
         int nImage = -1;
         std::uint32_t dwData = 0;
+        std::string strSpoken{};
     };
     void ShowRows();
 

@@ -154,9 +154,3 @@ void CSizeChangeDlg::OnOk() {
     }
     EndDialog(kDialogOk);
 }
-
-bool CSizeChangeDlg::OnKey(const CKeyEvent& event) {
-    if (event.nKey != kKeyEnter) return false;
-    OnOk();
-    return true;
-}

@@ -17,7 +17,6 @@ class CSizeChangeDlg : public CDialog {
     void OnInitDialog() override;
     void OnCommand(int nId) override;
     void OnNotify(int nId, ENotice notice) override;
-    bool OnKey(const CKeyEvent& event) override;
 
   protected:
     void OnPaint(CClientArea& client) override;

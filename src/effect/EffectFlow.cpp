@@ -36,7 +36,7 @@ void CEffectFlow::Init() {
     arrCells.reserve(kEffectCount);
     for (int i = 0; i < kEffectCount; ++i) arrCells.push_back(NormalPicture(i));
     m_list.SetImageList(std::move(arrCells), kListCell);
-    for (int i = 0; i < kEffectCount; ++i) m_list.AddItem(i, 0);
+    for (int i = 0; i < kEffectCount; ++i) m_list.AddItem(i, 0, RowOf(i).szLabel);
 }
 
 void CEffectFlow::RestSlider() {

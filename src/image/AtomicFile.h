@@ -19,14 +19,14 @@ class CAtomicFile {
 
     // False if the folder does not exist or cannot be written, or if the target is no ordinary file or
     // protected.
-    bool Open(const std::string& strPath);
+    [[nodiscard]] bool Open(const std::string& strPath);
     // False if the disk is full or fails. Many small pieces are slow: there is no buffer here.
-    bool Write(std::span<const std::uint8_t> bytes);
+    [[nodiscard]] bool Write(std::span<const std::uint8_t> bytes);
     // Brings the bytes to the disk and gives the file its name.
-    bool Commit();
+    [[nodiscard]] bool Commit();
 
   private:
-    bool TakeOverRights(const std::string& strTarget);
+    [[nodiscard]] bool TakeOverRights(const std::string& strTarget);
 
     int m_nFile = -1;
     std::string m_strTarget;

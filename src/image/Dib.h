@@ -13,7 +13,7 @@
 
 // Reads uncompressed pictures of 1, 4, 8, 16, 24 and 32 bits and those of 16 and 32 bits with masks. Nothing
 // for another kind, for sizes that contradict each other and for a block that is too short.
-std::optional<CPixels> ReadDib(std::span<const std::uint8_t> dib);
+[[nodiscard]] std::optional<CPixels> ReadDib(std::span<const std::uint8_t> dib);
 
 // Writes 24 bits uncompressed. Empty if the pixels are or if memory is short.
-std::vector<std::uint8_t> WriteDib(const CPixels& pixels);
+[[nodiscard]] std::vector<std::uint8_t> WriteDib(const CPixels& pixels);

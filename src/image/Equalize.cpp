@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "image/ColorSpace.h"
-#include "image/VectorClones.h"
+#include "image/CpuChoice.h"
 
 namespace {
 
@@ -23,8 +23,7 @@ std::array<std::uint64_t, 256> CountGreys(CConstPixelView view) {
 constexpr std::size_t kBlock = 512;
 using CChannel = std::array<std::uint8_t, kBlock>;
 
-FOTARIUM_VECTOR_CLONES
-void EqualizeBlock(std::uint8_t* pPixels, std::size_t nPixels, const CEqualLevels& levels) {
+FOTARIUM_INLINE void EqualizeBody(std::uint8_t* pPixels, std::size_t nPixels, const CEqualLevels& levels) {
     CChannel a{};
     CChannel b{};
     CChannel c{};
@@ -53,6 +52,14 @@ void EqualizeBlock(std::uint8_t* pPixels, std::size_t nPixels, const CEqualLevel
     }
 }
 
+void EqualizePlain(std::uint8_t* pPixels, std::size_t nPixels, const CEqualLevels& levels) {
+    EqualizeBody(pPixels, nPixels, levels);
+}
+
+FOTARIUM_AVX2 void EqualizeWide(std::uint8_t* pPixels, std::size_t nPixels, const CEqualLevels& levels) {
+    EqualizeBody(pPixels, nPixels, levels);
+}
+
 }  // namespace
 
 std::optional<CEqualLevels> EqualLevels(const std::array<std::uint64_t, 256>& greyCounts) {
@@ -72,9 +79,10 @@ std::optional<CEqualLevels> EqualLevels(const std::array<std::uint64_t, 256>& gr
 void EqualizeHistogram(CPixelView view) {
     const std::optional<CEqualLevels> levels = EqualLevels(CountGreys(view));
     if (!levels) return;
+    const auto equalize = UseAvx2() ? EqualizeWide : EqualizePlain;
     const std::size_t nPixels =
         static_cast<std::size_t>(view.nWidth) * static_cast<std::size_t>(view.nHeight);
     for (std::size_t i = 0; i < nPixels; i += kBlock) {
-        EqualizeBlock(view.pBits + 3 * i, std::min(kBlock, nPixels - i), *levels);
+        equalize(view.pBits + 3 * i, std::min(kBlock, nPixels - i), *levels);
     }
 }

@@ -6,4 +6,4 @@
 
 // Reads a whole regular file. Empty if strPath is a folder, a pipe or a device, has no bytes or more than 2
 // GiB, cannot be read, or is no path at all.
-CSharedBytes ReadFileBytes(const std::string& strPath);
+[[nodiscard]] CSharedBytes ReadFileBytes(const std::string& strPath);

@@ -60,7 +60,7 @@ CxImage::CxImage(const std::string& strPath, ImageType type) : m_type(type) {
 }
 
 CxImage::CxImage(int nWidth, int nHeight, int nBits, ImageType type) {
-    Create(nWidth, nHeight, nBits, type);
+    if (IsBitDepth(nBits) && m_pixels.Create(nWidth, nHeight)) m_type = type;
 }
 
 bool CxImage::Create(int nWidth, int nHeight, int nBits, ImageType type) {

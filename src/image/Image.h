@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "image/Color.h"
@@ -31,27 +32,29 @@ class CxImage {
     // size. Of a file with several pictures the first is taken. A folder, a pipe, an empty or a cut file is
     // not valid.
     CxImage(const std::string& strPath, ImageType type);
-    // A black picture; see Create.
+    // A picture that shares these pixels, without alpha; empty if they are.
+    explicit CxImage(CPixels pixels) : m_pixels(std::move(pixels)) {}
+    // A black picture; see Create. Empty if that failed.
     CxImage(int nWidth, int nHeight, int nBits = 24, ImageType type = ImageType::kUnknown);
 
     // Makes this a black picture of that size. Pixels always have 24 bits here; nBits may be any of 1, 4, 8,
     // 16, 24 and 32. False, and nothing changes, if a side is not above 0, the pixels would take more than 2
     // GiB or the machine lacks the memory.
-    bool Create(int nWidth, int nHeight, int nBits = 24, ImageType type = ImageType::kUnknown);
+    [[nodiscard]] bool Create(int nWidth, int nHeight, int nBits = 24, ImageType type = ImageType::kUnknown);
     void Copy(const CxImage& src) { *this = src; }
     // Empties the picture, which stays usable.
     void Destroy();
 
     // A picture that shares these pixels, without alpha. False if they are empty.
-    bool CreateFromHBITMAP(CPixels pixels);
+    [[nodiscard]] bool CreateFromHBITMAP(CPixels pixels);
     // Takes a packed device-independent bitmap: header, masks, colour table and rows in one block, as a
     // clipboard holds it. Uncompressed with 1, 4, 8, 16, 24 or 32 bits, or with bit masks; rows from below or
     // from above. False, and nothing changes, for anything else and for a block that is shorter than its
     // header says.
-    bool CreateFromHANDLE(std::span<const std::uint8_t> dib);
+    [[nodiscard]] bool CreateFromHANDLE(std::span<const std::uint8_t> dib);
     // The picture as such a block: 24 bits, uncompressed, rows from below. Empty if the picture is not valid
     // or memory is short.
-    std::vector<std::uint8_t> CopyToHandle() const;
+    [[nodiscard]] std::vector<std::uint8_t> CopyToHandle() const;
 
     bool IsValid() const { return !m_pixels.IsEmpty(); }
     int GetWidth() const { return m_pixels.Width(); }
@@ -71,38 +74,38 @@ class CxImage {
     // The pixels, top row first. A copy of what Pixels returns shares them.
     const CPixels& Pixels() const { return m_pixels; }
     // The pixels to write, separated from every copy; empty if memory is short.
-    std::span<std::uint8_t> MutableBytes();
-    CPixelView MutableView();
+    [[nodiscard]] std::span<std::uint8_t> MutableBytes();
+    [[nodiscard]] CPixelView MutableView();
     // Takes other pixels of the same size and keeps the alpha. False, and nothing changes, for another size.
-    bool ReplacePixels(CPixels pixels);
+    [[nodiscard]] bool ReplacePixels(CPixels pixels);
 
     bool HasAlpha() const { return !m_alpha.IsEmpty(); }
     // A byte a pixel, 255 opaque, the top row first; empty without alpha.
     std::span<const std::uint8_t> Alpha() const { return {m_alpha.Data(), m_alpha.Size()}; }
     // Sets (a byte a pixel) or, with an empty span, removes the alpha. False for a wrong length or short
     // memory.
-    bool SetAlpha(std::span<const std::uint8_t> alpha);
+    [[nodiscard]] bool SetAlpha(std::span<const std::uint8_t> alpha);
 
     // Scales in place by taking the nearest pixel. nMode is the arithmetic; only 1, the fast one, exists. New
     // pixel (x, y) is old pixel (trunc(x * sx), trunc(y * sy)) with y counted from the bottom row in both
     // pictures and sx, sy = old side / new side in single precision. The same size changes nothing. False for
     // a side of 0 or less.
-    bool Resample(int nWidth, int nHeight, int nMode = 1);
+    [[nodiscard]] bool Resample(int nWidth, int nHeight, int nMode = 1);
     // Exact quarter turns: 90.0 clockwise (the left column becomes the top row), -90.0 the other way. False
     // for another angle.
-    bool Rotate(double fDegrees);
-    bool Rotate180();
+    [[nodiscard]] bool Rotate(double fDegrees);
+    [[nodiscard]] bool Rotate180();
     // Swaps left and right.
-    bool Mirror();
+    [[nodiscard]] bool Mirror();
     // Swaps top and bottom: Rotate180 and Mirror in one.
-    bool Flip();
+    [[nodiscard]] bool Flip();
     // Spreads the luminances over the whole range.
-    bool HistogramEqualize();
+    [[nodiscard]] bool HistogramEqualize();
 
     // Writes the picture as the format `type`. The file appears as a whole or not at all: on failure (no such
     // folder, no permission, a full disk, a format that cannot be written) an older file of that name is left
     // as it was.
-    bool Save(const std::string& strPath, ImageType type) const;
+    [[nodiscard]] bool Save(const std::string& strPath, ImageType type) const;
     // 1..100, for JPEG only. Values outside are limited.
     void SetJpegQuality(int nQuality);
     int GetJpegQuality() const { return m_nJpegQuality; }
@@ -133,7 +136,7 @@ class CxImage {
   private:
     using TurnCall = void (*)(const std::uint8_t* pSrc, std::uint8_t* pDst, int nWidth, int nHeight,
                               int nChannels);
-    bool TurnInto(TurnCall turn, CSize sizeNew);
+    [[nodiscard]] bool TurnInto(TurnCall turn, CSize sizeNew);
     bool IsInside(int x, int y) const { return x >= 0 && y >= 0 && x < GetWidth() && y < GetHeight(); }
 
     CPixels m_pixels;

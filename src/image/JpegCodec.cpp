@@ -46,6 +46,12 @@ CSize Upright(CSize size, int nOrientation) {
     return LiesOnItsSide(nOrientation) ? CSize{size.cy, size.cx} : size;
 }
 
+// Of a reader that has begun, before a scale is chosen.
+CImageHead HeadOf(const CReader& reader, int nOrientation) {
+    return {Upright(reader.OutputSize(), nOrientation),
+            reader.Info().jpeg_color_space == JCS_GRAYSCALE ? 8 : 24};
+}
+
 // A progressive file is decoded from the coefficients of the whole picture, two bytes each.
 std::uint64_t CoefficientBytes(const jpeg_decompress_struct& info) {
     if (!jpeg_has_multiple_scans(const_cast<j_decompress_ptr>(&info))) return 0;
@@ -114,8 +120,9 @@ std::optional<CJpegPicture> DecodeJpeg(std::span<const std::uint8_t> file, CSize
     const int nOrientation = Orientation(reader.Info());
 
     CJpegPicture picture;
-    picture.sizeFull = Upright(reader.OutputSize(), nOrientation);
-    picture.nBpp = reader.Info().jpeg_color_space == JCS_GRAYSCALE ? 8 : 24;
+    const CImageHead head = HeadOf(reader, nOrientation);
+    picture.sizeFull = head.size;
+    picture.nBpp = head.nBpp;
     // What is too large to be opened has no smaller picture either.
     if (!CPixels::Fits(picture.sizeFull.cx, picture.sizeFull.cy)) return std::nullopt;
     const bool bScaled = sizeAtLeast.cx > 0 && sizeAtLeast.cy > 0;
@@ -126,6 +133,11 @@ std::optional<CJpegPicture> DecodeJpeg(std::span<const std::uint8_t> file, CSize
     if (!JpegReadPixels(reader.Get(), picture.pixels.MutableView().pBits)) return std::nullopt;
     if (!StandUpright(picture.pixels, nOrientation)) return std::nullopt;
     return picture;
+}
+
+CImageHead ReadJpegHead(std::span<const std::uint8_t> file) {
+    CReader reader;
+    return reader.Begin(file) ? HeadOf(reader, Orientation(reader.Info())) : CImageHead();
 }
 
 bool EncodeJpeg(const CPixels& pixels, const CJpegSettings& settings, CAtomicFile& file) {

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "image/Geometry.h"
+#include "image/ImageHead.h"
 #include "image/Pixels.h"
 
 class CAtomicFile;
@@ -21,7 +22,11 @@ struct CJpegPicture {
 // Decodes a whole file. With sizeAtLeast (a box that the upright picture must cover) at the smallest eighth
 // of its size that does; with an empty box at full size. Nothing if the bytes are no JPEG, end before the
 // picture does, or claim a picture that cannot be held; sizes are looked at before memory is taken.
-std::optional<CJpegPicture> DecodeJpeg(std::span<const std::uint8_t> file, CSize sizeAtLeast = {});
+[[nodiscard]] std::optional<CJpegPicture> DecodeJpeg(std::span<const std::uint8_t> file,
+                                                     CSize sizeAtLeast = {});
+
+// The upright size of a file and its depth, 8 or 24. Nothing is 0 unless all is: if the bytes are no JPEG.
+[[nodiscard]] CImageHead ReadJpegHead(std::span<const std::uint8_t> file);
 
 struct CJpegSettings {
     int nQuality = 90;
@@ -31,4 +36,4 @@ struct CJpegSettings {
 
 // Writes a baseline 4:2:0 file: the start mark, sixteen bytes of JFIF with the dots per inch, the tables.
 // False if the file cannot be written or a side is above 65500.
-bool EncodeJpeg(const CPixels& pixels, const CJpegSettings& settings, CAtomicFile& file);
+[[nodiscard]] bool EncodeJpeg(const CPixels& pixels, const CJpegSettings& settings, CAtomicFile& file);

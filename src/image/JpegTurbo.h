@@ -42,17 +42,17 @@ struct CJpegPage {
 
 // Reads up to the first scan and keeps the APP1 segments in info.marker_list. The file's bytes must stay
 // until JpegReaderEnd, which belongs behind this whether it worked or not. False if it is no JPEG.
-bool JpegReaderBegin(CJpegReader& reader, const std::uint8_t* pFile, std::size_t nSize);
+[[nodiscard]] bool JpegReaderBegin(CJpegReader& reader, const std::uint8_t* pFile, std::size_t nSize);
 
 // The size that JpegReadPixels gives, nScale eighths of the whole; call before it. False if it is out of
 // bounds.
-bool JpegReaderScale(CJpegReader& reader, int nScale);
+[[nodiscard]] bool JpegReaderScale(CJpegReader& reader, int nScale);
 
 // Decodes everything into info.output_width * info.output_height pixels of three bytes, top row first. False
 // if the file is broken or ends before the picture does; what stands in pBits then is of no use.
-bool JpegReadPixels(CJpegReader& reader, std::uint8_t* pBits);
+[[nodiscard]] bool JpegReadPixels(CJpegReader& reader, std::uint8_t* pBits);
 
 void JpegReaderEnd(CJpegReader& reader);
 
 // Encodes a page: baseline, 4:2:0. False if the library refuses it or the sink stops.
-bool JpegWrite(const CJpegPage& page, const CJpegSink& sink);
+[[nodiscard]] bool JpegWrite(const CJpegPage& page, const CJpegSink& sink);

@@ -102,15 +102,36 @@ std::optional<CMagickPicture> TakePixels(Magick::Image& image, int nBpp) {
 
 // Some coders warn about what they could read after all, some about a file that is cut. A warning that stands
 // at the end of a file is a failure like an error; the others are not.
-std::optional<CMagickPicture> Decode(std::span<const std::uint8_t> file, const CFormat& format) {
-    const Magick::Blob blob(file.data(), file.size());
-    Magick::Image image;
+void SetUpReading(Magick::Image& image, const CFormat& format) {
     image.quiet(true);
     image.magick(format.szReader);
     image.subImage(0);
     image.subRange(1);
-    image.read(blob);
+}
+
+std::optional<CMagickPicture> Decode(std::span<const std::uint8_t> file, const CFormat& format) {
+    Magick::Image image;
+    SetUpReading(image, format);
+    image.read(Magick::Blob(file.data(), file.size()));
     return TakePixels(image, OwnDepth(file, format.type, image));
+}
+
+// Of a file whose pixels have not been decoded; then the library does not say of some that they are grey.
+int DepthOfHead(std::span<const std::uint8_t> file, ImageType type, const Magick::Image& image) {
+    if (type == ImageType::kWbmp) return 1;
+    const bool bGrey =
+        type == ImageType::kPgx || (type == ImageType::kPnm && (file[1] == '2' || file[1] == '5'));
+    const int nDepth = OwnDepth(file, type, image);
+    return bGrey ? std::min(nDepth, 8) : nDepth;
+}
+
+CImageHead ReadHead(std::span<const std::uint8_t> file, const CFormat& format) {
+    Magick::Image image;
+    SetUpReading(image, format);
+    image.ping(Magick::Blob(file.data(), file.size()));
+    if (image.columns() > INT32_MAX || image.rows() > INT32_MAX) return {};
+    return {{static_cast<int>(image.columns()), static_cast<int>(image.rows())},
+            DepthOfHead(file, format.type, image)};
 }
 
 // R, G, B, A in turn, as the library takes them.
@@ -174,6 +195,17 @@ std::optional<CMagickPicture> DecodeWithMagick(std::span<const std::uint8_t> fil
         return Decode(file, *pFormat);
     } catch (const std::exception&) {
         return std::nullopt;
+    }
+}
+
+CImageHead ReadHeadWithMagick(std::span<const std::uint8_t> file, ImageType type) {
+    const CFormat* const pFormat = FindFormat(type);
+    if (pFormat == nullptr || pFormat->szReader == nullptr) return {};
+    try {
+        PrepareMagick();
+        return ReadHead(file, *pFormat);
+    } catch (const std::exception&) {
+        return {};
     }
 }
 

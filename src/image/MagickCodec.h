@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 
+#include "image/ImageHead.h"
 #include "image/ImageType.h"
 #include "image/Pixels.h"
 #include "image/SharedBytes.h"
@@ -21,7 +22,12 @@ struct CMagickPicture {
 
 // Decodes the first picture of a file. Nothing if it is not of that type, is broken or too large, or if the
 // type cannot be read here.
-std::optional<CMagickPicture> DecodeWithMagick(std::span<const std::uint8_t> file, ImageType type);
+[[nodiscard]] std::optional<CMagickPicture> DecodeWithMagick(std::span<const std::uint8_t> file,
+                                                             ImageType type);
+
+// The size and depth of the first picture of a file, without decoding it where the format allows. All 0 where
+// DecodeWithMagick gives nothing by what stands in the head.
+[[nodiscard]] CImageHead ReadHeadWithMagick(std::span<const std::uint8_t> file, ImageType type);
 
 struct CMagickSource {
     const CPixels& pixels;
@@ -31,4 +37,4 @@ struct CMagickSource {
 };
 
 // False if the type cannot be written here, the picture does not go into it, or the file cannot be written.
-bool EncodeWithMagick(const CMagickSource& source, ImageType type, CAtomicFile& file);
+[[nodiscard]] bool EncodeWithMagick(const CMagickSource& source, ImageType type, CAtomicFile& file);

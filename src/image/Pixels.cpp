@@ -20,6 +20,11 @@ bool CPixels::CreateRaw(int nWidth, int nHeight) {
     return true;
 }
 
+CPixels CPixels::MakeFilled(int nWidth, int nHeight, CColor cr) {
+    CPixels pixels;
+    return pixels.CreateFilled(nWidth, nHeight, cr) ? pixels : CPixels();
+}
+
 bool CPixels::Create(int nWidth, int nHeight) {
     return CreateFilled(nWidth, nHeight, {});
 }

@@ -16,16 +16,19 @@ class CPixels {
   public:
     CPixels() = default;
 
+    // A picture in one colour; empty if it cannot be held.
+    static CPixels MakeFilled(int nWidth, int nHeight, CColor cr);
+
     // True if a picture of that size can be held at all: both sides above 0, at most 2 GiB of pixels, and no
     // more than the machine has left.
-    static bool Fits(int nWidth, int nHeight);
+    [[nodiscard]] static bool Fits(int nWidth, int nHeight);
 
     // A black picture. False, and nothing changes, if it cannot be held.
-    bool Create(int nWidth, int nHeight);
+    [[nodiscard]] bool Create(int nWidth, int nHeight);
     // The same with undefined content, for a caller that writes every pixel.
-    bool CreateRaw(int nWidth, int nHeight);
+    [[nodiscard]] bool CreateRaw(int nWidth, int nHeight);
     // The same in one colour.
-    bool CreateFilled(int nWidth, int nHeight, CColor cr);
+    [[nodiscard]] bool CreateFilled(int nWidth, int nHeight, CColor cr);
     void Clear();
 
     int Width() const { return m_nWidth; }
@@ -41,18 +44,18 @@ class CPixels {
     CConstPixelView View() const { return {m_bytes.Data(), m_nWidth, m_nHeight}; }
 
     // Makes these pixels unshared, so that the Mutable calls behind it cannot fail. False if memory is short.
-    bool Separate() { return m_bytes.Separate(); }
+    [[nodiscard]] bool Separate() { return m_bytes.Separate(); }
 
     // Writing separates first. Empty (null in a view of no size) if there was no memory to separate.
-    std::span<std::uint8_t> MutableBytes() {
+    [[nodiscard]] std::span<std::uint8_t> MutableBytes() {
         std::uint8_t* const pBits = m_bytes.MutableData();
         return {pBits, pBits != nullptr ? m_bytes.Size() : 0};
     }
-    std::span<std::uint8_t> MutableRow(int y) {
+    [[nodiscard]] std::span<std::uint8_t> MutableRow(int y) {
         const std::span<std::uint8_t> bytes = MutableBytes();
         return bytes.empty() ? bytes : bytes.subspan(Stride() * static_cast<std::size_t>(y), Stride());
     }
-    CPixelView MutableView() {
+    [[nodiscard]] CPixelView MutableView() {
         std::uint8_t* const pBits = m_bytes.MutableData();
         return pBits != nullptr ? CPixelView{pBits, m_nWidth, m_nHeight} : CPixelView{};
     }

@@ -12,7 +12,7 @@ struct CPpmPicture {
 };
 
 // Reads the first picture of a file. Comments in its head are left out; 255 must be its highest value.
-CPpmPicture ReadPpm(const std::string& strPath);
+[[nodiscard]] CPpmPicture ReadPpm(const std::string& strPath);
 
 // False if the file cannot be written; there is then no new file, and an older one stays.
-bool WritePpm(const std::string& strPath, const CPixels& pixels);
+[[nodiscard]] bool WritePpm(const std::string& strPath, const CPixels& pixels);

@@ -6,6 +6,8 @@
 #include <new>
 #include <vector>
 
+#include "image/BlockGate.h"
+
 #if defined(__linux__)
 #include <sys/mman.h>
 #endif
@@ -152,7 +154,7 @@ bool CSharedBytes::Fits(std::uint64_t nSize) {
 }
 
 bool CSharedBytes::Allocate(std::size_t nSize) {
-    if (nSize == 0 || !Fits(nSize)) return false;
+    if (nSize == 0 || !Fits(nSize) || !CBlockGate::Admits(nSize)) return false;
     const std::size_t nWhole = nSize + kSlack;
     std::shared_ptr<std::uint8_t> pBlock =
         nWhole >= kLargeBlock ? AllocateLarge(nWhole) : AllocateSmall(nWhole);

@@ -16,22 +16,22 @@ class CSharedBytes {
 
     // True if a block of that size may be asked for: not above kMaxSize and no more than the machine has
     // left.
-    static bool Fits(std::uint64_t nSize);
+    [[nodiscard]] static bool Fits(std::uint64_t nSize);
 
     // Makes this the only owner of nSize bytes with undefined content. False, and the old block stays, if
     // nSize is 0 or above kMaxSize or if the machine has not got the memory.
-    bool Allocate(std::size_t nSize);
+    [[nodiscard]] bool Allocate(std::size_t nSize);
     void Clear();
 
     // Gives this object a block of its own if it shares one. False if there is no memory for it; nothing
     // changes.
-    bool Separate();
+    [[nodiscard]] bool Separate();
 
     std::size_t Size() const { return m_nSize; }
     bool IsEmpty() const { return m_nSize == 0; }
     const std::uint8_t* Data() const { return m_pBlock.get(); }
     // Separates first. Null if that failed or if there are no bytes.
-    std::uint8_t* MutableData();
+    [[nodiscard]] std::uint8_t* MutableData();
     bool IsShared() const { return m_pBlock.use_count() > 1; }
     bool SharesWith(const CSharedBytes& other) const { return !IsEmpty() && m_pBlock == other.m_pBlock; }
 

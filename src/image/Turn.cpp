@@ -5,8 +5,8 @@
 #include <cstring>
 #include <vector>
 
+#include "image/CpuChoice.h"
 #include "image/Geometry.h"
-#include "image/VectorClones.h"
 
 namespace {
 
@@ -14,8 +14,8 @@ using CVector16 = std::uint8_t __attribute__((vector_size(16)));
 
 // The rows must not overlap. Sixteen bytes are moved for five pixels, so the loop stops where the sixteenth
 // would fall behind the row.
-FOTARIUM_VECTOR_CLONES
-void MirrorPixelRow(const std::uint8_t* __restrict pSrc, std::uint8_t* __restrict pDst, std::size_t nWidth) {
+FOTARIUM_INLINE void MirrorPixels(const std::uint8_t* __restrict pSrc, std::uint8_t* __restrict pDst,
+                                  std::size_t nWidth) {
     const std::uint8_t* pFrom = pSrc + 3 * nWidth;
     std::size_t x = 0;
     for (; x + 6 <= nWidth; x += 5) {
@@ -32,9 +32,17 @@ void MirrorPixelRow(const std::uint8_t* __restrict pSrc, std::uint8_t* __restric
     }
 }
 
+void MirrorPlain(const std::uint8_t* pSrc, std::uint8_t* pDst, std::size_t nWidth) {
+    MirrorPixels(pSrc, pDst, nWidth);
+}
+
+FOTARIUM_AVX2 void MirrorWide(const std::uint8_t* pSrc, std::uint8_t* pDst, std::size_t nWidth) {
+    MirrorPixels(pSrc, pDst, nWidth);
+}
+
 void MirrorRow(const std::uint8_t* pSrc, std::uint8_t* pDst, std::size_t nWidth, int nChannels) {
     if (nChannels == 3) {
-        MirrorPixelRow(pSrc, pDst, nWidth);
+        (UseAvx2() ? MirrorWide : MirrorPlain)(pSrc, pDst, nWidth);
     } else {
         std::reverse_copy(pSrc, pSrc + nWidth, pDst);
     }
@@ -83,7 +91,7 @@ using CVector4 = std::uint32_t __attribute__((vector_size(16)));
 
 // Four neighbours of a source row as four numbers, in the order in which the rows of the result take them.
 template <bool kDownwards>
-[[gnu::always_inline]] inline CVector4 LoadFour(const std::uint8_t* pPixels) {
+FOTARIUM_INLINE CVector4 LoadFour(const std::uint8_t* pPixels) {
     CVector16 bytes;
     std::memcpy(&bytes, kDownwards ? pPixels : pPixels - 9, 16);
     if constexpr (kDownwards) {
@@ -95,23 +103,23 @@ template <bool kDownwards>
 }
 
 // Twelve bytes of pixels, then four that a later store covers.
-[[gnu::always_inline]] inline CVector16 Pack(CVector4 pixels) {
+FOTARIUM_INLINE CVector16 Pack(CVector4 pixels) {
     const auto bytes = reinterpret_cast<CVector16>(pixels);
     return __builtin_shufflevector(bytes, bytes, 0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 3, 7, 11, 15);
 }
 
 // Weaves the first or the second halves of two vectors.
-[[gnu::always_inline]] inline CVector4 WeaveLow(CVector4 a, CVector4 b) {
+FOTARIUM_INLINE CVector4 WeaveLow(CVector4 a, CVector4 b) {
     return __builtin_shufflevector(a, b, 0, 4, 1, 5);
 }
-[[gnu::always_inline]] inline CVector4 WeaveHigh(CVector4 a, CVector4 b) {
+FOTARIUM_INLINE CVector4 WeaveHigh(CVector4 a, CVector4 b) {
     return __builtin_shufflevector(a, b, 2, 6, 3, 7);
 }
 
 // Four rows of kQuad pixels, each from a column of the source.
 template <bool kDownwards>
-[[gnu::always_inline]] inline void TransposeQuad(const std::uint8_t* pSrc, std::ptrdiff_t nRight,
-                                                 CVector16 (&rows)[kQuad]) {
+FOTARIUM_INLINE void TransposeQuad(const std::uint8_t* pSrc, std::ptrdiff_t nRight,
+                                   CVector16 (&rows)[kQuad]) {
     const CVector4 a = LoadFour<kDownwards>(pSrc);
     const CVector4 b = LoadFour<kDownwards>(pSrc + nRight);
     const CVector4 c = LoadFour<kDownwards>(pSrc + 2 * nRight);
@@ -127,7 +135,7 @@ template <bool kDownwards>
 }
 
 template <bool kDownwards>
-[[gnu::always_inline]] inline void TurnBand(const CWalk& walk, const CTarget& target, int x, int y) {
+FOTARIUM_INLINE void TurnBand(const CWalk& walk, const CTarget& target, int x, int y) {
     const std::uint8_t* const pSrc = walk.At(x, y);
     std::uint8_t* pDst = target.At(x, y, 3);
     CVector16 left[kQuad];
@@ -141,7 +149,7 @@ template <bool kDownwards>
 }
 
 template <bool kDownwards>
-[[gnu::always_inline]] inline void TurnBlock(const CWalk& walk, const CTarget& target, CRect rc) {
+FOTARIUM_INLINE void TurnBlock(const CWalk& walk, const CTarget& target, CRect rc) {
     const int nBandsEnd = rc.left + rc.Width() / kBand * kBand;
     const int nQuadsEnd = rc.top + rc.Height() / kQuad * kQuad;
     for (int x = rc.left; x < nBandsEnd; x += kBand) {
@@ -151,26 +159,32 @@ template <bool kDownwards>
     TurnSlowly(walk, target, 3, {rc.left, nQuadsEnd, rc.right, rc.bottom});
 }
 
-FOTARIUM_VECTOR_CLONES
-void TurnBlockDownwards(const CWalk& walk, const CTarget& target, CRect rc) {
-    TurnBlock<true>(walk, target, rc);
+template <bool kDownwards>
+void TurnPlain(const CWalk& walk, const CTarget& target, CRect rc) {
+    TurnBlock<kDownwards>(walk, target, rc);
 }
 
-FOTARIUM_VECTOR_CLONES
-void TurnBlockUpwards(const CWalk& walk, const CTarget& target, CRect rc) {
-    TurnBlock<false>(walk, target, rc);
+template <bool kDownwards>
+FOTARIUM_AVX2 void TurnWide(const CWalk& walk, const CTarget& target, CRect rc) {
+    TurnBlock<kDownwards>(walk, target, rc);
+}
+
+using CTurnCall = void (*)(const CWalk&, const CTarget&, CRect);
+
+CTurnCall ChooseTurn(bool bDownwards) {
+    if (UseAvx2()) return bDownwards ? TurnWide<true> : TurnWide<false>;
+    return bDownwards ? TurnPlain<true> : TurnPlain<false>;
 }
 
 void TurnPlane(const CWalk& walk, const CTarget& target, int nChannels) {
+    const CTurnCall turn = ChooseTurn(walk.nDown > 0);
     for (int y = 0; y < target.nHeight; y += kBlock) {
         for (int x = 0; x < target.nWidth; x += kBlock) {
             const CRect rc{x, y, std::min(x + kBlock, target.nWidth), std::min(y + kBlock, target.nHeight)};
             if (nChannels != 3) {
                 TurnSlowly(walk, target, nChannels, rc);
-            } else if (walk.nDown > 0) {
-                TurnBlockDownwards(walk, target, rc);
             } else {
-                TurnBlockUpwards(walk, target, rc);
+                turn(walk, target, rc);
             }
         }
     }

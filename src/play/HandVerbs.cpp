@@ -17,7 +17,8 @@ std::string Open(CStage& stage, const CWords& arrWords) {
     std::error_code error;
     if (!std::filesystem::exists(path, error)) return "there is no file " + Quote(path.string());
     if (FindImageTypeOfName(strName) == ImageType::kUnknown) return NotA(strName, "name of a picture");
-    stage.platform.Get().folders.SetCurrentFolder(path.parent_path().string());
+    if (!stage.platform.Get().folders.SetCurrentFolder(path.parent_path().string()))
+        return Quote(path.parent_path().string()) + " cannot be entered";
     stage.dialog.OpenFileByName(path.parent_path().string(), strName);
     return stage.host.Pump() ? std::string{} : "the window never stops painting";
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "play/ScriptedPlatform.h"
+#include "window/DialogKeys.h"
 #include "window/Marks.h"
 
 namespace {
@@ -16,7 +17,7 @@ bool IsPushed(EControlKind kind) {
 }
 
 bool IsList(EControlKind kind) {
-    return kind == EControlKind::PictureList || kind == EControlKind::IconList || kind == EControlKind::Combo;
+    return kind == EControlKind::PictureList || kind == EControlKind::Combo;
 }
 
 // Spots that the dialog draws on itself: nothing stands there.
@@ -53,7 +54,7 @@ CPlayHost::CPlayHost(CScriptedPlatform& platform, CDialog& dialog, CBitmaps* pBi
     for (const CControl& control : m_dialog.Controls().All()) {
         if (CIconListModel* pIcons = IconsOf(control.nId); pIcons != nullptr) {
             pIcons->Attach(this);
-            m_arrIcons.push_back(pIcons);
+            m_mapIcons.try_emplace(pIcons, *pIcons);
         }
         CScrollView* pView = ViewOf(control.nId);
         if (pView == nullptr) continue;
@@ -71,7 +72,7 @@ CPlayHost::~CPlayHost() {
         m_platform.Timers().KillAllOf(*pView);
         pView->Attach(nullptr);
     }
-    for (CIconListModel* pIcons : m_arrIcons) pIcons->Attach(nullptr);
+    for (const auto& [pIcons, hand] : m_mapIcons) pIcons->Attach(nullptr);
     m_dialog.Attach(nullptr);
 }
 
@@ -142,6 +143,7 @@ std::string CPlayHost::Click(int nId) {
 std::string CPlayHost::SelectRow(int nId, int nRow) {
     const CControl* pControl = nullptr;
     if (std::string strWhy = Reach(nId, pControl); !strWhy.empty()) return strWhy;
+    if (pControl->kind == EControlKind::IconList) return ClickIcon(nId, nRow);
     if (!IsList(pControl->kind)) return std::string("control ") + std::to_string(nId) + " has no rows";
     const int nRows = static_cast<int>(pControl->arrItems.size());
     if (nRow < 0 || nRow >= nRows)
@@ -206,15 +208,8 @@ std::string CPlayHost::Key(const CKeyEvent& event) {
 
 void CPlayHost::KeyToControl(const CKeyEvent& event) {
     CIconListModel* pIcons = IconsOf(m_dialog.Controls().Focus());
-    if (pIcons != nullptr && pIcons->Sink() != nullptr && event.nKey != kKeyEscape)
-        return event.nKey == kKeyEnter ? pIcons->Sink()->OnEnter()
-                                       : pIcons->Sink()->OnKeyDown(event.nKey, event.bShift);
-    if (event.nKey != kKeyEnter && event.nKey != kKeyEscape) return;
-    const int nId = event.nKey == kKeyEnter ? CDialog::kDialogOk : CDialog::kDialogCancel;
-    if (m_dialog.Controls().IsShown(nId) && m_dialog.Controls().IsEnabled(nId))
-        m_dialog.OnCommand(nId);
-    else if (event.nKey == kKeyEscape)
-        m_dialog.OnClose();
+    if (pIcons != nullptr && HandOf(*pIcons).OnKey(event)) return;
+    DoDialogKey(m_dialog, event);
 }
 
 // A button that is down already can go down again: its release was lost on a dialog that came up.

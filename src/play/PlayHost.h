@@ -1,11 +1,12 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
 #include "window/Bitmaps.h"
 #include "window/Dialog.h"
-#include "window/IconListModel.h"
+#include "window/IconListHand.h"
 #include "window/ScrollView.h"
 #include "window/TreeModel.h"
 
@@ -39,7 +40,7 @@ class CPlayHost : private CDialogHost, private CViewHost, private CIconListObser
 
     // A click of a button, a bitmap label, a check box or a radio button.
     [[nodiscard]] std::string Click(int nId);
-    // A click on a row of a list.
+    // A click on a row of a list, or on an item of a list of icons.
     [[nodiscard]] std::string SelectRow(int nId, int nRow);
     [[nodiscard]] std::string MoveSlider(int nId, int nPos);
     // Replaces the text of an edit; what is beyond its most characters does not go in.
@@ -84,13 +85,14 @@ class CPlayHost : private CDialogHost, private CViewHost, private CIconListObser
     void OnDrawn() override {}
     void OnEnded() override {}
     void OnScrollChanged() override {}
-    void OnIconsReset() override { m_nAnchor = 0; }
+    void OnIconsReset() override;
     void OnIconChanged(int /*nItem*/) override {}
     void OnIconsSelected() override {}
 
     std::string Reach(int nId, const CControl*& pControl) const;
     std::string ReachItem(int nId, CTreeItem item, CTreeModel*& pTree);
     std::string ReachIcons(int nId, int nItem, CIconListModel*& pIcons);
+    CIconListHand& HandOf(CIconListModel& icons) { return m_mapIcons.at(&icons); }
     CIconListModel* IconsOf(int nId);
     std::string ToggleItem(int nId, CTreeItem item, bool bOpen);
     // The hand puts the focus there, which ends the typing elsewhere.
@@ -103,7 +105,7 @@ class CPlayHost : private CDialogHost, private CViewHost, private CIconListObser
     CScriptedPlatform& m_platform;
     CDialog& m_dialog;
     std::vector<CScrollView*> m_arrViews;
-    std::vector<CIconListModel*> m_arrIcons;
+    std::map<CIconListModel*, CIconListHand> m_mapIcons;
     unsigned m_nHeld = 0;  // mouse buttons that are down, as flags
     int m_nAnchor = 0;     // the icon from which a click with shift selects
     int m_nPaints = 0;

@@ -56,6 +56,11 @@ int CPlayHost::FindIcon(int nId, const std::string& strText) {
     return -1;
 }
 
+void CPlayHost::OnIconsReset() {
+    m_nAnchor = 0;
+    for (auto& [pIcons, hand] : m_mapIcons) hand.Forget();
+}
+
 std::string CPlayHost::ReachIcons(int nId, int nItem, CIconListModel*& pIcons) {
     const CControl* pControl = nullptr;
     if (std::string strWhy = Reach(nId, pControl); !strWhy.empty()) return strWhy;
@@ -72,7 +77,7 @@ std::string CPlayHost::ClickIcon(int nId, int nItem, unsigned nKeys) {
     CIconListModel* pIcons = nullptr;
     if (std::string strWhy = ReachIcons(nId, nItem, pIcons); !strWhy.empty()) return strWhy;
     TakeFocus(nId);
-    pIcons->Sink()->OnLeftPress();
+    HandOf(*pIcons).OnPress(nItem);
     const bool bKeep = (nKeys & kMouseCtrl) != 0;
     std::vector<int> arrItems = bKeep ? pIcons->SelectedItems() : std::vector<int>{};
     if (nItem >= 0 && (nKeys & kMouseShift) != 0) {
@@ -82,8 +87,7 @@ std::string CPlayHost::ClickIcon(int nId, int nItem, unsigned nKeys) {
         if (std::erase(arrItems, nItem) == 0) arrItems.push_back(nItem);
     }
     pIcons->TakeSelection(arrItems);
-    pIcons->Sink()->OnLeftRelease();
-    pIcons->Sink()->OnItemClick(nItem);
+    HandOf(*pIcons).OnRelease(nItem, true, false);
     return Done();
 }
 
@@ -91,7 +95,9 @@ std::string CPlayHost::DoubleClickIcon(int nId, int nItem) {
     if (std::string strWhy = ClickIcon(nId, nItem); !strWhy.empty()) return strWhy;
     CIconListModel* pIcons = nullptr;
     if (std::string strWhy = ReachIcons(nId, nItem, pIcons); !strWhy.empty()) return strWhy;
-    pIcons->Sink()->OnItemDoubleClick(nItem);
+    HandOf(*pIcons).OnDoubleClick(nItem);
+    // The list may be gone before the button is up again.
+    if (ReachIcons(nId, -1, pIcons).empty()) HandOf(*pIcons).OnRelease(-1, true, false);
     return Done();
 }
 
@@ -99,7 +105,7 @@ std::string CPlayHost::RightPressIcon(int nId, int nItem) {
     CIconListModel* pIcons = nullptr;
     if (std::string strWhy = ReachIcons(nId, nItem, pIcons); !strWhy.empty()) return strWhy;
     TakeFocus(nId);
-    pIcons->Sink()->OnRightPress(nItem);
+    HandOf(*pIcons).OnRightPress(nItem);
     return Done();
 }
 
@@ -111,15 +117,16 @@ std::string CPlayHost::BandIcons(int nId, const std::vector<int>& arrItems) {
         if (std::string strWhy = ReachIcons(nId, nItem, pIcons); !strWhy.empty()) return strWhy;
     if (std::string strWhy = ReachIcons(nId, -1, pIcons); !strWhy.empty()) return strWhy;
     TakeFocus(nId);
-    pIcons->Sink()->OnLeftPress();
+    CIconListHand& hand = HandOf(*pIcons);
+    hand.OnPress(-1);
     std::vector<int> arrUnder;
     pIcons->TakeSelection(arrUnder);
     for (const int nItem : arrItems) {
         arrUnder.push_back(nItem);
         pIcons->TakeSelection(arrUnder);
-        pIcons->Sink()->OnMouseMove();
+        hand.OnMove(true);
     }
-    pIcons->Sink()->OnLeftRelease();
+    hand.OnRelease(-1, true, true);
     return Done();
 }
 

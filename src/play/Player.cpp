@@ -45,7 +45,6 @@ bool CPlayer::Play(std::istream& script, const std::string& strScript) {
 // The lines before the first that needs the program.
 bool CPlayer::SetUp(CMachine& machine, CScript& script) {
     for (script.Next(); script.bLine; script.Next()) {
-        machine.nLine = script.nLine;
         CWords arrWords;
         const CVerb* pVerb = nullptr;
         std::string strWhy = ParseLine(script.strLine, arrWords, pVerb);

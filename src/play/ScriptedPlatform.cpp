@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -25,7 +26,8 @@ CScriptedPlatform::CScriptedPlatform() : m_strFolderBefore(CurrentFolder()) {
 }
 
 CScriptedPlatform::~CScriptedPlatform() {
-    SetCurrentFolder(m_strFolderBefore);
+    std::error_code error;
+    fs::current_path(m_strFolderBefore, error);
 }
 
 CPlatform CScriptedPlatform::Get() {
@@ -187,10 +189,11 @@ int CScriptedPlatform::Run(CDialog& dialog) {
     return dialog.EndCode();
 }
 
-CFileChoice CScriptedPlatform::EnterFolderOf(const std::string& strPath) {
+std::optional<CFileChoice> CScriptedPlatform::EnterFolderOf(const std::string& strPath) {
     const fs::path path(strPath);
-    SetCurrentFolder(path.parent_path().string());
-    return {strPath, path.filename().string()};
+    if (SetCurrentFolder(path.parent_path().string())) return CFileChoice{strPath, path.filename().string()};
+    m_arrProblems.push_back({EProblem::Impossible, "there is no folder for \"" + strPath + '"'});
+    return std::nullopt;
 }
 
 std::optional<CFileChoice> CScriptedPlatform::RunOpen(const CFileDialogRequest& request,
@@ -248,9 +251,11 @@ void CScriptedPlatform::End() {
     --m_nWaitDepth;
 }
 
-bool CScriptedPlatform::SetBitmap(std::span<const std::uint8_t> arrDib) {
+bool CScriptedPlatform::SetBitmap(std::span<const std::uint8_t> arrDib) try {
     m_clipboard.emplace(arrDib.begin(), arrDib.end());
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 std::string CScriptedPlatform::CurrentFolder() const {

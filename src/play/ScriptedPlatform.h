@@ -136,7 +136,8 @@ class CScriptedPlatform : private CMessageBoxes,
     CAsked& Ask(EQuestion question);
     bool MayDelete(bool bToBin, bool bAsk);
     bool DeleteOne(const std::string& strPath, bool bToBin) const;
-    CFileChoice EnterFolderOf(const std::string& strPath);
+    // Nothing, and a problem, where no dialog could have gone.
+    std::optional<CFileChoice> EnterFolderOf(const std::string& strPath);
 
     EBoxAnswer Show(const CMessageBox& box) override;
     int Run(CDialog& dialog) override;
@@ -147,16 +148,16 @@ class CScriptedPlatform : private CMessageBoxes,
     int Track(std::span<const CMenuItem> arrItems) override;
     void Begin() override;
     void End() override;
-    bool SetBitmap(std::span<const std::uint8_t> arrDib) override;
+    [[nodiscard]] bool SetBitmap(std::span<const std::uint8_t> arrDib) override;
     std::optional<std::vector<std::uint8_t>> GetBitmap() override { return m_clipboard; }
     char Separator() const override { return '/'; }
     std::string CurrentFolder() const override;
-    bool SetCurrentFolder(const std::string& strFolder) override;
+    [[nodiscard]] bool SetCurrentFolder(const std::string& strFolder) override;
     std::string InstallValue() const override { return m_strInstallValue; }
     CTextMask Rasterize(const CTextFont& font, const std::string& strText) override;
     std::vector<CDrive> List() override { return m_arrDrives; }
     std::string ComputerName() override { return "我的电脑"; }
-    bool Delete(const std::vector<std::string>& arrPaths, bool bToBin, bool bAsk) override;
+    [[nodiscard]] bool Delete(const std::vector<std::string>& arrPaths, bool bToBin, bool bAsk) override;
     void Open(const std::string& strPath) override;
     const CxImage* Find(const std::string& strName, int nDensity) override;
 

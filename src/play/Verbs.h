@@ -16,7 +16,6 @@ struct CMachine {
     std::ostream& out;
     // Where the process stood at its start: paths of scripts count from there, wherever dialogs have led.
     std::filesystem::path pathStart;
-    int nLine = 0;
 
     // Whole, as a dialog would give it.
     std::string PathOf(const std::string& strPath) const {
@@ -30,6 +29,7 @@ struct CStage : CMachine {
         : CMachine(machine), host(hostMain), dialog(dialogMain) {}
     CPlayHost& host;
     CMainDlg& dialog;
+    int nLine = 0;  // of the script, the one at work
 };
 
 // One verb of the scripts. Its handler gets the words behind the verb, as many as nMin to nMax say, and

@@ -4,15 +4,12 @@
 
 #include "controls/SkinSlider.h"
 #include "image/Image.h"
-#include "resources/Ids.h"
 #include "window/IconListModel.h"
 #include "window/TreeModel.h"
 
 namespace {
 
-constexpr CColor kInfoGround{142, 154, 143};
-constexpr CColor kHelpGround{117, 131, 134};
-constexpr CColor kLevelGround{75, 94, 103};
+constexpr CColor kShareGround{142, 154, 143};
 constexpr CColor kListGround{109, 121, 126};
 constexpr CColor kBarGround{95, 107, 112};
 constexpr CColor kPaper{245, 247, 244};
@@ -91,8 +88,12 @@ void CComposer::DrawMark(const CControl& control) {
 
 // The rows of a list of pictures from the first one on, or the last of them the selected one.
 void CComposer::DrawRows(const CControl& control) {
-    const CRect& rc = control.rcPlace;
+    CRect rc = control.rcPlace;
     m_surface.FillRect(rc, kListGround);
+    if (HasBorder(control)) {
+        m_surface.FrameRect(rc, kRim);
+        rc = {rc.left + 1, rc.top + 1, rc.right - 1, rc.bottom - 1};
+    }
     if (m_pBitmaps == nullptr || control.arrItems.empty()) return;
     const CxImage* pFirst = m_pBitmaps->Find(control.arrItems[0].strText, 1);
     if (pFirst == nullptr) return;
@@ -101,7 +102,9 @@ void CComposer::DrawRows(const CControl& control) {
     int nRow = -std::max(0, control.nSel - nRows + 1);
     for (const CListItem& item : control.arrItems) {
         const CxImage* pImage = nRow >= 0 && nRow < nRows ? m_pBitmaps->Find(item.strText, 1) : nullptr;
-        if (pImage != nullptr) m_surface.DrawPixels(pImage->Pixels(), rc.left, rc.top + nRow * nHeight);
+        if (pImage != nullptr)
+            m_surface.DrawPart(pImage->Pixels(), CRect::FromPlace(0, 0, rc.Width(), nHeight), rc.left,
+                               rc.top + nRow * nHeight);
         ++nRow;
     }
 }
@@ -118,7 +121,7 @@ void CComposer::DrawShare(const CControl& control) {
     const CRect& rc = control.rcPlace;
     const int nRange = std::max(1, control.nMax - control.nMin);
     const int nShare = control.nPos - control.nMin;
-    m_surface.FillRect(rc, kInfoGround);
+    m_surface.FillRect(rc, kShareGround);
     m_surface.FillRect({rc.left, rc.top, rc.left + rc.Width() * nShare / nRange, rc.bottom}, kMark);
 }
 
@@ -190,11 +193,8 @@ void CComposer::Draw(const CControl& control) {
         case EControlKind::Radio:
         case EControlKind::Check:
             return DrawMark(control);
-        case EControlKind::Static: {
-            const bool bInfo = control.nId != kHelpLine && control.nId != kEffectLevel;
-            const CColor color = control.nId == kHelpLine ? kHelpGround : kLevelGround;
-            return m_surface.FillRect(control.rcPlace, bInfo ? kInfoGround : color);
-        }
+        case EControlKind::Static:
+            return m_surface.FillRect(control.rcPlace, control.look.colorGround.value_or(kFace));
         case EControlKind::Button:
             return DrawBox(control.rcPlace, kFace);
         case EControlKind::Edit:

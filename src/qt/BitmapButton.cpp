@@ -3,7 +3,6 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "qt/AccessibleNames.h"
 #include "qt/Pictures.h"
 #include "window/Dialog.h"
 
@@ -20,7 +19,6 @@ std::string ToUpper(std::string str) {
 CBitmapButton::CBitmapButton(const CControlContext& context)
     : QAbstractButton(context.pParent), m_context(context), m_strRoot(ToUpper(context.control.strCaption)) {
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(FindAccessibleName(m_strRoot));
     connect(this, &QAbstractButton::clicked, this,
             [this] { m_context.dialog.OnCommand(m_context.control.nId); });
 }

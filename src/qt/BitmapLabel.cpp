@@ -2,14 +2,12 @@
 
 #include <QPainter>
 
-#include "qt/AccessibleNames.h"
 #include "qt/Pictures.h"
 #include "window/Dialog.h"
 
 CBitmapLabel::CBitmapLabel(const CControlContext& context)
     : QAbstractButton(context.pParent), m_context(context) {
     setFocusPolicy(Qt::NoFocus);
-    setAccessibleName(FindAccessibleName(context.control.strCaption));
     connect(this, &QAbstractButton::clicked, this,
             [this] { m_context.dialog.OnCommand(m_context.control.nId); });
 }

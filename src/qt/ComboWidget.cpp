@@ -4,7 +4,6 @@
 
 #include "qt/SkinColors.h"
 #include "qt/Text.h"
-#include "resources/Ids.h"
 #include "window/Dialog.h"
 
 namespace {
@@ -36,8 +35,7 @@ void CComboWidget::paintEvent(QPaintEvent* /*pEvent*/) {
     QPainter painter(this);
     const QColor colorText = isEnabled() ? SkinColors::kInk : SkinColors::kPaleInk;
     painter.fillRect(rect(), SkinColors::kPaper);
-    // The size dialog's ground has the well around it drawn already.
-    if (m_context.dialog.Template().nId != kDlgSize) {
+    if (HasBorder(m_context.control)) {
         painter.setPen(SkinColors::kListRim);
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }

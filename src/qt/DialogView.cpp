@@ -6,10 +6,12 @@
 #include <QScreen>
 
 #include "qt/ControlFactory.h"
+#include "qt/KeyCodes.h"
 #include "qt/Pictures.h"
 #include "qt/QtGeometry.h"
 #include "qt/ScrollViewWidget.h"
 #include "qt/Text.h"
+#include "window/DialogKeys.h"
 
 namespace {
 
@@ -68,6 +70,7 @@ void CDialogView::BuildControls() {
         QWidget& widget = pControl->Widget();
         widget.setGeometry(ToQt(control.rcPlace));
         widget.setMouseTracking(true);
+        if (*control.look.szSpoken != '\0') widget.setAccessibleName(ToQt(control.look.szSpoken));
         widget.setEnabled(control.bEnabled);
         widget.setVisible(control.bShown);
         m_mapIds.emplace(&widget, control.nId);
@@ -194,19 +197,8 @@ bool CDialogView::OnKey(const CKeyEvent& event) {
     return m_dialog.OnKey(event);
 }
 
-// The keys of every dialog that nobody has wanted: Enter is its OK button, Esc its Cancel button or the close
-// box.
 void CDialogView::keyPressEvent(QKeyEvent* pEvent) {
-    const bool bEnter = pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter;
-    const bool bEscape = pEvent->key() == Qt::Key_Escape;
-    if (m_dialog.Template().frame == EDialogFrame::Child || (!bEnter && !bEscape))
-        return QWidget::keyPressEvent(pEvent);
-    const int nId = bEnter ? CDialog::kDialogOk : CDialog::kDialogCancel;
-    const CControlSet& controls = m_dialog.Controls();
-    if (controls.IsShown(nId) && controls.IsEnabled(nId))
-        m_dialog.OnCommand(nId);
-    else if (bEscape)
-        m_dialog.OnClose();
+    if (!DoDialogKey(m_dialog, {KeyCodeOf(pEvent->key())})) QWidget::keyPressEvent(pEvent);
 }
 
 void CDialogView::closeEvent(QCloseEvent* pEvent) {

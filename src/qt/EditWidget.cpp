@@ -2,13 +2,11 @@
 
 #include "qt/FontMapping.h"
 #include "qt/Text.h"
-#include "resources/Ids.h"
 #include "window/Dialog.h"
 
 namespace {
 
-// On a ground of the skin the well around the line is drawn already.
-constexpr char kSkinStyle[] =
+constexpr char kBareStyle[] =
     "QLineEdit { border: none; background: #f5f7f4; color: #222a28; padding: 0 2px;"
     " selection-background-color: #e88f36; selection-color: #ffffff; }";
 
@@ -21,8 +19,7 @@ constexpr char kStyle[] =
 }  // namespace
 
 CEditWidget::CEditWidget(const CControlContext& context) : QLineEdit(context.pParent), m_context(context) {
-    const int nDialog = context.dialog.Template().nId;
-    setStyleSheet(nDialog == kDlgMain || nDialog == kDlgSize ? kSkinStyle : kStyle);
+    setStyleSheet(HasBorder(context.control) ? kStyle : kBareStyle);
     setFont(MapFont({}, context.control.rcPlace.Height() < 18 ? 12 : 13));
     if (context.control.nMaxText > 0) setMaxLength(context.control.nMaxText);
     setText(ToQt(context.control.strText));

@@ -4,7 +4,6 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <utility>
 #include <vector>
 
 #include "qt/FontMapping.h"
@@ -21,10 +20,6 @@ constexpr int kWheelPixels = 40;
 constexpr char kStyle[] =
     "QListView { border: none; background: #6d797e; color: #ffffff; outline: none;"
     " selection-background-color: #e88f36; selection-color: #ffffff; }";
-
-bool IsPlain(const QMouseEvent& event) {
-    return (event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) == Qt::NoModifier;
-}
 
 }  // namespace
 
@@ -68,7 +63,7 @@ void CIconListWidget::SetUpLook() {
 void CIconListWidget::OnIconsReset() {
     const QScopedValueRollback guard(m_bMirroring, true);
     m_adaptor.Reset();
-    m_press = EPress::None;
+    m_hand.Forget();
     scrollToTop();
 }
 
@@ -101,6 +96,17 @@ void CIconListWidget::selectionChanged(const QItemSelection& selected, const QIt
     m_icons.TakeSelection(arrItems);
 }
 
+// Shift alone selects from one item to another and nothing else; Qt would keep what Ctrl had added before.
+QItemSelectionModel::SelectionFlags CIconListWidget::selectionCommand(const QModelIndex& index,
+                                                                      const QEvent* pEvent) const {
+    QItemSelectionModel::SelectionFlags flags = QListView::selectionCommand(index, pEvent);
+    if (pEvent == nullptr || !pEvent->isInputEvent() || !index.isValid()) return flags;
+    const auto keys = static_cast<const QInputEvent*>(pEvent)->modifiers();
+    const bool bShiftAlone = keys.testFlag(Qt::ShiftModifier) && !keys.testFlag(Qt::ControlModifier);
+    if (bShiftAlone && flags.testFlag(QItemSelectionModel::Current)) flags |= QItemSelectionModel::Clear;
+    return flags;
+}
+
 QModelIndex CIconListWidget::indexAt(const QPoint& pt) const {
     const QModelIndex index = QListView::indexAt(pt);
     return index.isValid() && CIconDelegate::Hits(visualRect(index), pt) ? index : QModelIndex();
@@ -111,63 +117,39 @@ int CIconListWidget::ItemAt(QPoint pt) const {
     return index.isValid() ? index.row() : -1;
 }
 
+bool CIconListWidget::IsFar(QPoint pt) const {
+    return (pt - m_ptPress).manhattanLength() >= QApplication::startDragDistance();
+}
+
 void CIconListWidget::mousePressEvent(QMouseEvent* pEvent) {
-    CIconListSink* pSink = m_icons.Sink();
-    if (pEvent->button() == Qt::RightButton && pSink != nullptr) pSink->OnRightPress(ItemAt(pEvent->pos()));
+    if (pEvent->button() == Qt::RightButton) m_hand.OnRightPress(ItemAt(pEvent->pos()));
     if (pEvent->button() != Qt::LeftButton) return;
-    if (pSink != nullptr) pSink->OnLeftPress();
-    const int nItem = ItemAt(pEvent->pos());
     m_ptPress = pEvent->pos();
-    // Several that are selected stay so until it is clear that they are not to be dragged.
-    if (nItem >= 0 && IsPlain(*pEvent) && m_icons.IsSelected(nItem) && m_icons.SelectedCount() > 1) {
-        m_press = EPress::ItemOfMany;
-        return selectionModel()->setCurrentIndex(m_adaptor.index(nItem, 0), QItemSelectionModel::NoUpdate);
-    }
-    m_press = nItem < 0 ? EPress::Ground : EPress::Item;
+    m_hand.OnPress(ItemAt(pEvent->pos()));
+    // Several that are selected stay so until the release, since they may be on their way out of the list.
     QListView::mousePressEvent(pEvent);
 }
 
-// A rubber band starts on the ground only; what is drawn along from an item is on its way out of the list.
 void CIconListWidget::mouseMoveEvent(QMouseEvent* pEvent) {
-    if (m_icons.Sink() != nullptr) m_icons.Sink()->OnMouseMove();
-    if (m_press == EPress::None || m_press == EPress::Ground) return QListView::mouseMoveEvent(pEvent);
-    if ((pEvent->pos() - m_ptPress).manhattanLength() >= QApplication::startDragDistance())
-        m_press = EPress::Drag;
+    m_hand.OnMove(IsFar(pEvent->pos()));
+    if (!m_hand.IsOnItem()) QListView::mouseMoveEvent(pEvent);
 }
 
-// A list tracks the click of an item by itself: its logic hears of the click and not of the button's release.
 void CIconListWidget::mouseReleaseEvent(QMouseEvent* pEvent) {
     if (pEvent->button() != Qt::LeftButton) return;
-    const EPress press = std::exchange(m_press, EPress::None);
-    const bool bKept = press == EPress::Item || press == EPress::ItemOfMany;
-    if (!bKept && m_icons.Sink() != nullptr && viewport()->rect().contains(pEvent->pos()))
-        m_icons.Sink()->OnLeftRelease();
     QListView::mouseReleaseEvent(pEvent);
-    if (press == EPress::ItemOfMany)
-        selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
-    const bool bMoved = (pEvent->pos() - m_ptPress).manhattanLength() >= QApplication::startDragDistance();
-    if (bKept || (press == EPress::Ground && !bMoved)) TellClick(pEvent->pos());
+    m_hand.OnRelease(ItemAt(pEvent->pos()), viewport()->rect().contains(pEvent->pos()), IsFar(pEvent->pos()));
 }
 
-void CIconListWidget::TellClick(QPoint pt) {
-    if (m_icons.Sink() != nullptr) m_icons.Sink()->OnItemClick(ItemAt(pt));
-}
-
+// It may show another folder.
 void CIconListWidget::mouseDoubleClickEvent(QMouseEvent* pEvent) {
-    if (pEvent->button() != Qt::LeftButton) return;
-    const int nItem = ItemAt(pEvent->pos());
-    // Last, since it may show another folder.
-    if (m_icons.Sink() != nullptr) m_icons.Sink()->OnItemDoubleClick(nItem);
+    if (pEvent->button() == Qt::LeftButton) m_hand.OnDoubleClick(ItemAt(pEvent->pos()));
 }
 
 void CIconListWidget::keyPressEvent(QKeyEvent* pEvent) {
-    CIconListSink* pSink = m_icons.Sink();
     const int nKey = KeyCodeOf(pEvent->key());
-    if (pSink != nullptr && nKey == kKeyEnter) {
-        if (!pEvent->isAutoRepeat()) pSink->OnEnter();
-        return;
-    }
-    if (pSink != nullptr && nKey == kKeyDelete)
-        return pSink->OnKeyDown(nKey, pEvent->modifiers().testFlag(Qt::ShiftModifier));
-    QListView::keyPressEvent(pEvent);
+    // An Enter that is held opens nothing twice.
+    if (nKey == kKeyEnter && pEvent->isAutoRepeat()) return;
+    const bool bShift = pEvent->modifiers().testFlag(Qt::ShiftModifier);
+    if (!m_hand.OnKey({nKey, false, bShift})) QListView::keyPressEvent(pEvent);
 }

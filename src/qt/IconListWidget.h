@@ -5,6 +5,7 @@
 #include "qt/ControlWidget.h"
 #include "qt/IconAdaptor.h"
 #include "qt/IconDelegate.h"
+#include "window/IconListHand.h"
 
 // A list of pictures side by side with their names below. The dialog's list is what counts; the hand selects
 // as in any list of the system's (rubber band, Ctrl, Shift), and the list's logic hears of it and of all that
@@ -19,6 +20,8 @@ class CIconListWidget : public QListView, public CControlWidget, private CIconLi
     QModelIndex indexAt(const QPoint& pt) const override;
 
   protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* pEvent) const override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void mousePressEvent(QMouseEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
@@ -27,22 +30,20 @@ class CIconListWidget : public QListView, public CControlWidget, private CIconLi
     void keyPressEvent(QKeyEvent* pEvent) override;
 
   private:
-    // Where the left button went down, and what has come of it.
-    enum class EPress { None, Ground, Item, ItemOfMany, Drag };
-
     void OnIconsReset() override;
     void OnIconChanged(int nItem) override;
     void OnIconsSelected() override;
 
     void SetUpLook();
     int ItemAt(QPoint pt) const;
-    void TellClick(QPoint pt);
+    // Too far from where the left button went down for a click.
+    bool IsFar(QPoint pt) const;
 
     CIconListModel m_iconsNone;  // shown where the dialog has no list
     CIconListModel& m_icons;
     CIconAdaptor m_adaptor;
     CIconDelegate m_delegate;
     bool m_bMirroring = false;  // what the view does now comes from the list
-    EPress m_press = EPress::None;
+    CIconListHand m_hand{m_icons};
     QPoint m_ptPress;
 };

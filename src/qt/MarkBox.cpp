@@ -3,7 +3,6 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include "qt/AccessibleNames.h"
 #include "qt/SkinColors.h"
 #include "qt/Text.h"
 #include "window/Dialog.h"
@@ -18,25 +17,11 @@ constexpr QColor kWell(228, 233, 228);
 constexpr QColor kPaleWell(186, 194, 188);
 constexpr QColor kPaleMark(150, 158, 153);
 
-// The label that stands beside a mark without a caption of its own names it.
-QString NameOfMark(const CControlContext& context) {
-    const auto& arrAll = context.dialog.Controls().All();
-    for (std::size_t i = 0; i + 1 < arrAll.size(); ++i)
-        for (std::size_t nNext = i + 1; arrAll[i].nId == context.control.nId && nNext < arrAll.size();
-             ++nNext) {
-            const CControl& other = arrAll[nNext];
-            if (other.kind == EControlKind::BitmapLabel && other.rcPlace.top == context.control.rcPlace.top)
-                return FindAccessibleName(other.strCaption);
-        }
-    return {};
-}
-
 }  // namespace
 
 CMarkBox::CMarkBox(const CControlContext& context) : QAbstractButton(context.pParent), m_context(context) {
     setFocusPolicy(Qt::StrongFocus);
     setText(ToQt(context.control.strCaption));  // also sets the key that an & names
-    if (text().isEmpty()) setAccessibleName(NameOfMark(context));
     connect(this, &QAbstractButton::clicked, this, [this] {
         ClickMark(m_context.dialog.Controls(), m_context.control.nId);
         m_context.dialog.OnCommand(m_context.control.nId);

@@ -6,14 +6,16 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "qt/AccessibleNames.h"
 #include "qt/Pictures.h"
 #include "qt/SkinColors.h"
+#include "qt/Text.h"
 #include "window/Dialog.h"
 
 namespace {
 
 constexpr char kStyle[] = "QListView { border: none; background: #6d797e; }";
+constexpr char kBorderStyle[] =
+    "QListView { border: 1px solid; border-color: #4a5458 #aab5ac #aab5ac #4a5458; background: #6d797e; }";
 constexpr int kWheelNotch = 120;  // what a wheel reports for one click
 
 bool MovesRow(int nKey) {
@@ -45,8 +47,7 @@ QSize CPictureDelegate::sizeHint(const QStyleOptionViewItem& option, const QMode
 
 CPictureListWidget::CPictureListWidget(const CControlContext& context)
     : QListView(context.pParent), m_context(context), m_delegate(context.pictures, context.nDensity) {
-    setStyleSheet(QString(kStyle) + kScrollBarStyle);
-    setAccessibleName(FindAccessibleName(std::to_string(context.control.nId)));
+    setStyleSheet(QString(HasBorder(context.control) ? kBorderStyle : kStyle) + kScrollBarStyle);
     setModel(&m_model);
     setItemDelegate(&m_delegate);
     setEditTriggers(NoEditTriggers);
@@ -67,13 +68,13 @@ void CPictureListWidget::MirrorRows() {
     const int nRows = static_cast<int>(arrItems.size());
     if (m_model.rowCount() > nRows) m_model.setRowCount(nRows);
     for (int nRow = 0; nRow < nRows; ++nRow) {
-        const std::string& strPicture = arrItems[static_cast<std::size_t>(nRow)].strText;
+        const CListItem& row = arrItems[static_cast<std::size_t>(nRow)];
         if (nRow == m_model.rowCount()) m_model.appendRow(std::make_unique<QStandardItem>().release());
         QStandardItem& item = *m_model.item(nRow);
-        const QString strName = QString::fromStdString(strPicture);
-        if (item.data(CPictureDelegate::kPictureRole).toString() == strName) continue;
-        item.setData(strName, CPictureDelegate::kPictureRole);
-        item.setData(FindEffectName(strPicture), Qt::AccessibleTextRole);
+        item.setData(ToQt(row.strSpoken), Qt::AccessibleTextRole);
+        const QString strName = ToQt(row.strText);
+        if (item.data(CPictureDelegate::kPictureRole).toString() != strName)
+            item.setData(strName, CPictureDelegate::kPictureRole);
     }
     MirrorSelection();
 }

@@ -22,13 +22,11 @@ QImage OnWhite(const QImage& image) {
 }
 
 CxImage FromQtImage(const QImage& image) {
-    CxImage copy;
     CPixels pixels;
-    if (!pixels.CreateRaw(image.width(), image.height())) return copy;
+    if (!pixels.CreateRaw(image.width(), image.height())) return {};
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(pixels.MutableRow(y).data(), image.constScanLine(y), pixels.Stride());
-    copy.CreateFromHBITMAP(std::move(pixels));
-    return copy;
+    return CxImage(std::move(pixels));
 }
 
 }  // namespace

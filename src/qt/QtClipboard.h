@@ -4,6 +4,6 @@
 
 class CQtClipboard : public CClipboard {
   public:
-    bool SetBitmap(std::span<const std::uint8_t> arrDib) override;
+    [[nodiscard]] bool SetBitmap(std::span<const std::uint8_t> arrDib) override;
     std::optional<std::vector<std::uint8_t>> GetBitmap() override;
 };

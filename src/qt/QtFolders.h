@@ -6,6 +6,6 @@ class CQtFolders : public CFolders {
   public:
     char Separator() const override;
     std::string CurrentFolder() const override;
-    bool SetCurrentFolder(const std::string& strFolder) override;
+    [[nodiscard]] bool SetCurrentFolder(const std::string& strFolder) override;
     std::string InstallValue() const override;
 };

@@ -19,7 +19,7 @@ class CQtShell : public CShell {
     explicit CQtShell(CMessageBoxes& boxes, CLaunch fnLaunch = QDesktopServices::openUrl)
         : m_boxes(boxes), m_fnLaunch(std::move(fnLaunch)) {}
 
-    bool Delete(const std::vector<std::string>& arrPaths, bool bToBin, bool bAsk) override;
+    [[nodiscard]] bool Delete(const std::vector<std::string>& arrPaths, bool bToBin, bool bAsk) override;
     void Open(const std::string& strPath) override;
 
   private:

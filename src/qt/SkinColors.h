@@ -2,13 +2,13 @@
 
 #include <QColor>
 
+#include "image/Color.h"
+
 // The colours that widgets share with the skin.
 namespace SkinColors {
 
 inline constexpr QColor kLit(235, 235, 235);         // text on the skin
-inline constexpr QColor kInfoStrip(142, 154, 143);   // ground of the info lines
-inline constexpr QColor kHelpLine(117, 131, 134);    // ground of the help line
-inline constexpr QColor kLevel(75, 94, 103);         // ground of the level text
+inline constexpr QColor kLevel(75, 94, 103);         // ground of progress
 inline constexpr QColor kListGround(109, 121, 126);  // ground of the lists
 inline constexpr QColor kListRim(74, 84, 88);        // darker than every ground: the rim of an inset
 inline constexpr QColor kFace(214, 220, 214);        // ground of plain dialogs
@@ -18,6 +18,10 @@ inline constexpr QColor kPaleInk(134, 143, 138);     // the same, disabled
 inline constexpr QColor kWarm(232, 143, 54);         // marks and the rim of the focus
 
 }  // namespace SkinColors
+
+inline QColor ToQt(CColor color) {
+    return {color.r, color.g, color.b};
+}
 
 // Style sheet of scroll bars on the skin, 16 pixels wide.
 inline constexpr char kScrollBarStyle[] = R"(

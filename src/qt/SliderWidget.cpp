@@ -6,7 +6,6 @@
 #include <QSignalBlocker>
 #include <QTimerEvent>
 
-#include "qt/AccessibleNames.h"
 #include "qt/KeyCodes.h"
 #include "qt/MouseEvents.h"
 #include "qt/Pictures.h"
@@ -30,7 +29,6 @@ CSliderWidget::CSliderWidget(const CControlContext& context)
     setOrientation(bUpright ? Qt::Vertical : Qt::Horizontal);
     setFocusPolicy(Qt::WheelFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setAccessibleName(FindAccessibleName(std::to_string(context.control.nId)));
     SetDensity(context.nDensity);
     Mirror(EControlChange::Range);
     // Somebody else than the hand has moved it: a screen reader's command.

@@ -2,28 +2,12 @@
 
 #include <QPainter>
 #include <algorithm>
-#include <array>
 
 #include "qt/FontMapping.h"
 #include "qt/SkinColors.h"
 #include "qt/Text.h"
-#include "resources/Ids.h"
-#include "window/Dialog.h"
 
 namespace {
-
-struct CGround {
-    int nId;
-    QColor color;
-};
-
-// The lines of the main window stand on these parts of the skin.
-constexpr std::array kGrounds = {
-    CGround{kInfoName, SkinColors::kInfoStrip},  CGround{kBrowseName, SkinColors::kInfoStrip},
-    CGround{kInfoSize, SkinColors::kInfoStrip},  CGround{kBrowseSize, SkinColors::kInfoStrip},
-    CGround{kInfoDepth, SkinColors::kInfoStrip}, CGround{kBrowseDepth, SkinColors::kInfoStrip},
-    CGround{kHelpLine, SkinColors::kHelpLine},   CGround{kEffectLevel, SkinColors::kLevel},
-};
 
 // The largest letters, up to the usual size, that stand in a line of that height.
 int FontPixels(int nHeight) {
@@ -42,13 +26,10 @@ QString WithoutTrailingBlanks(const QString& str) {
 CTextLabel::CTextLabel(const CControlContext& context)
     : QWidget(context.pParent), m_control(context.control) {
     setFont(MapFont({}, FontPixels(context.control.rcPlace.Height())));
-    m_colorText = palette().color(QPalette::WindowText);
-    if (context.dialog.Template().nId != kDlgMain) return;
-    const auto it = std::find_if(kGrounds.begin(), kGrounds.end(),
-                                 [this](const CGround& ground) { return ground.nId == m_control.nId; });
-    if (it == kGrounds.end()) return;
-    m_colorText = SkinColors::kLit;
-    m_colorGround = it->color;
+    Mirror(EControlChange::Text);
+    const CControlLook& look = context.control.look;
+    m_colorText = look.colorText ? ToQt(*look.colorText) : palette().color(QPalette::WindowText);
+    if (look.colorGround) m_colorGround = ToQt(*look.colorGround);
 }
 
 void CTextLabel::Mirror(EControlChange change) {

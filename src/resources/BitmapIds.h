@@ -1,7 +1,7 @@
 #pragma once
 
-// The pictures of the skin by their numbers. Where each stands is the affair of whoever draws it; buttons find
-// theirs by their captions.
+// The pictures of the skin by their numbers. Where each stands is the affair of whoever draws it; buttons
+// find theirs by their captions.
 
 // The main window: the whole ground, and clean strips that wipe a hint below the top bar and below the tabs
 inline constexpr int kBmpBackground = 522;
@@ -23,8 +23,8 @@ inline constexpr int kBmpPanelDraw = 343;
 // The file list's folders
 inline constexpr int kBmpFolder = 413;
 inline constexpr int kBmpFolderLit = 415;
-// The effect list: a strip of all normal pictures, and one picture an effect in each form, in the order of the
-// effects
+// The effect list: a strip of all normal pictures, and one picture an effect in each form, in the order of
+// the effects
 inline constexpr int kBmpEffectStrip = 196;
 inline constexpr int kBmpEffectSelected = 198;
 inline constexpr int kBmpEffectNormal = 229;

@@ -1,6 +1,7 @@
 #include "resources/MainDialog.h"
 
 #include "resources/Ids.h"
+#include "resources/MainLooks.h"
 
 namespace {
 
@@ -112,5 +113,5 @@ constexpr CControlTemplate kControls[] = {
 
 }  // namespace
 
-const CDialogTemplate kMainDialog = {
-    kDlgMain, "Orvo Fotarium V 1.0", {1014, 710}, EDialogFrame::Caption, kControls};
+const CDialogTemplate kMainDialog = {kDlgMain,  "Orvo Fotarium V 1.0", {1014, 710}, EDialogFrame::Caption,
+                                     kControls, MainLooks::kTable};

@@ -29,6 +29,13 @@ constexpr CControlTemplate kSizeControls[] = {
     {kSizeCancel, EControlKind::BitmapButton, CRect::FromPlace(278, 110, 86, 24), "SIZECANCEL"},
 };
 
+// The dialog's picture has the wells around these drawn already.
+constexpr CControlLookRow kSizeLooks[] = {
+    {kSizeWidth, {.border = EBorder::None}},
+    {kSizeHeight, {.border = EBorder::None}},
+    {kSizePhoneList, {.border = EBorder::None}},
+};
+
 constexpr CMenuItemTemplate kMenuItems[] = {
     {kMenuSize, "变更大小"}, {kMenuFlipVertical, "上下"}, {kMenuFlipHorizontal, "左右"},
     {kMenuTurnLeft, "-90°"}, {kMenuTurnRight, "+90°"},    {kMenuLarge, "扩大"},
@@ -40,5 +47,6 @@ constexpr CMenuItemTemplate kMenuItems[] = {
 
 const CDialogTemplate kSplashDialog = {kDlgSplash, "", {447, 350}, EDialogFrame::None, kSplashControls};
 const CDialogTemplate kPreviewPanel = {kDlgPreview, "", {142, 232}, EDialogFrame::Child, kPreviewControls};
-const CDialogTemplate kSizeDialog = {kDlgSize, "大小变更", {400, 192}, EDialogFrame::Plain, kSizeControls};
+const CDialogTemplate kSizeDialog = {kDlgSize,      "大小变更", {400, 192}, EDialogFrame::Plain,
+                                     kSizeControls, kSizeLooks, kSizeOk,    kSizeCancel};
 const std::span<const CMenuItemTemplate> kPictureMenu = kMenuItems;

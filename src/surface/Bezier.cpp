@@ -65,12 +65,11 @@ void Flatten(const CCurve& curve, int nHalvings, std::vector<CFarPoint>& points)
 
 }  // namespace
 
-bool CSurface::Bezier(const std::array<CPoint, 4>& points) {
+void CSurface::Bezier(const std::array<CPoint, 4>& points) {
     CCurve curve;
     for (std::size_t i = 0; i < curve.size(); ++i) curve[i] = {kUnit * points[i].x, kUnit * points[i].y};
     std::vector<CFarPoint> line = {{points[0].x, points[0].y}};
     Flatten(curve, kMaxHalvings, line);
     CRaster raster = Raster();
     CStroke(raster, m_pen, GapColor()).Polyline(line, false);
-    return true;
 }

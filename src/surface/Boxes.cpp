@@ -21,9 +21,9 @@ int Near(int n) {
 
 }  // namespace
 
-bool CSurface::Rectangle(const CRect& rc) {
+void CSurface::Rectangle(const CRect& rc) {
     const CRect rcBox = InOrder(rc);
-    if (rcBox.IsEmpty()) return true;
+    if (rcBox.IsEmpty()) return;
     CRaster raster = Raster();
     const std::int64_t xRight = std::int64_t{rcBox.right} - 1;
     const std::int64_t yBottom = std::int64_t{rcBox.bottom} - 1;
@@ -32,18 +32,15 @@ bool CSurface::Rectangle(const CRect& rc) {
     const std::array<CFarPoint, 4> corners = {
         {{xRight, rcBox.top}, {rcBox.left, rcBox.top}, {rcBox.left, yBottom}, {xRight, yBottom}}};
     CStroke(raster, m_pen, GapColor()).Polyline(corners, true);
-    return true;
 }
 
-bool CSurface::Ellipse(const CRect& rc) {
+void CSurface::Ellipse(const CRect& rc) {
     const CRect rcBox = InOrder({Near(rc.left), Near(rc.top), Near(rc.right), Near(rc.bottom)});
     DrawRound(rcBox, CEllipseOutline::kMaxSide, CEllipseOutline::kMaxSide);
-    return true;
 }
 
-bool CSurface::RoundRect(const CRect& rc, CSize sizeEllipse) {
+void CSurface::RoundRect(const CRect& rc, CSize sizeEllipse) {
     DrawRound(InOrder(rc), std::abs(std::int64_t{sizeEllipse.cx}), std::abs(std::int64_t{sizeEllipse.cy}));
-    return true;
 }
 
 void CSurface::DrawRound(const CRect& rc, std::int64_t nEllipseWidth, std::int64_t nEllipseHeight) {

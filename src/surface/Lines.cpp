@@ -16,21 +16,20 @@ std::vector<CFarPoint> FarPoints(std::span<const CPoint> points) {
 
 }  // namespace
 
-bool CSurface::LineTo(CPoint pt) {
+void CSurface::LineTo(CPoint pt) {
     const CPoint points[] = {m_ptPosition, pt};
     m_ptPosition = pt;
-    return Polyline(points);
+    Polyline(points);
 }
 
-bool CSurface::Polyline(std::span<const CPoint> points) {
-    if (points.size() < 2) return false;
+void CSurface::Polyline(std::span<const CPoint> points) {
+    if (points.size() < 2) return;
     CRaster raster = Raster();
     CStroke(raster, m_pen, GapColor()).Polyline(FarPoints(points), false);
-    return true;
 }
 
-bool CSurface::Polygon(std::span<const CPoint> points) {
-    if (points.size() < 2) return false;
+void CSurface::Polygon(std::span<const CPoint> points) {
+    if (points.size() < 2) return;
     const std::vector<CFarPoint> corners = FarPoints(points);
     CRaster raster = Raster();
     if (!m_brush.bHollow) {
@@ -41,5 +40,4 @@ bool CSurface::Polygon(std::span<const CPoint> points) {
                 raster.Span(scan.Row(), span.nLeft, span.nRight, m_brush.color);
     }
     CStroke(raster, m_pen, GapColor()).Polyline(corners, true);
-    return true;
 }

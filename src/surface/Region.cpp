@@ -125,10 +125,9 @@ bool CRegion::Offset(int dx, int dy) {
     return true;
 }
 
-bool CSurface::FillRegion(const CRegion& region, CColor color) {
+void CSurface::FillRegion(const CRegion& region, CColor color) {
     CRaster raster = Raster();
     const CRect rcSeen = region.Box().Intersect(Bounds());
     for (int y = rcSeen.top; y < rcSeen.bottom; ++y)
         for (const CRun& run : region.RowRuns(y)) raster.Span(y, run.nLeft, run.nRight, color);
-    return true;
 }

@@ -8,9 +8,7 @@
 
 #include "surface/PixelRun.h"
 
-CSurface::CSurface(int nWidth, int nHeight) {
-    m_pixels.Create(nWidth, nHeight);
-}
+CSurface::CSurface(int nWidth, int nHeight) : m_pixels(CPixels::MakeFilled(nWidth, nHeight, {})) {}
 
 CRect CSurface::TakeDirty() {
     return std::exchange(m_rcDirty, {});

@@ -39,7 +39,7 @@ class CSurface {
     const CPixels& Pixels() const { return m_pixels; }
 
     // Makes the pixels this surface's own, so that no drawing call has to. False if memory is short.
-    bool Separate() { return m_pixels.Separate(); }
+    [[nodiscard]] bool Separate() { return m_pixels.Separate(); }
 
     // The box around all that the drawing calls have painted since the last call, whatever colour was there
     // before; empty if they have painted nothing.
@@ -65,34 +65,34 @@ class CSurface {
     // Figures. The pen draws the outline on the pixels of its points; a line leaves out its last point, and
     // if it has no length it leaves nothing of a pen one pixel wide and a dot of a wider one. The brush fills
     // the inside, under the pen. Boxes take their corners in any order and leave out their right and bottom
-    // edge. The result tells whether the call could draw, not whether a pixel was seen.
+    // edge.
 
     void MoveTo(CPoint pt) { m_ptPosition = pt; }
     // From the position, which the end point becomes.
-    bool LineTo(CPoint pt);
-    // Through the points, without touching the position. False with fewer than two.
-    bool Polyline(std::span<const CPoint> points);
+    void LineTo(CPoint pt);
+    // Through the points, without touching the position. Fewer than two draw nothing.
+    void Polyline(std::span<const CPoint> points);
     // One cubic Bezier curve from the first point to the last.
-    bool Bezier(const std::array<CPoint, 4>& points);
+    void Bezier(const std::array<CPoint, 4>& points);
 
     // With the null pen the brush leaves out the last column and the last row of the box as well.
-    bool Rectangle(const CRect& rc);
+    void Rectangle(const CRect& rc);
     // Corners beyond kFarthest count as being there.
-    bool Ellipse(const CRect& rc);
+    void Ellipse(const CRect& rc);
     // Corners rounded by quarters of an ellipse of the given size.
-    bool RoundRect(const CRect& rc, CSize sizeEllipse);
+    void RoundRect(const CRect& rc, CSize sizeEllipse);
     static constexpr int kFarthest = 1 << 30;
     // Closed from the last point to the first; inside is where a ray crosses the outline an odd number of
-    // times. False with fewer than two points.
-    bool Polygon(std::span<const CPoint> points);
+    // times. Fewer than two points draw nothing.
+    void Polygon(std::span<const CPoint> points);
 
     // The brush over every pixel that has exactly the colour crOld and hangs together with pt through such
     // pixels to the left, right, above and below. False, and nothing changes, if pt lies outside or has
     // another colour, or if memory is short.
-    bool FloodFill(CPoint pt, CColor crOld);
+    [[nodiscard]] bool FloodFill(CPoint pt, CColor crOld);
 
     // Neither pen nor brush takes part.
-    bool FillRegion(const CRegion& region, CColor color);
+    void FillRegion(const CRegion& region, CColor color);
 
     // The pixels of the calls below are not this surface's own; a copy of it that shares them may be given.
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "image/Color.h"
 #include "image/Geometry.h"
 
 // What the user can operate or read in a dialog, as plain data. The window layer turns each of these into a
@@ -27,10 +29,22 @@ enum class EControlKind {
     View,  // scrolling view, see CScrollView
 };
 
+// One pixel around a control, inside its place. ByKind: edits and combos have one, the rest has none.
+enum class EBorder { ByKind, None, Sunken };
+
+// What a control is called where it shows no text, and how it looks where its kind leaves that open.
+struct CControlLook {
+    const char* szSpoken = "";
+    std::optional<CColor> colorText{};    // of a line of text
+    std::optional<CColor> colorGround{};  // below the text; none lets the dialog's ground through
+    EBorder border = EBorder::ByKind;
+};
+
 // Row of a list; which fields count depends on the kind.
 struct CListItem {
     std::string strText;
     int nImage = -1;
+    std::string strSpoken{};  // what a picture shows, for whoever has it read aloud
     bool operator==(const CListItem&) const = default;
 };
 
@@ -50,7 +64,13 @@ struct CControl {
     int nPos = 0;
     int nSel = -1;  // selected row; -1 for none
     std::vector<CListItem> arrItems;
+    CControlLook look;  // never changes
 };
+
+inline bool HasBorder(const CControl& control) {
+    const bool bOfKind = control.kind == EControlKind::Edit || control.kind == EControlKind::Combo;
+    return control.look.border == EBorder::Sunken || (control.look.border == EBorder::ByKind && bOfKind);
+}
 
 // What of a control has changed.
 enum class EControlChange { Shown, Enabled, Checked, Text, Place, Range, Position, Selection, Items, Focus };

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-CControlSet::CControlSet(std::span<const CControlTemplate> arrTemplate) {
+CControlSet::CControlSet(std::span<const CControlTemplate> arrTemplate,
+                         std::span<const CControlLookRow> arrLooks) {
     m_arrControls.reserve(arrTemplate.size());
     for (const CControlTemplate& entry : arrTemplate) {
         CControl control;
@@ -18,6 +19,8 @@ CControlSet::CControlSet(std::span<const CControlTemplate> arrTemplate) {
         m_mapIndex.emplace(entry.nId, m_arrControls.size());
         m_arrControls.push_back(std::move(control));
     }
+    for (const CControlLookRow& row : arrLooks)
+        if (CControl* pControl = Get(row.nId); pControl != nullptr) pControl->look = row.look;
 }
 
 CControl* CControlSet::Get(int nId) {

@@ -21,7 +21,8 @@ class CControlObserver {
 // operation, as the platform does with a control that is not there.
 class CControlSet {
   public:
-    explicit CControlSet(std::span<const CControlTemplate> arrTemplate);
+    explicit CControlSet(std::span<const CControlTemplate> arrTemplate,
+                         std::span<const CControlLookRow> arrLooks = {});
 
     const std::vector<CControl>& All() const { return m_arrControls; }
     // Null if there is no such control.

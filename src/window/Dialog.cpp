@@ -2,7 +2,7 @@
 
 CDialog::CDialog(const CDialogTemplate& dialogTemplate)
     : m_template(dialogTemplate),
-      m_controls(dialogTemplate.arrControls),
+      m_controls(dialogTemplate.arrControls, dialogTemplate.arrLooks),
       m_client(dialogTemplate.sizeClient) {}
 
 void CDialog::Paint() {

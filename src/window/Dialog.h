@@ -73,8 +73,8 @@ class CDialog : public CTimerTarget, public CPanelHost {
 
     // --- called by the logic ---
 
-    static constexpr int kDialogOk = 1;
-    static constexpr int kDialogCancel = 2;
+    static constexpr int kDialogOk = ::kDialogOk;
+    static constexpr int kDialogCancel = ::kDialogCancel;
 
     void Invalidate() override;
     void EndDialog(int nCode);

@@ -11,7 +11,7 @@ class CFolders {
     virtual char Separator() const = 0;
     virtual std::string CurrentFolder() const = 0;
     // False if the folder cannot be entered; the current folder then stays.
-    virtual bool SetCurrentFolder(const std::string& strFolder) = 0;
+    [[nodiscard]] virtual bool SetCurrentFolder(const std::string& strFolder) = 0;
     // The stored value of the install folder as it stands, quotes included; empty if there is none.
     virtual std::string InstallValue() const = 0;
 };

@@ -16,6 +16,11 @@ struct CControlTemplate {
     int nMaxText = 0;
 };
 
+struct CControlLookRow {
+    int nId;
+    CControlLook look;
+};
+
 enum class EDialogFrame {
     Caption,  // title bar with system menu and minimise box
     Plain,    // title bar with close box
@@ -23,12 +28,21 @@ enum class EDialogFrame {
     Child,    // stands inside another window
 };
 
+// Ids of the platform's own buttons, and the codes with which they end a dialog.
+inline constexpr int kDialogOk = 1;
+inline constexpr int kDialogCancel = 2;
+
 struct CDialogTemplate {
     int nId;
     const char* szTitle;
     CSize sizeClient;
     EDialogFrame frame;
     std::span<const CControlTemplate> arrControls;
+    // Of the controls that need one.
+    std::span<const CControlLookRow> arrLooks = {};
+    // The buttons that Enter and Esc mean; they need not be there.
+    int nDefault = kDialogOk;
+    int nCancel = kDialogCancel;
 };
 
 struct CMenuItemTemplate {

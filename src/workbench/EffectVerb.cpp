@@ -73,8 +73,7 @@ CVerbResult RunEffectVerb(std::span<const std::string> words) {
     if (call.nStatus != kDone) return call;
     CPpmPicture picture = ReadPpm(job.strIn);
     if (!picture.strError.empty()) return CannotBeDone(job.strIn + " " + picture.strError);
-    CxImage image;
-    image.CreateFromHBITMAP(std::move(picture.pixels));
+    CxImage image(std::move(picture.pixels));
     CRandomSequence random;
     if (job.nSeed) random.Seed(*job.nSeed);
     CImageEffect engine(random);

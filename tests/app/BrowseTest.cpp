@@ -11,8 +11,8 @@ class BrowseTest : public Workshop {
     BrowseTest() {
         std::filesystem::create_directories(Start("in"));
         for (int n = 0; n < 20; ++n)
-            NumberedImage(30 + n, 20)
-                .Save(Start(std::string("p") + std::to_string(n) + ".jpg"), ImageType::kJpeg);
+            EXPECT_TRUE(NumberedImage(30 + n, 20)
+                            .Save(Start(std::string("p") + std::to_string(n) + ".jpg"), ImageType::kJpeg));
         m_folder.Write("start/" + kFolder + "/bad.jpg", "no picture");
         m_platform.AddDrive('C', m_folder.Path("start"));
         m_dialog.Thum().Build();

@@ -29,8 +29,7 @@ class EffectFlowTest : public Workshop {
 
     // What the engine makes of these pixels; its random sequence goes on from call to call.
     CPixels Engine(const CPixels& pixels, int nEffect, int nLevel, bool bFull) {
-        CxImage image;
-        image.CreateFromHBITMAP(pixels);
+        CxImage image(pixels);
         EXPECT_TRUE(m_engine.ApplyEffect(image, nEffect, nLevel, bFull, Images().m_nDispWidth));
         return image.Pixels();
     }

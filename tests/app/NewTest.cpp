@@ -3,9 +3,7 @@
 namespace {
 
 CPixels WhitePixels(CSize size) {
-    CPixels pixels;
-    pixels.CreateFilled(size.cx, size.cy, {255, 255, 255});
-    return pixels;
+    return CPixels::MakeFilled(size.cx, size.cy, {255, 255, 255});
 }
 
 using NewTest = Workshop;

@@ -96,8 +96,6 @@ struct CWalkModel {
     }
     void New() {
         if (!bOpen) now.sizeDisplay = {640, 480};
-        CPixels page;
-        page.CreateFilled(Ruled().cx, Ruled().cy, {255, 255, 255});
-        Start(page);
+        Start(CPixels::MakeFilled(Ruled().cx, Ruled().cy, {255, 255, 255}));
     }
 };

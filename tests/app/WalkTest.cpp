@@ -167,7 +167,7 @@ class WalkTest : public Workshop {
         else if (Pick(8) == 0)
             std::filesystem::copy_file(m_folder.Path("bad.jpg"), strFile, error);
         else
-            NumberedImage(1 + Pick(40), 1 + Pick(40)).Save(strFile, ImageType::kJpeg);
+            EXPECT_TRUE(NumberedImage(1 + Pick(40), 1 + Pick(40)).Save(strFile, ImageType::kJpeg));
     }
     CTreeItem RandomNode() {
         const CTreeModel& tree = Tree().Model();

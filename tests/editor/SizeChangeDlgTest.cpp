@@ -6,6 +6,7 @@
 
 #include "resources/Ids.h"
 #include "support/Pictures.h"
+#include "window/DialogKeys.h"
 
 namespace {
 
@@ -131,7 +132,7 @@ TEST_F(SizeChangeDlg, WithoutTheRatioBothSidesAreFree) {
     // Turned off behind the typing: nothing is settled any more.
     Type(kSizeWidth, "101");
     m_pDialog->OnCommand(kSizeKeepRatioLabel);
-    EXPECT_TRUE(m_pDialog->OnKey({kKeyEnter, false, false}));
+    EXPECT_TRUE(DoDialogKey(*m_pDialog, {kKeyEnter, false, false}));
     EXPECT_EQ(m_pDialog->Size(), (CSize{101, 75}));
     EXPECT_EQ(m_pDialog->EndCode(), CDialog::kDialogOk);
 }
@@ -160,13 +161,12 @@ TEST_F(SizeChangeDlg, ThePhonesSizesHaveAPageOfTheirOwn) {
     Controls().Select(kSizePhoneList, 1);
     Type(kSizeWidth, "100");
     m_pDialog->OnCommand(kSizeToPhone);
-    EXPECT_TRUE(m_pDialog->OnKey({kKeyEnter, false, false}));
+    EXPECT_TRUE(DoDialogKey(*m_pDialog, {kKeyEnter, false, false}));
     EXPECT_EQ(m_pDialog->Size(), (CSize{1280, 960}));
 
     Open({640, 480}, {{176, 144}});
     Type(kSizeWidth, "100");
-    EXPECT_FALSE(m_pDialog->OnKey({kKeyEscape, false, false}));
-    m_pDialog->OnCommand(kSizeCancel);
+    EXPECT_TRUE(DoDialogKey(*m_pDialog, {kKeyEscape, false, false}));
     EXPECT_EQ(m_pDialog->EndCode(), CDialog::kDialogCancel);
     EXPECT_EQ(m_pDialog->Size(), (CSize{640, 480}));
     EXPECT_EQ(m_arrBoxes.size(), 1U);

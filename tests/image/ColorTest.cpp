@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "image/CpuChoice.h"
 #include "image/TestPictures.h"
 
 namespace {
@@ -119,7 +120,13 @@ TEST(Color, EqualisationSpreadsTheLuminances) {
             for (int i = nGrey; i < 256; ++i) count[i] += 1;
         }
     }
+    CxImage plain = image;
     ASSERT_TRUE(image.HistogramEqualize());
+    {
+        const CPlainLoops loops;
+        ASSERT_TRUE(plain.HistogramEqualize());
+    }
+    EXPECT_EQ(plain.Pixels(), image.Pixels());
     for (int y = 0; y < 37; ++y) {
         for (int x = 0; x < 53; ++x) {
             CColor yuv = CxImage::RGBtoYUV(before.GetPixelColor(x, y));

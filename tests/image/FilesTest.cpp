@@ -31,8 +31,12 @@ class CFullDisk {
 
 class Files : public CFolderTest {
   protected:
+    // What has no picture has no head either.
     static bool Opens(const std::string& strPath) {
-        return CxImage(strPath, FindImageTypeOfName(strPath)).IsValid();
+        const ImageType type = FindImageTypeOfName(strPath);
+        const bool bOpens = LoadPicture(strPath, type).IsValid();
+        EXPECT_EQ(ReadImageHead(strPath, type) != CImageHead(), bOpens) << strPath;
+        return bOpens;
     }
 };
 

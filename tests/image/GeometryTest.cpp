@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
 
+#include "image/CpuChoice.h"
 #include "image/TestPictures.h"
 
 namespace {
@@ -71,6 +73,8 @@ TEST(Geometry, TurnsAndScalesLikeTheNaiveForm) {
     std::mt19937 random(nSeed);
     const auto side = [&](unsigned nMost) { return 1 + static_cast<int>(random() % nMost); };
     for (int i = 0; i < 60; ++i) {
+        std::optional<CPlainLoops> plain;
+        if (i % 2 == 0) plain.emplace();
         // Every third picture reaches over the edge of a block.
         const CxImage source =
             WithAlpha(RandomPicture(random, side(i % 3 == 0 ? 200 : 40), side(i % 3 == 0 ? 160 : 40)));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "image/BlockGate.h"
 #include "image/TestPictures.h"
 
 namespace {
@@ -46,8 +47,7 @@ TEST(Pixels, AWriteIsNeverSeenThroughAnotherCopy) {
                     break;
                 default: {
                     CxImage other = images[a];
-                    other.Mirror();
-                    other.HistogramEqualize();
+                    ASSERT_TRUE(other.Mirror() && other.HistogramEqualize());
                     break;
                 }
             }
@@ -96,6 +96,41 @@ TEST(Pixels, SizesThatCannotBeHeldAreRefused) {
     EXPECT_TRUE(refused(INT32_MAX, 1)) << "2 GiB of pixels are the limit";
     EXPECT_FALSE(CPixels::Fits(26755, 26755));
     EXPECT_FALSE(CxImage(4, 4, 7).IsValid()) << "no such depth";
+}
+
+// The n-th block that an operation takes is refused, until it needs no more of them. Small pictures never
+// come near the gate; the large one's blocks are kept ones from the second round on.
+TEST(Pixels, WithoutMemoryEveryOperationLeavesThePictureAsItWas) {
+    const std::pair<const char*, bool (*)(CxImage&)> operations[] = {
+        {"write", [](CxImage& image) { return !image.MutableBytes().empty(); }},
+        {"create", [](CxImage& image) { return image.Create(1500, 1000); }},
+        {"scale", [](CxImage& image) { return image.Resample(1600, 999); }},
+        {"turn", [](CxImage& image) { return image.Rotate(90.0); }},
+        {"flip", [](CxImage& image) { return image.Flip(); }},
+        {"alpha", [](CxImage& image) { return image.SetAlpha(Bytes(1500 * 1000, 9)); }},
+        {"equalise", [](CxImage& image) { return image.HistogramEqualize(); }},
+    };
+    CxImage source = SmoothPicture(1500, 1000);
+    ASSERT_TRUE(source.SetAlpha(Bytes(1500 * 1000, 77)));
+    for (const auto& [szName, operate] : operations) {
+        bool bDone = false;
+        for (int n = 1; !bDone; ++n) {
+            CxImage image = source;
+            const CBlockGate gate(n);
+            bDone = operate(image);
+            EXPECT_EQ(bDone, !gate.HasRefused()) << szName << ", block " << n;
+            EXPECT_EQ(gate.Count(), bDone ? n - 1 : n) << szName;
+            if (bDone) break;
+            EXPECT_TRUE(image.Pixels().SharesWith(source.Pixels())) << szName << ", block " << n;
+            EXPECT_EQ(image.Alpha().data(), source.Alpha().data()) << szName << ", block " << n;
+        }
+    }
+    const CBlockGate gate(1);
+    CPixels small;
+    EXPECT_TRUE(small.Create(128, 128)) << "below the gate";
+    EXPECT_FALSE(CPixels().Create(148, 148));
+    EXPECT_TRUE(CPixels().Create(148, 148)) << "one block only is refused";
+    EXPECT_EQ(gate.Count(), 2);
 }
 
 TEST(Pixels, LargeBlocksThatAreKeptAreHandedOutOnce) {

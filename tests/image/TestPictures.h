@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "image/Image.h"
+#include "image/ImageHead.h"
 
 // What the tests of the picture container share: pictures, files, and the seed of a random run.
 
@@ -64,6 +65,15 @@ inline Bytes ReadBytes(const std::string& strPath) {
 inline void WriteBytes(const std::string& strPath, std::span<const std::uint8_t> bytes) {
     std::ofstream out(strPath, std::ios::binary);
     out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+}
+
+// Loads a picture. Its file's head must say the same of it.
+inline CxImage LoadPicture(const std::string& strPath, ImageType type) {
+    CxImage image(strPath, type);
+    if (image.IsValid()) {
+        EXPECT_EQ(ReadImageHead(strPath, type), (CImageHead{image.GetSize(), image.GetBpp()})) << strPath;
+    }
+    return image;
 }
 
 inline void WriteText(const std::string& strPath, std::string_view strText) {

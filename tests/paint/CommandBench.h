@@ -129,8 +129,7 @@ class CommandBench : public testing::Test,
     }
     CPixels Clip() const {
         CxImage image;
-        if (m_clip) image.CreateFromHANDLE(*m_clip);
-        return image.Pixels();
+        return m_clip && image.CreateFromHANDLE(*m_clip) ? image.Pixels() : CPixels();
     }
 
     CEditState m_state;

@@ -149,12 +149,12 @@ TEST_F(StrokeTools, FillGoesByExactColourAndFourNeighbours) {
     walls.SelectPen(CPen::Solid(1, {1, 2, 3}));
     Line(walls, {0, 20}, {21, -1});  // a diagonal holds
     walls.SetPixel(5, 5, {255, 255, 254});
-    image.ReplacePixels(walls.Pixels());
+    ASSERT_TRUE(image.ReplacePixels(walls.Pixels()));
     Open(image);
     m_tools.m_nTool = ETool::Fill;
     Press({2, 2}, kRight);
     walls.SelectBrush(CBrush::Solid(kBack));
-    walls.FloodFill({2, 2}, kWhite);
+    ASSERT_TRUE(walls.FloodFill({2, 2}, kWhite));
     EXPECT_EQ(walls.GetPixel(0, 19), kBack);
     EXPECT_EQ(walls.GetPixel(1, 20), kWhite);
     EXPECT_EQ(walls.GetPixel(5, 5), (CColor{255, 255, 254}));

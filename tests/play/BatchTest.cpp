@@ -2,28 +2,6 @@
 
 #include "play/ScriptTest.h"
 
-// Whoever has a hundred pictures to do: each goes its own way, and none leaves a trace in the next.
-TEST_F(ScriptTest, HundredPictures) {
-    std::filesystem::create_directory("in");
-    std::filesystem::create_directory("out");
-    std::string strScript;
-    for (int i = 0; i < 100; ++i) {
-        const std::string strName = "图 " + std::to_string(i) + ".png";
-        MakePicture("in/" + strName, 40 + i, 30 + i % 7, i);
-        strScript += "open \"in/" + strName + "\"\n";
-        // Every fourth in the phone's size, every other fourth by way of DRAW and back in time.
-        if (i % 4 == 0) strScript += "mode 4\ncheck 1188\n";
-        if (i % 4 == 2) strScript += "mode 4\ncheck 1188\nmode 1\ncommand 1004\nmode 3\nmode 4\n";
-        strScript += "answer save \"out/" + strName + "\"\ncommand 1002\n";
-    }
-    EXPECT_EQ(Play(strScript + "boxes", true).strOut, "boxes 0\n");
-    for (int i = 0; i < 100; ++i) {
-        const std::string strName = "out/图 " + std::to_string(i) + ".png";
-        const CPixels before = NumberedPixels(40 + i, 30 + i % 7, i);
-        EXPECT_EQ(PixelsOf(strName), i % 4 == 0 ? NaiveResample(before, 176, 144) : before) << strName;
-    }
-}
-
 // The program itself, on a script of this folder.
 class ProgramTest : public ScriptTest {
   protected:
@@ -93,6 +71,9 @@ TEST_F(ProgramTest, ExitStatus) {
     EXPECT_EQ(Run("- < bad.txt"), 1);
     EXPECT_EQ(ReadBytes("err.txt"), "-:2: \"9\" is no mode\n");
     EXPECT_EQ(Run("- < /dev/null"), 0);
+    m_folder.Write("asks.txt", "command 1000\n");
+    EXPECT_EQ(Run("asks.txt"), 0);
+    EXPECT_EQ(Run("--strict asks.txt"), 1);
     EXPECT_EQ(Run("none.txt"), 2);
     EXPECT_EQ(Run(""), 2);
     EXPECT_EQ(Run("--fast bad.txt"), 2);

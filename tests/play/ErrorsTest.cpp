@@ -36,7 +36,7 @@ TEST_F(ScriptTest, NamesTheLineThatCannotBeDone) {
         {"mode 0", "test:1: that mode is up already\n"},
         {"mode 5", "test:1: \"5\" is no mode\n"},
         {"mode -1", "test:1: \"-1\" is no mode\n"},
-        {"select 1117 0", "test:1: list 1117 has no row 0, only 0 from 0 on\n"},
+        {"select 1117 0", "test:1: list 1117 has no item 0, only 0 from 0 on\n"},
         {"select 1000 0", "test:1: control 1000 has no rows\n"},
         {"slider 5", "test:1: control 1047 is hidden\n"},
         {"check 1000", "test:1: \"1000\" is no check box or radio button\n"},
@@ -62,6 +62,11 @@ TEST_F(ScriptTest, NamesTheLineThatCannotBeDone) {
         {"dump sky a.ppm", "test:1: \"sky\" is no picture\n"},
         {"answer box maybe", "test:1: there is no such answer\n"},
         {"answer color ff80", "test:1: there is no such answer\n"},
+        {"answer color gg8000", "test:1: there is no such answer\n"},
+        {"answer font 黑体 bold\ncommand 1000",
+         "test:2: no answer waits for a question of the kind open, but one of the kind font\n"},
+        {"answer color ff8000\ncommand 1000",
+         "test:2: no answer waits for a question of the kind open, but one of the kind color\n"},
         {"answer font 黑体 thin", "test:1: there is no such answer\n"},
         {"answer size 5", "test:1: there is no such answer\n"},
         {"answer cancel all", "test:1: there is no such answer\n"},
@@ -76,6 +81,8 @@ TEST_F(ScriptTest, NamesTheLineThatCannotBeDone) {
         EXPECT_EQ(result.strErr, entry.szErr);
     }
     EXPECT_EQ(Play("open none.png").strErr, "test:1: there is no file \"" + strFolder + "/none.png\"\n");
+    EXPECT_EQ(Play("answer open no/x.png\ncommand 1000").strErr,
+              "test:2: there is no folder for \"" + strFolder + "/no/x.png\"\n");
     EXPECT_EQ(Play("command 1027\ndump work no/a.ppm").strErr,
               "test:2: \"" + strFolder + "/no/a.ppm\" cannot be written\n");
     EXPECT_EQ(Play("state mode\nfly\nstate mode").strOut, "mode 0 THUM\n");

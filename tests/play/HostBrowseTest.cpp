@@ -95,54 +95,6 @@ TEST_F(HostBrowseTest, TreeOnlyWhatIsInSight) {
     EXPECT_EQ(m_dialog.TakeLog(), "");
 }
 
-TEST_F(HostBrowseTest, ClicksSelectAsInTheSystem) {
-    struct CClick {
-        int nItem;
-        unsigned nKeys;
-        const char* szSelected;
-    };
-    for (const CClick& click :
-         {CClick{1, 0, "q"}, CClick{3, kMouseShift, "qrs"}, CClick{2, kMouseCtrl, "qs"},
-          CClick{0, kMouseShift, "pqr"}, CClick{3, kMouseCtrl, "pqrs"}, CClick{2, 0, "r"}, CClick{-1, 0, ""},
-          CClick{3, kMouseShift | kMouseCtrl, "rs"}}) {
-        EXPECT_EQ(m_host.ClickIcon(kIcons, click.nItem, click.nKeys), "");
-        EXPECT_EQ(m_dialog.Selected(), click.szSelected);
-        EXPECT_EQ(m_dialog.TakeLog(),
-                  "down;up;click " + std::to_string(click.nItem) + "[" + click.szSelected + "];");
-    }
-    // The item clicked before is gone with the old items.
-    m_dialog.m_icons.SetItems({"p", "q"});
-    EXPECT_EQ(m_host.ClickIcon(kIcons, 1, kMouseShift), "");
-    EXPECT_EQ(m_dialog.Selected(), "pq");
-    EXPECT_NE(m_host.ClickIcon(kIcons, 2), "");
-    EXPECT_NE(m_host.ClickIcon(kTree, 0), "");
-}
-
-TEST_F(HostBrowseTest, BandDoubleAndRight) {
-    EXPECT_EQ(m_host.BandIcons(kIcons, {1, 2}), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "down;move[q];move[qr];up;");
-    EXPECT_EQ(m_host.RightPressIcon(kIcons, 3), "");
-    EXPECT_EQ(m_host.DoubleClickIcon(kIcons, 0), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "right 3[qr];down;up;click 0[p];double 0[p];");
-    EXPECT_EQ(m_host.BandIcons(kIcons, {}), "");
-    EXPECT_EQ(m_dialog.Selected(), "");
-    EXPECT_NE(m_host.BandIcons(kIcons, {0, 4}), "");
-    EXPECT_EQ(m_host.FindIcon(kIcons, "s"), 3);
-    EXPECT_EQ(m_host.FindIcon(kIcons, "t"), -1);
-}
-
-// Keys go to the list that has the focus, and only then.
-TEST_F(HostBrowseTest, Keys) {
-    EXPECT_EQ(m_host.Key({kKeyDelete}), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "");
-    EXPECT_EQ(m_host.KeyInIcons(kIcons, {kKeyDelete, false, true}), "");
-    EXPECT_EQ(m_host.Key({kKeyEnter}), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "shift 46[];enter;");
-    EXPECT_FALSE(m_dialog.HasEnded());
-    EXPECT_EQ(m_host.Key({kKeyEscape}), "");
-    EXPECT_TRUE(m_dialog.HasEnded());
-}
-
 TEST_F(HostBrowseTest, DrivesByLetterAndPaths) {
     m_platform.AddDrive('D', "/a");
     m_platform.AddDrive('C', "/a/b/");
@@ -157,45 +109,4 @@ TEST_F(HostBrowseTest, DrivesByLetterAndPaths) {
     EXPECT_EQ(arrDrives[1].strRoot, "/");
     m_platform.RemoveDrive('D');
     EXPECT_EQ(m_platform.OnDrive("/x"), "/x");
-}
-
-TEST_F(HostBrowseTest, ShellDeletesAndRemembers) {
-    const CTempFolder folder, bin;
-    CShell& shell = m_platform.Get().shell;
-    const std::string strOne = folder.Write("one", "1");
-    // Without a bin nothing is lost.
-    EXPECT_FALSE(shell.Delete({strOne}, true, false));
-    EXPECT_EQ(m_platform.TakeProblems().at(0).kind, EProblem::Missing);
-    m_platform.SetBin(bin.Path());
-    EXPECT_TRUE(shell.Delete({strOne}, true, false));
-    folder.Write("one", "2");
-    EXPECT_TRUE(shell.Delete({strOne}, true, false));
-    EXPECT_EQ(ReadBytes(bin.Path("one")) + ReadBytes(bin.Path("one 2")), "12");
-
-    // What can go goes.
-    folder.Write("two", "");
-    EXPECT_FALSE(shell.Delete({strOne, folder.Path("two")}, false, false));
-    EXPECT_TRUE(folder.Names().empty());
-
-    // The question without an answer means no.
-    const std::string strThree = folder.Write("three", "");
-    EXPECT_FALSE(shell.Delete({strThree}, true, true));
-    m_platform.AnswerDelete(false);
-    EXPECT_FALSE(shell.Delete({strThree}, true, true));
-    EXPECT_EQ(m_platform.TakeProblems().size(), 1U);
-    m_platform.RefuseDeletes(true);
-    m_platform.AnswerDelete(true);
-    EXPECT_FALSE(shell.Delete({strThree}, true, true));
-    m_platform.RefuseDeletes(false);
-    m_platform.AnswerDelete(true);
-    EXPECT_TRUE(shell.Delete({strThree}, true, true));
-    shell.Open(strOne);
-    EXPECT_TRUE(m_platform.TakeProblems().empty());
-
-    const std::vector<CShellAct> arrActs = m_platform.TakeShellActs();
-    ASSERT_EQ(arrActs.size(), 9U);
-    EXPECT_TRUE(arrActs[7].bToBin && arrActs[7].bAsked && arrActs[7].bDone && !arrActs[7].bOpen);
-    EXPECT_TRUE(arrActs[8].bOpen);
-    EXPECT_EQ(arrActs[8].arrPaths, std::vector{strOne});
-    EXPECT_TRUE(m_platform.TakeShellActs().empty());
 }

@@ -16,7 +16,12 @@ constexpr CControlTemplate kControls[] = {
     {14, Edit, CRect::FromPlace(10, 60, 60, 18)},
     {2, Button, CRect::FromPlace(80, 60, 60, 20), "Cancel"},
 };
-constexpr CDialogTemplate kDialog{900, "Title", {160, 100}, EDialogFrame::Plain, kControls};
+constexpr CControlLookRow kLooks[] = {
+    {10, {.szSpoken = "open"}},
+    {13, {.colorText = CColor{250, 1, 2}, .colorGround = CColor{3, 4, 5}}},
+    {99, {.szSpoken = "of no control"}},
+};
+constexpr CDialogTemplate kDialog{900, "Title", {160, 100}, EDialogFrame::Plain, kControls, kLooks};
 constexpr CDialogTemplate kMain{901, "Main", {160, 100}, EDialogFrame::Caption, kControls};
 
 }  // namespace
@@ -37,8 +42,13 @@ TEST(DialogView, MirrorsTheControls) {
     EXPECT_FALSE(shown.Widget(11)->isEnabled());
     EXPECT_EQ(shown.Widget(13)->geometry(), QRect(20, 41, 70, 16));
     const QImage imageBefore = shown.Widget(13)->grab().toImage();
-    controls.SetText(13, "other");
+    EXPECT_EQ(shown.Widget(13)->accessibleName(), "text");
+    EXPECT_EQ(shown.Widget(10)->accessibleName(), "open");
+    EXPECT_EQ(imageBefore.pixel(0, 0), qRgb(3, 4, 5));
+    EXPECT_NE(imageBefore.pixel(66, 0), qRgb(3, 4, 5)) << "the ground goes as far as the text";
+    controls.SetText(13, "other  ");
     EXPECT_NE(shown.Widget(13)->grab().toImage(), imageBefore);
+    EXPECT_EQ(shown.Widget(13)->accessibleName(), "other");
 }
 
 TEST(DialogView, FocusGoesBothWays) {
@@ -126,10 +136,7 @@ TEST(DialogView, PaintsOnceBehindTheEvent) {
     EXPECT_EQ(shown.dialog.m_nPaints, nBefore) << "a paint event only copies";
     QCoreApplication::processEvents();
     EXPECT_EQ(shown.dialog.m_nPaints, nBefore + 1);
-    shown.dialog.Client().FillRect(CRect::FromPlace(100, 85, 10, 10), {1, 2, 3});
-    shown.dialog.Present();
-    EXPECT_EQ(shown.view->grab().toImage().pixel(105, 90), qRgb(1, 2, 3));
-    EXPECT_EQ(shown.view->grab().toImage().pixel(115, 90), qRgb(50, 60, 70));
+    EXPECT_EQ(OnScreen(*shown.view).pixel(115, 90), qRgb(50, 60, 70));
 }
 
 // Runs in a process of its own (see CMakeLists.txt) on a screen of two by two pixels to a client pixel.

@@ -21,6 +21,8 @@ constexpr CControlTemplate kControls[] = {
     {1, EControlKind::Button, CRect::FromPlace(10, 10, 60, 24), "确定"},
 };
 constexpr CDialogTemplate kDialog{900, "One", {160, 100}, EDialogFrame::Plain, kControls};
+constexpr CControlTemplate kView[] = {{50, EControlKind::View, CRect::FromPlace(10, 10, 20, 20)}};
+constexpr CDialogTemplate kWithView{901, "View", {160, 100}, EDialogFrame::Plain, kView};
 
 struct CTestPlatform {
     CTestBitmaps bitmaps;
@@ -85,12 +87,7 @@ TEST(Timers, RunUntilKilledAndStartAnew) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return arrTicks.size() == 3; }, 2000));
     QTest::qWait(30);
     EXPECT_EQ(arrTicks, (std::vector{3, 4, 3}));
-}
-
-// An idle program does not run its timers faster than the shortest period, a first tick at once included.
-TEST(Timers, KeepTheShortestPeriod) {
-    CTestPlatform test;
-    CTestDialog dialog(kDialog);
+    // An idle program runs no timer faster than the shortest period, a first tick at once included.
     int nTicks = 0;
     dialog.m_fnTimer = [&](int) { ++nTicks; };
     QElapsedTimer clock;
@@ -98,56 +95,53 @@ TEST(Timers, KeepTheShortestPeriod) {
     test.platform.timers.SetTimer(dialog, 1, 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return nTicks >= 15; }, 5000));
     EXPECT_GE(clock.elapsed(), 14 * CTimers::kLeastPeriod);
+    test.platform.timers.KillTimer(dialog, 1);
 }
 
 TEST(Timers, EndWithTheirDialog) {
     CTestPlatform test;
     int nTicks = 0;
-    {
-        CTestDialog dialog(kDialog);
-        dialog.m_fnInit = [&] { test.platform.timers.SetTimer(dialog, 1, 0); };
-        dialog.m_fnTimer = [&](int) {
-            if (++nTicks == 3) dialog.EndDialog(1);
-        };
-        test.platform.modals.Run(dialog);
-    }
-    QTest::qWait(20);
+    CTestDialog dialog(kWithView);
+    CTestScrollView view{{20, 20}};
+    dialog.m_pView = &view;
+    dialog.m_fnInit = [&] {
+        test.platform.timers.SetTimer(dialog, 1, 0);
+        test.platform.timers.SetTimer(view, 1, 0);
+    };
+    dialog.m_fnTimer = [&](int) {
+        if (++nTicks == 3) dialog.EndDialog(1);
+    };
+    test.platform.modals.Run(dialog);
+    const int nViewTicks = view.m_nTicks;
+    EXPECT_GT(nViewTicks, 0);
+    QTest::qWait(50);
     EXPECT_EQ(nTicks, 3);
+    EXPECT_EQ(view.m_nTicks, nViewTicks);
 }
 
 TEST(MessageBoxes, ShowTextToTheLetterAndAnswer) {
     CTestPlatform test;
+    using enum EBoxButtons;
     struct CCase {
         EBoxButtons buttons;
         EBoxIcon icon;
         const char* szPress;  // caption, or empty to close the box by Esc
         EBoxAnswer answer;
-        QStringList arrCaptions;
-        QMessageBox::Icon iconQt;
     };
     const CCase arrCases[] = {
-        {EBoxButtons::Ok, EBoxIcon::None, "确定", EBoxAnswer::Ok, {"确定"}, QMessageBox::NoIcon},
-        {EBoxButtons::Ok, EBoxIcon::Stop, "", EBoxAnswer::Ok, {"确定"}, QMessageBox::Critical},
-        {EBoxButtons::OkCancel,
-         EBoxIcon::Information,
-         "确定",
-         EBoxAnswer::Ok,
-         {"取消", "确定"},
-         QMessageBox::Information},
-        {EBoxButtons::OkCancel,
-         EBoxIcon::Exclamation,
-         "",
-         EBoxAnswer::Cancel,
-         {"取消", "确定"},
-         QMessageBox::Warning},
-        {EBoxButtons::YesNo,
-         EBoxIcon::Exclamation,
-         "是",
-         EBoxAnswer::Yes,
-         {"否", "是"},
-         QMessageBox::Warning},
-        {EBoxButtons::YesNo, EBoxIcon::Exclamation, "", EBoxAnswer::No, {"否", "是"}, QMessageBox::Warning},
+        {Ok, EBoxIcon::None, "确定", EBoxAnswer::Ok},
+        {Ok, EBoxIcon::Stop, "", EBoxAnswer::Ok},
+        {OkCancel, EBoxIcon::Information, "确定", EBoxAnswer::Ok},
+        {OkCancel, EBoxIcon::Exclamation, "", EBoxAnswer::Cancel},
+        {YesNo, EBoxIcon::Exclamation, "是", EBoxAnswer::Yes},
+        {YesNo, EBoxIcon::Exclamation, "", EBoxAnswer::No},
     };
+    const std::map<EBoxButtons, QStringList> mapCaptions = {
+        {Ok, {"确定"}}, {OkCancel, {"取消", "确定"}}, {YesNo, {"否", "是"}}};
+    const std::map<EBoxIcon, QMessageBox::Icon> mapIcons = {{EBoxIcon::None, QMessageBox::NoIcon},
+                                                            {EBoxIcon::Stop, QMessageBox::Critical},
+                                                            {EBoxIcon::Information, QMessageBox::Information},
+                                                            {EBoxIcon::Exclamation, QMessageBox::Warning}};
     const std::string strText = "\n<b>'照片' & 100%</b>\n\n";
     for (const CCase& one : arrCases) {
         Later([&] {
@@ -156,7 +150,7 @@ TEST(MessageBoxes, ShowTextToTheLetterAndAnswer) {
             EXPECT_EQ(pBox->text().toStdString(), strText);
             EXPECT_EQ(pBox->textFormat(), Qt::PlainText);
             EXPECT_EQ(pBox->windowTitle(), "标题");
-            EXPECT_EQ(pBox->icon(), one.iconQt);
+            EXPECT_EQ(pBox->icon(), mapIcons.at(one.icon));
             QStringList arrCaptions;
             QAbstractButton* pPress = nullptr;
             for (QAbstractButton* pButton : pBox->buttons()) {
@@ -164,7 +158,7 @@ TEST(MessageBoxes, ShowTextToTheLetterAndAnswer) {
                 if (pButton->text() == one.szPress) pPress = pButton;
             }
             arrCaptions.sort();
-            EXPECT_EQ(arrCaptions, one.arrCaptions);
+            EXPECT_EQ(arrCaptions, mapCaptions.at(one.buttons));
             if (pPress != nullptr)
                 pPress->click();
             else

@@ -6,16 +6,9 @@
 #include <QListView>
 #include <QPaintEvent>
 #include <QScrollBar>
-#include <QTemporaryDir>
-#include <filesystem>
 #include <random>
 
-#include "TestDialog.h"
-#include "app/MainDlg.h"
-#include "qt/QtPlatform.h"
-#include "resources/Ids.h"
-
-namespace fs = std::filesystem;
+#include "MainWindow.h"
 
 namespace {
 
@@ -45,7 +38,7 @@ class CWatch : public QObject {
     QTimer m_timer;
 };
 
-class Fill : public testing::Test {
+class Fill : public MainWindow {
   protected:
     void SetUp() override {
         const fs::path folder = fs::path(m_folder.path().toStdString()) / "ZEFA肖像";
@@ -62,15 +55,7 @@ class Fill : public testing::Test {
         for (int i = 1; i < kFiles; ++i)
             fs::create_hard_link(folder / "000.jpg",
                                  folder / QString("%1.jpg").arg(i, 3, 10, QChar('0')).toStdString());
-        qputenv("FOTARIUM_SAMPLE_DRIVE", QFile::encodeName(m_folder.path()));
-        m_dialog.OnInitDialog();
-        m_view.Prepare();
-        m_view.show();
-        QApplication::setActiveWindow(&m_view);
-    }
-    void TearDown() override {
-        qunsetenv("FOTARIUM_SAMPLE_DRIVE");
-        fs::current_path("/");
+        Start();
     }
     bool IsFilling() { return m_dialog.Thum().List().IsFilling(); }
     // Lets the program run until the watched list has been painted so many times more, or the fill is over.
@@ -80,13 +65,6 @@ class Fill : public testing::Test {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     QListView& List() { return *qobject_cast<QListView*>(m_view.WidgetOf(kFileList)); }
-
-    QTemporaryDir m_folder;
-    CTestBitmaps m_bitmaps;
-    CQtPlatform m_platform{m_bitmaps};
-    CPictures m_pictures{m_bitmaps};
-    CMainDlg m_dialog{m_platform.Platform()};
-    CDialogView m_view{m_dialog, m_pictures, nullptr};
 };
 
 }  // namespace
@@ -112,37 +90,4 @@ TEST_F(Fill, PaintsAndScrollsMeanwhile) {
     EXPECT_FALSE(m_view.WidgetOf(kProgress)->isVisible());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     for (int i = 0; i < kFiles; ++i) ASSERT_FALSE(m_dialog.Thum().List().Model().Picture(i).IsEmpty()) << i;
-}
-
-TEST_F(Fill, AModeChangeEndsItAndTheReturnBeginsItAnew) {
-    CWatch watch(*List().viewport());
-    RunUntilPainted(watch, 3);
-    ASSERT_TRUE(IsFilling());
-    QTest::mouseClick(m_view.WidgetOf(kTabEffect), Qt::LeftButton);
-    EXPECT_FALSE(IsFilling());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    EXPECT_FALSE(m_view.WidgetOf(kProgress)->isVisible());
-    QTest::mouseClick(m_view.WidgetOf(kTabThum), Qt::LeftButton);
-    EXPECT_TRUE(IsFilling());
-    EXPECT_TRUE(List().isVisible());
-    // A click on another node ends it as well.
-    m_dialog.Thum().Tree().Model().Select(
-        m_dialog.Thum()
-            .Tree()
-            .Model()
-            .Children(m_dialog.Thum().Tree().Model().Children(kNoTreeItem).front())
-            .back());
-    while (IsFilling()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    EXPECT_EQ(List().model()->rowCount(), 1) << "the folder itself, seen from the drive";
-}
-
-TEST_F(Fill, TheWindowClosesInTheMiddle) {
-    CWatch watch(*List().viewport());
-    RunUntilPainted(watch, 3);
-    ASSERT_TRUE(IsFilling());
-    m_view.close();
-    EXPECT_TRUE(m_dialog.HasEnded());
-    m_dialog.OnDestroy();
-    EXPECT_FALSE(IsFilling());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }

@@ -2,17 +2,20 @@
 // drives.
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 
 #include "qt/QtDrives.h"
 #include "qt/QtShell.h"
+#include "qt/Trash.h"
 #include "window/MessageBoxes.h"
 
 namespace fs = std::filesystem;
@@ -125,6 +128,21 @@ TEST_F(Shell, TheBinTakesNamesOfAnyBytesAndLinksToNowhere) {
     std::getline(note, strPath);
     EXPECT_EQ(strHead, "[Trash Info]");
     EXPECT_EQ(strPath, "Path=" + fs::canonical(m_root / "work").string() + "/odd%FF%0A.jpg");
+}
+
+// A disk that is full before the note is whole: nothing has happened.
+TEST_F(Shell, AFullDiskLeavesTheFileAndNoNote) {
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto fnBefore = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit few{10, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &few), 0);
+    const bool bMoved = MoveToTrash(Path("a.jpg"));
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, fnBefore);
+    EXPECT_FALSE(bMoved);
+    EXPECT_TRUE(Is("a.jpg"));
+    EXPECT_TRUE(fs::is_empty(m_root / "data/Trash/info"));
 }
 
 TEST_F(Shell, AnotherVolumeHasABinOfItsOwnOrAsks) {

@@ -4,6 +4,7 @@
 
 #include <QClipboard>
 #include <QSettings>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <filesystem>
@@ -61,6 +62,33 @@ TEST(TextRasterizer, CellStyleAndEdges) {
     EXPECT_GT(arrInkedRows.back() - arrInkedRows.front(), 40);
     EXPECT_GT(arrInkedRows.front(), 0);
     EXPECT_LT(arrInkedRows.back(), 59);
+}
+
+TEST(Application, LooksAndSpeaksAsTheProgramDoes) {
+    const QPalette palette = QApplication::palette();
+    using enum QPalette::ColorRole;
+    for (const auto& [role, color] : {std::pair{Window, QColor(214, 220, 214)},
+                                      {WindowText, {34, 42, 40}},
+                                      {Base, {245, 247, 244}},
+                                      {Text, {34, 42, 40}},
+                                      {ButtonText, {34, 42, 40}},
+                                      {Highlight, {232, 143, 54}},
+                                      {HighlightedText, Qt::white},
+                                      {ToolTipBase, {245, 247, 244}},
+                                      {ToolTipText, {34, 42, 40}},
+                                      {PlaceholderText, {134, 143, 138}}})
+        EXPECT_EQ(palette.color(role), color) << role;
+    for (const auto role : {WindowText, Text, ButtonText})
+        EXPECT_EQ(palette.color(QPalette::Disabled, role), QColor(134, 143, 138)) << role;
+    EXPECT_LT(palette.color(Button).lightness(), palette.color(Window).lightness());
+    EXPECT_EQ(QApplication::font().pixelSize(), 13);
+    EXPECT_EQ(QApplication::style()->objectName(), "fusion");
+    EXPECT_EQ(QApplication::applicationName(), "Fotarium");
+    EXPECT_FALSE(QApplication::quitOnLastWindowClosed()) << "between two dialogs there is no window";
+    EXPECT_EQ(QLocale().language(), QLocale::Chinese);
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel").toStdString(), "取消");
+    const auto arrSizes = QApplication::windowIcon().availableSizes();
+    for (const int nSide : {16, 256}) EXPECT_TRUE(arrSizes.contains(QSize(nSide, nSide))) << nSide;
 }
 
 TEST(Clipboard, APictureComesBackAsItWent) {

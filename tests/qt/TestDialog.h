@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -21,11 +22,10 @@ class CTestBitmaps : public CBitmaps {
   public:
     void Add(const std::string& strName, CSize size, CColor color) {
         for (const int nDensity : {1, 2}) {
-            CPixels pixels;
-            pixels.CreateFilled(size.cx * nDensity, size.cy * nDensity, color);
+            CPixels pixels = CPixels::MakeFilled(size.cx * nDensity, size.cy * nDensity, color);
             for (int y = 0; nDensity == 2 && y < pixels.Height(); y += 2)
                 for (int x = 0; x < pixels.Width(); x += 2) pixels.MutableView().Set(x, y, {255, 255, 255});
-            m_mapImages[{nDensity, strName}].CreateFromHBITMAP(pixels);
+            m_mapImages[{nDensity, strName}] = CxImage(pixels);
         }
     }
     const CxImage* Find(const std::string& strName, int nDensity) override {
@@ -42,12 +42,19 @@ class CTestScrollView : public CScrollView {
   public:
     using CScrollView::CScrollView;
     void OnMouse(const CMouseEvent& event) override { m_arrMouse.push_back(event); }
+    void DrawDot(CPoint pt) {
+        ClientSurface().SetPixel(pt.x, pt.y, {90, 80, 70});
+        Drawn(CRect::FromPlace(pt.x, pt.y, 1, 1));
+    }
     std::vector<CMouseEvent> m_arrMouse;
+    void OnTimer(int /*nTimer*/) override { ++m_nTicks; }
     int m_nDraws = 0;
+    int m_nTicks = 0;
 
   protected:
     void OnDraw(CSurface& surface) override {
         surface.FillRect(surface.Bounds(), {10, 20, 30});
+        surface.SetPixel(0, ScrollPosition().y / 10, {90, 80, 70});
         ++m_nDraws;
     }
 };
@@ -147,6 +154,22 @@ inline void Move(QWidget& window, QPoint pt) {
 inline std::vector<CMouseEvent> WithoutMoves(std::vector<CMouseEvent> arrEvents) {
     std::erase_if(arrEvents, [](const CMouseEvent& event) { return event.action == EMouseAction::Move; });
     return arrEvents;
+}
+
+// Lets all that is laid out and painted behind an event come to its end.
+inline void Settle() {
+    for (int i = 0; i < 4; ++i) QCoreApplication::processEvents();
+}
+
+// What stands on the screen, and what would stand there if all of the window were painted anew. A grab paints
+// by itself: only the first of the two misses what nobody has asked to be painted.
+inline QImage OnScreen(const QWidget& window) {
+    Settle();
+    const QPixmap pixmap = window.screen()->grabWindow(window.winId());
+    return pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+}
+inline QImage Repainted(QWidget& window) {
+    return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
 // Runs once the event loop is up, which may be that of a dialog that is about to be opened.

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QPersistentModelIndex>
 #include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTreeView>
 #include <random>
 
@@ -36,8 +38,9 @@ class CTestSink : public CTreeSink {
     CTreeModel& m_tree;
 };
 
-struct CShownTree {
-    CShownTree() : sink(tree) {
+class Tree : public testing::Test {
+  protected:
+    Tree() : sink(tree) {
         root = tree.InsertLast(kNoTreeItem, "root", ETreeIcon::Computer, true);
         lazy = tree.InsertLast(root, "lazy", ETreeIcon::Disk, true);
         empty = tree.InsertLast(root, "empty", ETreeIcon::Folder, true);
@@ -84,163 +87,189 @@ void ExpectSame(const CTreeModel& tree, const CTreeAdaptor& adaptor, CTreeItem p
 
 }  // namespace
 
-TEST(Tree, TheViewKeepsUpWithWhateverComesAndGoes) {
-    CShownTree shown;
-    auto& adaptor = *static_cast<CTreeAdaptor*>(shown.View().model());
+TEST_F(Tree, TheViewKeepsUpWithWhateverComesAndGoes) {
+    auto& adaptor = *static_cast<CTreeAdaptor*>(View().model());
     const auto nSeed = std::random_device{}();
     SCOPED_TRACE("seed " + std::to_string(nSeed));
     std::mt19937 random(nSeed);
-    std::vector<CTreeItem> arrItems = {shown.root, shown.lazy, shown.empty, shown.leaf};
+    std::vector<CTreeItem> arrItems = {root, lazy, empty, leaf};
     // Qt itself holds on to items through these.
     std::map<CTreeItem, QPersistentModelIndex> mapHeld;
     for (int i = 0; i < 1500; ++i) {
-        std::erase_if(arrItems, [&](CTreeItem item) { return !shown.tree.Exists(item); });
+        std::erase_if(arrItems, [&](CTreeItem item) { return !tree.Exists(item); });
         const CTreeItem item = arrItems.empty() ? kNoTreeItem : arrItems[random() % arrItems.size()];
         switch (random() % 8) {
             case 0:
-                if (item != shown.root) shown.tree.Delete(item);
+                if (item != root) tree.Delete(item);
                 break;
             case 1:
-                shown.tree.Expand(item);
+                tree.Expand(item);
                 break;
             case 2:
-                shown.tree.Collapse(item);
+                tree.Collapse(item);
                 break;
             case 3:
-                shown.tree.Select(item);
+                tree.Select(item);
                 break;
             case 4:
-                shown.tree.SetHasChildrenMark(item, random() % 2 == 0);
+                tree.SetHasChildrenMark(item, random() % 2 == 0);
                 break;
             default:
-                arrItems.push_back(shown.tree.InsertSorted(item, std::to_string(random() % 100),
-                                                           ETreeIcon::Folder, random() % 2 == 0));
+                arrItems.push_back(tree.InsertSorted(item, std::to_string(random() % 100), ETreeIcon::Folder,
+                                                     random() % 2 == 0));
                 mapHeld[arrItems.back()] = adaptor.IndexOf(arrItems.back());
         }
         if (i % 7 == 0) QCoreApplication::processEvents();
     }
-    ExpectSame(shown.tree, adaptor, kNoTreeItem);
+    ExpectSame(tree, adaptor, kNoTreeItem);
     for (const auto& [item, held] : mapHeld) {
-        ASSERT_EQ(held.isValid(), shown.tree.Exists(item));
+        ASSERT_EQ(held.isValid(), tree.Exists(item));
         ASSERT_EQ(QModelIndex(held), adaptor.IndexOf(item));
     }
-    std::erase_if(arrItems, [&](CTreeItem item) { return !shown.tree.Exists(item); });
+    std::erase_if(arrItems, [&](CTreeItem item) { return !tree.Exists(item); });
     for (const CTreeItem item : arrItems)
-        ASSERT_EQ(shown.View().isExpanded(adaptor.IndexOf(item)), shown.tree.IsExpanded(item));
-    EXPECT_EQ(shown.Current(), shown.tree.Selected());
-    shown.tree.DeleteAll();
+        ASSERT_EQ(View().isExpanded(adaptor.IndexOf(item)), tree.IsExpanded(item));
+    EXPECT_EQ(Current(), tree.Selected());
+    tree.DeleteAll();
     EXPECT_EQ(adaptor.rowCount({}), 0);
 }
 
-TEST(Tree, TheHandOpensAndIsAskedForEachTime) {
-    CShownTree shown;
-    shown.ClickArrow(shown.lazy);
-    EXPECT_TRUE(shown.tree.IsExpanded(shown.lazy));
-    EXPECT_EQ(shown.View().model()->rowCount(shown.Index(shown.lazy)), 2);
-    EXPECT_TRUE(shown.View().isExpanded(shown.Index(shown.lazy)));
-    shown.ClickArrow(shown.lazy);
-    EXPECT_FALSE(shown.tree.IsExpanded(shown.lazy));
-    shown.Click(shown.lazy);
-    QTest::keyClick(&shown.View(), Qt::Key_Right);
-    EXPECT_TRUE(shown.tree.IsExpanded(shown.lazy));
+TEST_F(Tree, TheHandOpensAndIsAskedForEachTime) {
+    ClickArrow(lazy);
+    EXPECT_TRUE(tree.IsExpanded(lazy));
+    EXPECT_EQ(View().model()->rowCount(Index(lazy)), 2);
+    EXPECT_TRUE(View().isExpanded(Index(lazy)));
+    ClickArrow(lazy);
+    EXPECT_FALSE(tree.IsExpanded(lazy));
+    Click(lazy);
+    QTest::keyClick(&View(), Qt::Key_Right);
+    EXPECT_TRUE(tree.IsExpanded(lazy));
     // A mark that promises too much: nothing is there, so nothing opens.
-    shown.ClickArrow(shown.empty);
-    EXPECT_FALSE(shown.tree.IsExpanded(shown.empty));
-    EXPECT_FALSE(shown.View().isExpanded(shown.Index(shown.empty)));
-    EXPECT_EQ(shown.sink.m_arrOpenings,
-              (std::vector<std::pair<CTreeItem, bool>>{
-                  {shown.lazy, true}, {shown.lazy, false}, {shown.lazy, true}, {shown.empty, true}}));
+    ClickArrow(empty);
+    EXPECT_FALSE(tree.IsExpanded(empty));
+    EXPECT_FALSE(View().isExpanded(Index(empty)));
+    EXPECT_EQ(sink.m_arrOpenings, (std::vector<std::pair<CTreeItem, bool>>{
+                                      {lazy, true}, {lazy, false}, {lazy, true}, {empty, true}}));
 }
 
-TEST(Tree, OneKeyDoesNotOpenTheWholeDisk) {
-    CShownTree shown;
-    shown.Click(shown.root);
-    shown.sink.m_arrOpenings.clear();
-    QTest::keyClick(&shown.View(), Qt::Key_Asterisk);
-    EXPECT_TRUE(shown.sink.m_arrOpenings.empty());
+TEST_F(Tree, OneKeyDoesNotOpenTheWholeDisk) {
+    Click(root);
+    sink.m_arrOpenings.clear();
+    QTest::keyClick(&View(), Qt::Key_Asterisk);
+    EXPECT_TRUE(sink.m_arrOpenings.empty());
 }
 
-TEST(Tree, EachSelectionIsToldOnceWithItsCause) {
-    CShownTree shown;
-    shown.Click(shown.lazy);
-    shown.Click(shown.lazy);
-    shown.Click(shown.lazy, Qt::ControlModifier);
-    QTest::keyClick(&shown.View(), Qt::Key_Down);
-    shown.tree.Select(shown.leaf);
-    QTest::mouseClick(shown.View().viewport(), Qt::LeftButton, {}, {100, 280});
+TEST_F(Tree, EachSelectionIsToldOnceWithItsCause) {
+    Click(lazy);
+    Click(lazy);
+    Click(lazy, Qt::ControlModifier);
+    QTest::keyClick(&View(), Qt::Key_Down);
+    tree.Select(leaf);
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, {100, 280});
     // Drawn along with the button held, and pressed with the other one: neither selects.
-    QTest::mousePress(shown.View().viewport(), Qt::LeftButton, {},
-                      shown.View().visualRect(shown.Index(shown.leaf)).center());
-    QTest::mouseMove(shown.View().viewport(), shown.View().visualRect(shown.Index(shown.root)).center());
-    QTest::mouseClick(shown.View().viewport(), Qt::RightButton, {},
-                      shown.View().visualRect(shown.Index(shown.root)).center());
-    EXPECT_EQ(shown.sink.m_arrSelections,
-              (std::vector<std::pair<CTreeItem, ETreeCause>>{{shown.lazy, ETreeCause::Mouse},
-                                                             {shown.empty, ETreeCause::Keyboard},
-                                                             {shown.leaf, ETreeCause::Unknown}}));
-    EXPECT_EQ(shown.Current(), shown.leaf);
+    QTest::mousePress(View().viewport(), Qt::LeftButton, {}, View().visualRect(Index(leaf)).center());
+    QTest::mouseMove(View().viewport(), View().visualRect(Index(root)).center());
+    QTest::mouseClick(View().viewport(), Qt::RightButton, {}, View().visualRect(Index(root)).center());
+    EXPECT_EQ(sink.m_arrSelections,
+              (std::vector<std::pair<CTreeItem, ETreeCause>>{
+                  {lazy, ETreeCause::Mouse}, {empty, ETreeCause::Keyboard}, {leaf, ETreeCause::Unknown}}));
+    EXPECT_EQ(Current(), leaf);
 }
 
-TEST(Tree, ASelectionThatGoesLeavesNone) {
-    CShownTree shown;
-    shown.Click(shown.empty);
-    shown.sink.m_arrSelections.clear();
-    shown.tree.Delete(shown.empty);
+TEST_F(Tree, ASelectionThatGoesLeavesNone) {
+    Click(empty);
+    sink.m_arrSelections.clear();
+    tree.Delete(empty);
     QCoreApplication::processEvents();
-    EXPECT_EQ(shown.Current(), kNoTreeItem);
-    EXPECT_EQ(shown.tree.Selected(), kNoTreeItem);
-    EXPECT_TRUE(shown.sink.m_arrSelections.empty());
-    QTest::keyClick(&shown.View(), Qt::Key_Home);
-    EXPECT_EQ(shown.Current(), shown.tree.Selected()) << "the keys go on working";
+    EXPECT_EQ(Current(), kNoTreeItem);
+    EXPECT_EQ(tree.Selected(), kNoTreeItem);
+    EXPECT_TRUE(sink.m_arrSelections.empty());
+    QTest::keyClick(&View(), Qt::Key_Home);
+    EXPECT_EQ(Current(), tree.Selected()) << "the keys go on working";
 }
 
-TEST(Tree, AnArrowStandsWhereTheMarkSaysSo) {
-    CShownTree shown;
+TEST_F(Tree, AnArrowStandsWhereTheMarkSaysSo) {
     const auto fnArrow = [&](CTreeItem item) {
         QCoreApplication::processEvents();
-        const QRect rc = shown.View().visualRect(shown.Index(item));
-        const QImage image = shown.View().viewport()->grab().toImage().copy(
-            rc.left() - shown.View().indentation(), rc.top(), shown.View().indentation(), rc.height());
+        const QRect rc = View().visualRect(Index(item));
+        const QImage image = View().viewport()->grab().toImage().copy(
+            rc.left() - View().indentation(), rc.top(), View().indentation(), rc.height());
         QImage plain(image.size(), image.format());
         plain.fill(image.pixel(0, 0));
         return image != plain;
     };
-    EXPECT_TRUE(fnArrow(shown.empty));
-    EXPECT_FALSE(fnArrow(shown.leaf));
-    shown.tree.SetHasChildrenMark(shown.empty, false);
-    shown.tree.SetHasChildrenMark(shown.leaf, true);
-    EXPECT_FALSE(fnArrow(shown.empty));
-    EXPECT_TRUE(fnArrow(shown.leaf));
+    EXPECT_TRUE(fnArrow(empty));
+    EXPECT_FALSE(fnArrow(leaf));
+    tree.SetHasChildrenMark(empty, false);
+    tree.SetHasChildrenMark(leaf, true);
+    EXPECT_FALSE(fnArrow(empty));
+    EXPECT_TRUE(fnArrow(leaf));
 }
 
-TEST(Tree, NamesOfAnyBytesStandInOneLine) {
-    CShownTree shown;
-    const CTreeItem odd = shown.tree.InsertLast(shown.root, "a\xff\nb", ETreeIcon::Folder, false);
-    EXPECT_EQ(shown.Index(odd).data().toString(), QStringLiteral("a\uFFFD b"));
-    EXPECT_EQ(shown.View().visualRect(shown.Index(odd)).height(),
-              shown.View().visualRect(shown.Index(shown.leaf)).height());
+TEST_F(Tree, NamesOfAnyBytesStandInOneLine) {
+    const CTreeItem odd = tree.InsertLast(root, "a\xff\nb", ETreeIcon::Folder, false);
+    EXPECT_EQ(Index(odd).data().toString(), QStringLiteral("a\uFFFD b"));
+    EXPECT_EQ(View().visualRect(Index(odd)).height(), View().visualRect(Index(leaf)).height());
 }
 
-TEST(Tree, ADeepNameCanBeScrolledTo) {
-    CShownTree shown;
-    CTreeItem item = shown.lazy;
+TEST_F(Tree, ADeepNameCanBeScrolledTo) {
+    CTreeItem item = lazy;
     for (int i = 0; i < 12; ++i)
-        item = shown.tree.InsertLast(item, "a folder with a long name", ETreeIcon::Folder, true);
-    shown.tree.Select(item);
+        item = tree.InsertLast(item, "a folder with a long name", ETreeIcon::Folder, true);
+    tree.Select(item);
     QCoreApplication::processEvents();
-    const QRect rc = shown.View().visualRect(shown.Index(item));
-    EXPECT_TRUE(shown.View().viewport()->rect().contains(QPoint(rc.left() + 20, rc.center().y())));
-    EXPECT_GT(shown.View().horizontalScrollBar()->maximum(), 0);
+    const QRect rc = View().visualRect(Index(item));
+    EXPECT_TRUE(View().viewport()->rect().contains(QPoint(rc.left() + 20, rc.center().y())));
+    EXPECT_GT(View().horizontalScrollBar()->maximum(), 0);
 }
 
-TEST(Tree, EveryKindHasAnIconOfItsOwn) {
-    std::vector<QImage> arrIcons;
-    for (const ETreeIcon icon : {ETreeIcon::Computer, ETreeIcon::Home, ETreeIcon::Disk, ETreeIcon::Removable,
-                                 ETreeIcon::Network, ETreeIcon::Folder}) {
-        const QImage image = CTreeIcons::Draw(icon).pixmap(16).toImage();
-        EXPECT_EQ(image.size(), QSize(16, 16));
+// A few pixels of each: a rim, the body's fall from light to dark, what tells it from the others.
+TEST_F(Tree, EveryKindHasAnIconOfItsOwn) {
+    using enum ETreeIcon;
+    struct CLook {
+        ETreeIcon icon;
+        std::vector<QPoint> arrPoints;
+        const char* szColors;
+    };
+    const CLook arrLooks[] = {
+        {Computer, {{1, 6}, {7, 4}, {7, 9}, {8, 13}}, "ff3a4448 ff305667 ff305667 ff96a49e"},
+        {Home, {{8, 5}, {4, 9}, {8, 11}, {8, 8}}, "ffd26a3b fff3ebd4 ff3e7086 ff955d47"},
+        {Disk, {{8, 6}, {8, 10}, {11, 10}, {1, 10}}, "ffe2e8e3 ffb0bbb5 ff70be5c ff3a4448"},
+        {Removable, {{12, 7}, {12, 9}, {4, 7}, {6, 10}}, "ff3a4448 ff3a4448 ffc9dbe1 ff487b91"},
+        {Network, {{8, 4}, {11, 8}, {8, 12}, {4, 14}}, "ffe2e8e3 ff70be5c b22b4e5e b22b4e5e"},
+        {Folder, {{4, 5}, {8, 8}, {8, 11}, {1, 10}}, "ffe49634 ffffde9e ffffb853 ff8a5416"},
+    };
+    for (const CLook& look : arrLooks) {
+        const QImage image = CTreeIcons::Draw(look.icon).pixmap(16).toImage();
+        ASSERT_EQ(image.size(), QSize(16, 16));
         EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
-        for (const QImage& other : arrIcons) EXPECT_NE(image, other);
-        arrIcons.push_back(image);
+        QStringList arrColors;
+        for (const QPoint pt : look.arrPoints) arrColors += QString::number(image.pixel(pt), 16);
+        EXPECT_EQ(arrColors.join(' ').toStdString(), look.szColors);
     }
+}
+
+// The desktop's icon goes before the drawn one, also where its item is selected.
+TEST_F(Tree, TheThemesIconsAreTakenWhereItHasThem) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("test/16"));
+    QFile index(folder.path() + "/test/index.theme");
+    ASSERT_TRUE(index.open(QFile::WriteOnly));
+    index.write("[Icon Theme]\nName=test\nDirectories=16\n[16]\nSize=16\n");
+    index.close();
+    QImage red(16, 16, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(folder.path() + "/test/16/folder.png"));
+    const QStringList arrPathsBefore = QIcon::themeSearchPaths();
+    const QString strBefore = QIcon::themeName();
+    QIcon::setThemeSearchPaths({folder.path()});
+    QIcon::setThemeName("test");
+    const CTreeIcons icons;
+    QIcon::setThemeSearchPaths(arrPathsBefore);
+    QIcon::setThemeName(strBefore);
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+        EXPECT_EQ(icons.Of(ETreeIcon::Folder).pixmap(QSize(16, 16), 1.0, mode).toImage().pixel(8, 8),
+                  qRgb(255, 0, 0));
+    EXPECT_EQ(icons.Of(ETreeIcon::Disk).pixmap(16).toImage(),
+              CTreeIcons::Draw(ETreeIcon::Disk).pixmap(16).toImage());
 }

@@ -10,8 +10,7 @@
 
 // Every pixel of a picture up to 256 by 256 has a colour of its own; nBlue tells pictures apart.
 inline CPixels NumberedPixels(int nWidth, int nHeight, int nBlue = 0) {
-    CPixels pixels;
-    if (!pixels.Create(nWidth, nHeight)) return pixels;
+    CPixels pixels = CPixels::MakeFilled(nWidth, nHeight, {});
     const CPixelView view = pixels.MutableView();
     for (int y = 0; y < nHeight; ++y)
         for (int x = 0; x < nWidth; ++x)
@@ -22,17 +21,11 @@ inline CPixels NumberedPixels(int nWidth, int nHeight, int nBlue = 0) {
 }
 
 inline CxImage NumberedImage(int nWidth, int nHeight, int nBlue = 0) {
-    CxImage image;
-    image.CreateFromHBITMAP(NumberedPixels(nWidth, nHeight, nBlue));
-    return image;
+    return CxImage(NumberedPixels(nWidth, nHeight, nBlue));
 }
 
 inline CxImage FlatImage(int nWidth, int nHeight, CColor color) {
-    CPixels pixels;
-    pixels.CreateFilled(nWidth, nHeight, color);
-    CxImage image;
-    image.CreateFromHBITMAP(pixels);
-    return image;
+    return CxImage(CPixels::MakeFilled(nWidth, nHeight, color));
 }
 
 // Column and row counted from the top left corner.
@@ -58,8 +51,7 @@ inline std::string Difference(const CPixels& a, const CPixels& b) {
 
 // The nearest-pixel scaling, pixel by pixel, rows counted from the bottom.
 inline CPixels NaiveResample(const CPixels& pixels, int nWidth, int nHeight) {
-    CPixels result;
-    if (!result.Create(nWidth, nHeight)) return result;
+    CPixels result = CPixels::MakeFilled(nWidth, nHeight, {});
     const float sx = static_cast<float>(pixels.Width()) / static_cast<float>(nWidth);
     const float sy = static_cast<float>(pixels.Height()) / static_cast<float>(nHeight);
     const CPixelView view = result.MutableView();
@@ -75,8 +67,7 @@ inline CPixels NaiveResample(const CPixels& pixels, int nWidth, int nHeight) {
 // A picture of that size whose pixel (x, y) is the one that fnFrom names, all counted from the top left.
 template <typename T>
 CPixels NaiveMove(const CPixels& pixels, int nWidth, int nHeight, T fnFrom) {
-    CPixels result;
-    if (!result.Create(nWidth, nHeight)) return result;
+    CPixels result = CPixels::MakeFilled(nWidth, nHeight, {});
     const CPixelView view = result.MutableView();
     for (int y = 0; y < nHeight; ++y)
         for (int x = 0; x < nWidth; ++x) {

@@ -4,7 +4,7 @@
 #include <array>
 #include <functional>
 
-#include "Naive.h"
+#include "Pages.h"
 #include "support/Pictures.h"
 
 namespace {
@@ -12,65 +12,47 @@ namespace {
 using CCall = std::function<void(CSurface&)>;
 
 // The kinds of call; those that a test treats apart have a name.
-constexpr int kCalls = 13;
-constexpr int kBezier = 6;
-constexpr int kDrawPart = 9;
-constexpr int kDrawEnlarged = 10;
+constexpr std::size_t kCalls = 13;
+constexpr std::size_t kBezier = 6;
+constexpr std::size_t kDrawPart = 9;
+constexpr std::size_t kDrawEnlarged = 10;
 
 // One call with random places.
-CCall RandomCall(CRandom& random, const std::function<int()>& place, int nKind) {
+CCall RandomCall(CRandom& random, const std::function<int()>& place, std::size_t nKind) {
     std::array<int, 8> n{};
     for (int& nPlace : n) nPlace = place();
     const CPen pen =
         random.Pick(0, 5) == 0 ? CPen::Dotted(PenStyle::kDot, kInk) : CPen::Solid(random.Pick(1, 5), kInk);
     const CBrush brush = random.Pick(0, 1) == 0 ? CBrush::Hollow() : CBrush::Solid(kPaint);
-    return [=](CSurface& surface) {
+    const CRect rc{n[0], n[1], n[2], n[3]};
+    const std::array<CPoint, 4> points = {{{n[0], n[1]}, {n[2], n[3]}, {n[4], n[5]}, {n[6], n[7]}}};
+    const std::array<CCall, kCalls> calls = {{
+        [=](CSurface& surface) {
+            surface.MoveTo(points[0]);
+            surface.LineTo(points[1]);
+        },
+        [=](CSurface& surface) { surface.Polyline(points); },
+        [=](CSurface& surface) { surface.Rectangle(rc); },
+        [=](CSurface& surface) { surface.Ellipse(rc); },
+        [=](CSurface& surface) {
+            surface.RoundRect(rc, {20, 20});
+        },
+        [=](CSurface& surface) { surface.Polygon(points); },
+        [=](CSurface& surface) { surface.Bezier(points); },
+        [=](CSurface& surface) { surface.FillRect(rc, kInk); },
+        [=](CSurface& surface) { surface.FrameRect(rc, kInk); },
+        [=](CSurface& surface) { surface.DrawPart(NumberedPixels(12, 9, 7), rc, n[4], n[5]); },
+        [=](CSurface& surface) {
+            surface.DrawEnlarged(NumberedPixels(12, 9, 7), rc, n[4], n[5], 3, surface.Bounds());
+        },
+        [=](CSurface& surface) { surface.FillRegion(CRegion::MakeRectangle(rc), kInk); },
+        [=](CSurface& surface) { surface.SetPixel(n[0], n[1], kInk); },
+    }};
+    return [=, call = calls[nKind]](CSurface& surface) {
         surface.SelectPen(pen);
         surface.SelectBrush(brush);
         surface.SetTransparentGaps(true);
-        const CRect rc{n[0], n[1], n[2], n[3]};
-        const CPoint points[] = {{n[0], n[1]}, {n[2], n[3]}, {n[4], n[5]}, {n[6], n[7]}};
-        switch (nKind) {
-            case 0:
-                surface.MoveTo(points[0]);
-                surface.LineTo(points[1]);
-                break;
-            case 1:
-                surface.Polyline(points);
-                break;
-            case 2:
-                surface.Rectangle(rc);
-                break;
-            case 3:
-                surface.Ellipse(rc);
-                break;
-            case 4:
-                surface.RoundRect(rc, {20, 20});
-                break;
-            case 5:
-                surface.Polygon(points);
-                break;
-            case kBezier:
-                surface.Bezier({points[0], points[1], points[2], points[3]});
-                break;
-            case 7:
-                surface.FillRect(rc, kInk);
-                break;
-            case 8:
-                surface.FrameRect(rc, kInk);
-                break;
-            case kDrawPart:
-                surface.DrawPart(NumberedPixels(12, 9, 7), rc, n[4], n[5]);
-                break;
-            case kDrawEnlarged:
-                surface.DrawEnlarged(NumberedPixels(12, 9, 7), rc, n[4], n[5], 3, surface.Bounds());
-                break;
-            case 11:
-                surface.FillRegion(CRegion::MakeRectangle(rc), kInk);
-                break;
-            default:
-                surface.SetPixel(n[0], n[1], kInk);
-        }
+        call(surface);
     };
 }
 
@@ -87,8 +69,8 @@ CRect ChangedBox(const CSurface& before, const CSurface& after) {
 TEST(FigureBounds, ACutFigureIsAPartOfTheWhole) {
     CRandom random;
     SCOPED_TRACE(random.nSeed);
-    for (int nRound = 0; nRound < 2600; ++nRound) {
-        const int nKind = nRound % kCalls;
+    for (std::size_t nRound = 0; nRound < 2600; ++nRound) {
+        const std::size_t nKind = nRound % kCalls;
         // The source of a copy would not move along.
         if (nKind == kDrawPart || nKind == kDrawEnlarged) continue;
         // How a curve is flattened hangs on where it lies, so it stays.
@@ -108,8 +90,8 @@ TEST(FigureBounds, ACutFigureIsAPartOfTheWhole) {
 TEST(FigureBounds, TheReportedBoxIsWhatChanged) {
     CRandom random;
     SCOPED_TRACE(random.nSeed);
-    for (int nRound = 0; nRound < 2600; ++nRound) {
-        const int nKind = nRound % kCalls;
+    for (std::size_t nRound = 0; nRound < 2600; ++nRound) {
+        const std::size_t nKind = nRound % kCalls;
         CSurface surface = White(20, 20);
         const CSurface before = surface;
         RandomCall(
@@ -136,7 +118,7 @@ TEST(FigureBounds, TheReportedBoxIsWhatChanged) {
 TEST(FigureBounds, FarFiguresCostNothing) {
     CRandom random;
     SCOPED_TRACE(random.nSeed);
-    for (int nRound = 0; nRound < 6500; ++nRound) {
+    for (std::size_t nRound = 0; nRound < 6500; ++nRound) {
         CSurface surface = White(20, 20);
         RandomCall(
             random, [&] { return random.Far(); }, nRound % kCalls)(surface);

@@ -9,8 +9,6 @@
 #include <map>
 #include <sstream>
 
-#include "support/TempFolder.h"
-
 namespace {
 
 struct CVector {
@@ -82,26 +80,6 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair("DOTTED", 40), std::pair("RGNPOLY", 19), std::pair("RGNELL", 20),
                     std::pair("RGNRECT", 8), std::pair("FILLRGN", 15), std::pair("STRETCH", 17)),
     [](const auto& kind) { return std::string(kind.param.first); });
-
-// The file's own text comes back, from it as it stands and from case lines alone.
-TEST(FiguresText, IsTheFormatThatIsRead) {
-    const auto Drawn = [](const std::string& strCases) {
-        std::istringstream in(strCases);
-        std::ostringstream out;
-        std::string strError;
-        EXPECT_TRUE(DrawFigures(in, out, strError)) << strError;
-        return out.str();
-    };
-    const std::string strFile = ReadBytes(FileName());
-    EXPECT_TRUE(Drawn(strFile) == strFile);
-    std::string strCases = "# comment\r\n\n";
-    std::string strExpected;
-    for (const auto& [strKind, vectors] : Vectors()) {
-        strCases += vectors.front().strCase + "\r\n";
-        strExpected += vectors.front().strCase + "\n" + vectors.front().strText;
-    }
-    EXPECT_EQ(Drawn(strCases), strExpected);
-}
 
 TEST(FiguresText, SaysWhichLineIsNoCase) {
     for (const char* const szLine :

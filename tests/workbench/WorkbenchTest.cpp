@@ -36,12 +36,11 @@ class Workbench : public testing::Test {
 };
 
 CPixels Expected(const CPixels& src, int nEffect, int nLevel, int nRefWidth, std::uint32_t nSeed) {
-    CxImage image;
-    image.CreateFromHBITMAP(src);
+    CxImage image(src);
     CRandomSequence random;
     random.Seed(nSeed);
     CImageEffect engine(random);
-    engine.ApplyEffect(image, nEffect, nLevel, false, nRefWidth);
+    EXPECT_TRUE(engine.ApplyEffect(image, nEffect, nLevel, false, nRefWidth));
     return image.Pixels();
 }
 

@@ -4,9 +4,9 @@
 #include <array>
 
 #include "engines/effects/ColourRows.h"
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/VignetteMask.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 #include <bit>
 
 #include "engines/effects/ByteMap.h"
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/GreyCounts.h"
+#include "image/CpuChoice.h"
 
 #if FOTARIUM_HAS_AVX2
 #include <immintrin.h>

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "engines/effects/CpuChoice.h"
+#include "image/CpuChoice.h"
 
 #if FOTARIUM_HAS_AVX2
 #include <immintrin.h>

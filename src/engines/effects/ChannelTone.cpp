@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <array>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/ToneChunks.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engines/effects/CpuChoice.h"
+#include "image/CpuChoice.h"
 
 #if FOTARIUM_HAS_AVX2
 

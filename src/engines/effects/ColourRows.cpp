@@ -1,7 +1,7 @@
 #include "engines/effects/ColourRows.h"
 
 #include "engines/effects/ColourRowForms.h"
-#include "engines/effects/CpuChoice.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
+#include "image/CpuChoice.h"
 
 #if FOTARIUM_HAS_AVX2
 #include <immintrin.h>

@@ -3,10 +3,10 @@
 
 #include <algorithm>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/FrameTables.h"
 #include "engines/effects/Rgb565.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

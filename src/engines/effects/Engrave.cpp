@@ -2,8 +2,8 @@
 #include <array>
 #include <cstring>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "engines/effects/CpuChoice.h"
+#include "image/CpuChoice.h"
 
 #if FOTARIUM_HAS_AVX2
 #include <immintrin.h>

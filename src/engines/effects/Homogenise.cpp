@@ -2,8 +2,8 @@
 
 #include "engines/effects/ByteMap.h"
 #include "engines/effects/ColourBlocks.h"
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/ToneChunks.h"
+#include "image/CpuChoice.h"
 #include "image/Equalize.h"
 
 namespace {

@@ -14,7 +14,7 @@ class CImageEffect {
     // Applies the effect to the image; alpha stays. A number that is no effect, a picture below the effect's
     // least size, and an effect whose level asks for nothing leave the picture as it is. False, and nothing
     // changes, if there is no memory for it. Any level is taken, also beyond the slider's range.
-    bool ApplyEffect(CxImage& image, int nEffect, int nLevel, bool bFull, int nRefWidth);
+    [[nodiscard]] bool ApplyEffect(CxImage& image, int nEffect, int nLevel, bool bFull, int nRefWidth);
 
     // Width in pixels of the full picture, as the last preview call gave it.
     int RefWidth() const { return m_nRefWidth; }

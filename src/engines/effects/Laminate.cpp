@@ -9,8 +9,8 @@
 #include <array>
 #include <span>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/GreyCounts.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

@@ -10,9 +10,9 @@
 #include <cstring>
 
 #include "engines/effects/ColourRows.h"
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/RandomRewind.h"
+#include "image/CpuChoice.h"
 
 #if FOTARIUM_HAS_AVX2
 #include <immintrin.h>

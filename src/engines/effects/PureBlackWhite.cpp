@@ -2,8 +2,8 @@
 #include <vector>
 
 #include "engines/effects/ColourRows.h"
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 #include <cstring>
 
 #include "engines/effects/ColourRows.h"
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/RowRing.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "engines/effects/CpuChoice.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

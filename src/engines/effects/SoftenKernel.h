@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "engines/effects/CpuChoice.h"
+#include "image/CpuChoice.h"
 
 // The soft blur of a plane: a sixth of each of the four neighbours and two sixths of the pixel, each cut to a
 // whole number before they are added. It works on rows of thirds, of which the sixths are the halves; the sum

@@ -13,5 +13,4 @@ int main(int nArguments, char** arrArguments) {
     const CQtPlatform platform(bitmaps);
     CMainApp app(platform.Platform());
     app.InitInstance();
-    return 0;
 }

@@ -1,6 +1,7 @@
 #include "surface/figures/Figures.h"
 
 #include <algorithm>
+#include <span>
 #include <sstream>
 #include <vector>
 
@@ -63,22 +64,27 @@ class CWords {
     std::istringstream m_stream;
 };
 
-std::string Returned(bool bResult) {
-    return bResult ? "ret 1" : "ret 0";
+// A call that can draw nothing answers 0.
+std::string Returned(bool bDrawn) {
+    return bDrawn ? "ret 1" : "ret 0";
 }
 
-bool DrawLine(CSurface& surface, const CRect& rc) {
-    surface.MoveTo({rc.left, rc.top});
-    return surface.LineTo({rc.right, rc.bottom});
+bool MakesALine(const std::vector<CPoint>& points) {
+    return points.size() >= 2;
 }
 
-bool DrawShape(CSurface& surface, const std::string& strShape, CWords& words) {
+void DrawShape(CSurface& surface, const std::string& strShape, CWords& words) {
     const CRect rc = words.Box();
-    if (strShape == "LINE") return DrawLine(surface, rc);
-    if (strShape == "RECT") return surface.Rectangle(rc);
-    if (strShape == "ELLIPSE") return surface.Ellipse(rc);
-    words.Fail();
-    return false;
+    if (strShape == "LINE") {
+        surface.MoveTo({rc.left, rc.top});
+        surface.LineTo({rc.right, rc.bottom});
+    } else if (strShape == "RECT") {
+        surface.Rectangle(rc);
+    } else if (strShape == "ELLIPSE") {
+        surface.Ellipse(rc);
+    } else {
+        words.Fail();
+    }
 }
 
 bool DrawFlood(CSurface& surface, CWords& words) {
@@ -92,6 +98,21 @@ bool DrawFlood(CSurface& surface, CWords& words) {
     surface.SelectBrush(CBrush::Solid(kBrush));
     const CColor color = strColor == "A" ? surface.GetPixel(pt.x, pt.y) : ColorOf(strColor[0]);
     return words.Good() && surface.FloodFill(pt, color);
+}
+
+// The figures of any number of points. False if they are too few.
+bool DrawPoints(CSurface& surface, bool bPolygon, const std::vector<CPoint>& points) {
+    if (bPolygon)
+        surface.Polygon(points);
+    else
+        surface.Polyline(points);
+    return MakesALine(points);
+}
+
+void DrawLines(CSurface& surface, const std::vector<CPoint>& points) {
+    if (points.empty()) return;
+    surface.MoveTo(points.front());
+    for (const CPoint& pt : std::span(points).subspan(1)) surface.LineTo(pt);
 }
 
 bool DrawDotted(CSurface& surface, CWords& words) {
@@ -110,15 +131,11 @@ bool DrawDotted(CSurface& surface, CWords& words) {
     surface.SelectPen(CPen::Dotted(it->second, kPen));
     surface.SetTransparentGaps(strGaps == "transparent");
     if (strGround == "brush") surface.FillRect(surface.Bounds(), kBrush);
-    if (strShape != "POLYLINE" && strShape != "LINETO") return DrawShape(surface, strShape, words);
-    const std::vector<CPoint> points = words.Points();
-    if (strShape == "POLYLINE") return surface.Polyline(points);
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        if (i == 0)
-            surface.MoveTo(points[i]);
-        else
-            surface.LineTo(points[i]);
-    }
+    if (strShape == "POLYLINE") return DrawPoints(surface, false, words.Points());
+    if (strShape == "LINETO")
+        DrawLines(surface, words.Points());
+    else
+        DrawShape(surface, strShape, words);
     return true;
 }
 
@@ -141,7 +158,7 @@ std::string MarkRegion(CSurface& surface, const CRegion& region) {
     return answer.str();
 }
 
-bool DrawStretch(CSurface& surface, CWords& words) {
+void DrawStretch(CSurface& surface, CWords& words) {
     const CPoint ptSize = words.Point();
     const std::string strRows = words.Word();
     const CBlock blockTo = words.Block();
@@ -150,38 +167,44 @@ bool DrawStretch(CSurface& surface, CWords& words) {
     if (strRows.size() + 1 !=
         static_cast<std::size_t>(source.Width() + 1) * static_cast<std::size_t>(source.Height())) {
         words.Fail();
-        return false;
+        return;
     }
     std::size_t n = 0;
     for (int y = 0; y < ptSize.y; ++y, ++n)
         for (int x = 0; x < ptSize.x; ++x) source.SetPixel(x, y, ColorOf(strRows[n++]));
     surface.Stretch(source.Pixels(), blockFrom, blockTo, surface.Bounds());
-    return true;
+}
+
+// The calls that always draw.
+void DrawAlways(CSurface& surface, const std::string& strKind, CWords& words) {
+    if (strKind == "FILLRECT") {
+        surface.Rectangle(words.Box());
+    } else if (strKind == "STRETCH") {
+        DrawStretch(surface, words);
+    } else if (strKind == "FILLRGN") {
+        const std::string strShape = words.Word();
+        surface.FillRegion(ReadRegion(strShape, words), kBrush);
+    } else if (strKind == "ROUNDRECT") {
+        const CRect rc = words.Box();
+        const CPoint ptEllipse = words.Point();
+        surface.RoundRect(rc, {ptEllipse.x, ptEllipse.y});
+    } else if (strKind == "BEZIER") {
+        std::array<CPoint, 4> points;
+        for (CPoint& pt : points) pt = words.Point();
+        surface.Bezier(points);
+    } else {
+        DrawShape(surface, strKind, words);
+    }
 }
 
 std::string Draw(CSurface& surface, const std::string& strKind, CWords& words) {
-    if (strKind == "POLYLINE") return Returned(surface.Polyline(words.Points()));
-    if (strKind == "POLYGON") return Returned(surface.Polygon(words.Points()));
-    if (strKind == "FILLRECT") return Returned(surface.Rectangle(words.Box()));
+    if (strKind.starts_with("RGN")) return MarkRegion(surface, ReadRegion(strKind.substr(3), words));
+    if (strKind == "POLYLINE" || strKind == "POLYGON")
+        return Returned(DrawPoints(surface, strKind == "POLYGON", words.Points()));
     if (strKind == "FLOOD") return Returned(DrawFlood(surface, words));
     if (strKind == "DOTTED") return Returned(DrawDotted(surface, words));
-    if (strKind == "STRETCH") return Returned(DrawStretch(surface, words));
-    if (strKind.starts_with("RGN")) return MarkRegion(surface, ReadRegion(strKind.substr(3), words));
-    if (strKind == "FILLRGN") {
-        const std::string strShape = words.Word();
-        return Returned(surface.FillRegion(ReadRegion(strShape, words), kBrush));
-    }
-    if (strKind == "ROUNDRECT") {
-        const CRect rc = words.Box();
-        const CPoint ptEllipse = words.Point();
-        return Returned(surface.RoundRect(rc, {ptEllipse.x, ptEllipse.y}));
-    }
-    if (strKind == "BEZIER") {
-        std::array<CPoint, 4> points;
-        for (CPoint& pt : points) pt = words.Point();
-        return Returned(surface.Bezier(points));
-    }
-    return Returned(DrawShape(surface, strKind, words));
+    DrawAlways(surface, strKind, words);
+    return Returned(true);
 }
 
 }  // namespace

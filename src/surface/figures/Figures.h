@@ -39,11 +39,11 @@ struct CFigure {
 };
 
 // Nothing, and why in strError, if the line is no case.
-std::optional<CFigure> DrawFigure(const std::string& strCase, std::string& strError);
+[[nodiscard]] std::optional<CFigure> DrawFigure(const std::string& strCase, std::string& strError);
 
 // True for a line that stands for a case: not empty, no comment (#), no answer and no row of a picture.
 bool IsFigureCase(const std::string& strLine);
 
 // Draws the cases of a file, whose pictures are passed over, and writes each with its result. False, and the
 // line and the reason in strError, at the first that is no case.
-bool DrawFigures(std::istream& in, std::ostream& out, std::string& strError);
+[[nodiscard]] bool DrawFigures(std::istream& in, std::ostream& out, std::string& strError);

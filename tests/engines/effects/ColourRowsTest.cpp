@@ -10,8 +10,8 @@
 #include <random>
 #include <vector>
 
-#include "engines/effects/CpuChoice.h"
 #include "image/ColorSpace.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

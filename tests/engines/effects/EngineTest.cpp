@@ -4,9 +4,9 @@
 #include <climits>
 #include <random>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/ImageEffect.h"
+#include "image/CpuChoice.h"
 #include "support/Pictures.h"
 
 namespace {
@@ -53,7 +53,7 @@ TEST(Engine, RunsTheEffectOfEachNumber) {
         }
     }
     CxImage equalised = src;
-    equalised.HistogramEqualize();
+    ASSERT_TRUE(equalised.HistogramEqualize());
     EXPECT_EQ(Applied(src, 11, 0).Pixels(), equalised.Pixels());
 }
 
@@ -125,10 +125,10 @@ TEST(Engine, GoesOnInItsRandomNumbersUntilItIsSeeded) {
         CxImage first = src;
         CxImage second = src;
         CxImage third = src;
-        engine.ApplyEffect(first, nNumber, 5, false, 200);
-        engine.ApplyEffect(second, nNumber, 5, true, 200);
+        ASSERT_TRUE(engine.ApplyEffect(first, nNumber, 5, false, 200));
+        ASSERT_TRUE(engine.ApplyEffect(second, nNumber, 5, true, 200));
         random.Seed(1);
-        engine.ApplyEffect(third, nNumber, 5, true, 200);
+        ASSERT_TRUE(engine.ApplyEffect(third, nNumber, 5, true, 200));
         EXPECT_NE(first.Pixels(), second.Pixels()) << nNumber;
         EXPECT_EQ(first.Pixels(), third.Pixels()) << nNumber;
     }

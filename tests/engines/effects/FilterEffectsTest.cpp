@@ -5,9 +5,9 @@
 #include <random>
 
 #include "engines/effects/ByteMap.h"
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/NaiveFilters.h"
+#include "image/CpuChoice.h"
 #include "support/Pictures.h"
 
 namespace {
@@ -16,9 +16,8 @@ using CFastForm = void (*)(const CEffectCall&);
 using CNaiveForm = std::function<CPixels(const CPixels&, int)>;
 
 CPixels Applied(CFastForm fast, const CPixels& src, int nLevel) {
-    CPixels dst;
     // Anything but black, so that a pixel that was left out shows.
-    dst.CreateFilled(src.Width(), src.Height(), {203, 77, 31});
+    CPixels dst = CPixels::MakeFilled(src.Width(), src.Height(), {203, 77, 31});
     CRandomSequence random;
     fast({src.View(), dst.MutableView(), nLevel, src.Width(), random});
     return dst;
@@ -48,8 +47,7 @@ std::uint8_t MakeByte(EKind kind, std::uint32_t nRandom, int x, int y, std::size
 
 CPixels MakePicture(int nWidth, int nHeight, EKind kind, unsigned nSeed) {
     std::mt19937 random(nSeed);
-    CPixels pixels;
-    pixels.Create(nWidth, nHeight);
+    CPixels pixels = CPixels::MakeFilled(nWidth, nHeight, {});
     const std::span<std::uint8_t> bytes = pixels.MutableBytes();
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         const auto nPixel = static_cast<int>(i / 3);
@@ -137,19 +135,13 @@ TEST_P(Filter, IsTheNaiveFormAtEveryLevelAndBeyond) {
 INSTANTIATE_TEST_SUITE_P(All, Filter, testing::ValuesIn(Filters()),
                          [](const auto& test) { return std::string(test.param.szName); });
 
-CPixels Flat(int nWidth, int nHeight, CColor color) {
-    CPixels pixels;
-    pixels.CreateFilled(nWidth, nHeight, color);
-    return pixels;
-}
-
 CColor Grey(int n) {
     const auto nByte = static_cast<std::uint8_t>(n);
     return {nByte, nByte, nByte};
 }
 
 TEST(FilterValues, OnePassOfSofteningSpreadsAWhitePixel) {
-    CPixels src = Flat(7, 7, Grey(0));
+    CPixels src = CPixels::MakeFilled(7, 7, Grey(0));
     src.MutableView().Set(3, 3, Grey(255));
     const CPixels dst = Applied(Sharpness, src, -1);
     EXPECT_EQ(PixelAt(dst, 3, 3), Grey(85));
@@ -161,15 +153,18 @@ TEST(FilterValues, OnePassOfSofteningSpreadsAWhitePixel) {
 
 // The cumulative counts jump at the one grey, so no level parts anything and the split is 1.
 TEST(FilterValues, BacklightOfAFlatPicture) {
-    EXPECT_EQ(Applied(Backlight, Flat(40, 30, Grey(0)), 0), Flat(40, 30, Grey(0)));
-    EXPECT_EQ(Applied(Backlight, Flat(40, 30, Grey(1)), 0), Flat(40, 30, Grey(41)));
+    EXPECT_EQ(Applied(Backlight, CPixels::MakeFilled(40, 30, Grey(0)), 0),
+              CPixels::MakeFilled(40, 30, Grey(0)));
+    EXPECT_EQ(Applied(Backlight, CPixels::MakeFilled(40, 30, Grey(1)), 0),
+              CPixels::MakeFilled(40, 30, Grey(41)));
     // 41 + (214 * 256 / 254) * 99 / 256
-    EXPECT_EQ(Applied(Backlight, Flat(40, 30, Grey(100)), 0), Flat(40, 30, Grey(124)));
+    EXPECT_EQ(Applied(Backlight, CPixels::MakeFilled(40, 30, Grey(100)), 0),
+              CPixels::MakeFilled(40, 30, Grey(124)));
 }
 
 // Two greys side by side, with other greys in columns that the histograms leave out.
 CPixels TwoGreys(int nLeft, int nRight, std::initializer_list<int> unseen) {
-    CPixels src = Flat(64, 64, Grey(nLeft));
+    CPixels src = CPixels::MakeFilled(64, 64, Grey(nLeft));
     for (int y = 0; y < 64; ++y)
         for (int x = 32; x < 64; ++x) src.MutableView().Set(x, y, Grey(nRight));
     int x = 1;
@@ -215,13 +210,17 @@ TEST(FilterValues, LowLightRepairOfLightGreys) {
 
 TEST(FilterValues, LowLightRepairLeavesAFlatPictureAlone) {
     for (const int n : {0, 3, 128, 255}) {
-        EXPECT_EQ(Applied(LowLightRepair, Flat(100, 80, Grey(n)), 0), Flat(100, 80, Grey(n))) << n;
+        EXPECT_EQ(Applied(LowLightRepair, CPixels::MakeFilled(100, 80, Grey(n)), 0),
+                  CPixels::MakeFilled(100, 80, Grey(n)))
+            << n;
     }
 }
 
 // The outermost pixels keep their luminance, so they show what becomes of the chroma alone.
 TEST(FilterValues, Haze2LeavesStrongChromaAlone) {
-    const auto edge = [](CColor cr) { return PixelAt(Applied(Haze2, Flat(9, 9, cr), 50), 0, 0); };
+    const auto edge = [](CColor cr) {
+        return PixelAt(Applied(Haze2, CPixels::MakeFilled(9, 9, cr), 50), 0, 0);
+    };
     // U is 212 or more, V about 120: had only V counted, it would have been widened.
     const CColor blue = {40, 40, 255};
     ASSERT_GE(CxImage::RGBtoYUV(blue).g, 212);
@@ -238,7 +237,7 @@ TEST(FilterValues, Haze2LeavesStrongChromaAlone) {
 }
 
 TEST(FilterValues, EngraveOfAFlatPicture) {
-    const CPixels dst = Applied(Engrave, Flat(8, 5, {103, 57, 203}), 0);
+    const CPixels dst = Applied(Engrave, CPixels::MakeFilled(8, 5, {103, 57, 203}), 0);
     EXPECT_EQ(PixelAt(dst, 3, 0), Grey(0));
     EXPECT_EQ(PixelAt(dst, 7, 4), Grey(0));
     EXPECT_EQ(PixelAt(dst, 1, 1), Grey(128));
@@ -250,13 +249,15 @@ TEST(FilterValues, EngraveOfAFlatPicture) {
 
 TEST(FilterValues, RefractionAtTheEvenLevel) {
     for (const CFastForm refraction : {Refraction1, Refraction2}) {
-        EXPECT_EQ(Applied(refraction, Flat(12, 9, Grey(255)), 60), Flat(12, 9, Grey(255)));
-        EXPECT_EQ(Applied(refraction, Flat(12, 9, Grey(0)), 60), Flat(12, 9, Grey(1)));
+        EXPECT_EQ(Applied(refraction, CPixels::MakeFilled(12, 9, Grey(255)), 60),
+                  CPixels::MakeFilled(12, 9, Grey(255)));
+        EXPECT_EQ(Applied(refraction, CPixels::MakeFilled(12, 9, Grey(0)), 60),
+                  CPixels::MakeFilled(12, 9, Grey(1)));
     }
 }
 
 TEST(FilterValues, WoodcutIsBlackWhereNothingChangesAndWrapsWhereItFalls) {
-    CPixels src = Flat(6, 4, Grey(0));
+    CPixels src = CPixels::MakeFilled(6, 4, Grey(0));
     src.MutableView().Set(2, 1, Grey(255));
     const CPixels dst = Applied(Woodcut, src, 0);
     EXPECT_EQ(PixelAt(dst, 1, 0), Grey(255));

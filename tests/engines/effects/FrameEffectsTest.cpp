@@ -4,11 +4,11 @@
 #include <functional>
 #include <random>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/NaiveFrames.h"
 #include "engines/effects/Rgb565.h"
 #include "engines/effects/VignetteMask.h"
+#include "image/CpuChoice.h"
 #include "support/Pictures.h"
 
 namespace {
@@ -27,9 +27,8 @@ int RefWidth(const CPixels& src, const CSetting& setting) {
 }
 
 CPixels Applied(CFastForm fast, const CPixels& src, const CSetting& setting, CRandomSequence& random) {
-    CPixels dst;
     // Anything but black, so that a pixel that was left out shows.
-    dst.CreateFilled(src.Width(), src.Height(), {203, 77, 31});
+    CPixels dst = CPixels::MakeFilled(src.Width(), src.Height(), {203, 77, 31});
     fast({src.View(), dst.MutableView(), setting.nLevel, RefWidth(src, setting), random});
     return dst;
 }
@@ -42,8 +41,7 @@ CPixels Applied(CFastForm fast, const CPixels& src, int nLevel = 0) {
 // Steep slopes with noise on them, so that neighbours differ and every byte occurs.
 CPixels NoisePicture(int nWidth, int nHeight, unsigned nSeed) {
     std::mt19937 random(nSeed);
-    CPixels pixels;
-    pixels.Create(nWidth, nHeight);
+    CPixels pixels = CPixels::MakeFilled(nWidth, nHeight, {});
     const unsigned nSpread = nSeed % 2 == 0 ? 256 : 30;
     unsigned i = 0;
     for (std::uint8_t& n : pixels.MutableBytes())
@@ -51,15 +49,8 @@ CPixels NoisePicture(int nWidth, int nHeight, unsigned nSeed) {
     return pixels;
 }
 
-CPixels FlatPicture(int nWidth, int nHeight, CColor cr) {
-    CPixels pixels;
-    pixels.CreateFilled(nWidth, nHeight, cr);
-    return pixels;
-}
-
 CPixels MaskPicture() {
-    CPixels mask;
-    mask.Create(CVignetteMask::kWidth, CVignetteMask::kHeight);
+    CPixels mask = CPixels::MakeFilled(CVignetteMask::kWidth, CVignetteMask::kHeight, {});
     for (int y = 0; y < mask.Height(); ++y)
         for (int x = 0; x < mask.Width(); ++x) {
             const std::uint8_t n = VignetteMask().Row(y)[static_cast<std::size_t>(x)];
@@ -182,7 +173,7 @@ TEST(Film, HasEdgesThatGrowWithTheWidth) {
     for (const auto& [nWidth, nEdge] :
          {std::pair{176, 4}, {177, 8}, {320, 8}, {321, 16}, {640, 16}, {641, 32}}) {
         const int nBand = nWidth / 8;
-        const CPixels film = Applied(Film, FlatPicture(nWidth, 3 * nBand, {255, 255, 255}));
+        const CPixels film = Applied(Film, CPixels::MakeFilled(nWidth, 3 * nBand, {255, 255, 255}));
         const int nMiddle = nBand / 2;
         EXPECT_EQ(PixelAt(film, nEdge - 1, nMiddle), kBlack565) << nWidth;
         EXPECT_EQ(PixelAt(film, nEdge, nMiddle), kWhite565) << nWidth;
@@ -208,8 +199,9 @@ TEST(Film, ChangesTheOuterStripsAndLeavesAPictureThatIsTooFlat) {
 }
 
 TEST(Art, BurnsToWhiteAndGivesTheMaskOnBlack) {
-    EXPECT_EQ(Applied(Art, FlatPicture(77, 55, {255, 255, 255})), FlatPicture(77, 55, {255, 255, 255}));
-    EXPECT_EQ(Applied(Art, FlatPicture(160, 120, {0, 0, 0})), MaskPicture());
+    EXPECT_EQ(Applied(Art, CPixels::MakeFilled(77, 55, {255, 255, 255})),
+              CPixels::MakeFilled(77, 55, {255, 255, 255}));
+    EXPECT_EQ(Applied(Art, CPixels::MakeFilled(160, 120, {0, 0, 0})), MaskPicture());
 }
 
 TEST(VignetteMask, RunsThroughTheMeasuredRows) {
@@ -263,7 +255,7 @@ TEST(CrystalFrame, TakesItsRingsByTheWidth) {
     // Ring 4 of the four tables: 11, -44, -88 and -232.
     for (const auto& [nWidth, nGrey] :
          {std::pair{160, 136}, {161, 80}, {176, 80}, {177, 40}, {320, 40}, {321, 0}}) {
-        const CPixels frame = Applied(CrystalFrame, FlatPicture(nWidth, 200, {128, 128, 128}));
+        const CPixels frame = Applied(CrystalFrame, CPixels::MakeFilled(nWidth, 200, {128, 128, 128}));
         EXPECT_EQ(PixelAt(frame, nWidth / 2, 4).r, nGrey) << nWidth;
         EXPECT_EQ(PixelAt(frame, nWidth / 2, 195).b, nGrey) << nWidth;
         EXPECT_EQ(PixelAt(frame, 4, 100).r, nGrey) << nWidth;
@@ -281,7 +273,7 @@ TEST(Jigsaw, CutsNothingUpToOnePiece) {
 }
 
 TEST(Jigsaw, DrawsADarkLineWithLightsBelowAndToTheRight) {
-    const CPixels cut = Applied(Jigsaw, FlatPicture(200, 200, {100, 100, 100}));
+    const CPixels cut = Applied(Jigsaw, CPixels::MakeFilled(200, 200, {100, 100, 100}));
     const auto GreyAt = [&cut](int x, int y) { return int{PixelAt(cut, x, y).r}; };
     EXPECT_EQ(GreyAt(45, 40), 20);
     EXPECT_EQ(GreyAt(45, 41), 120);
@@ -315,7 +307,7 @@ TEST(OilPainting, IsTheNaiveFormWhereMostDabsAreCovered) {
 }
 
 TEST(Tile, IsTwoHundredPixelsWideAtTheHighestLevel) {
-    const CPixels tiled = Applied(Tile, FlatPicture(450, 410, {0, 0, 0}), 10);
+    const CPixels tiled = Applied(Tile, CPixels::MakeFilled(450, 410, {0, 0, 0}), 10);
     for (int y = 0; y < 410; ++y)
         for (int x = 0; x < 450; ++x) {
             const bool bFirst = x % 200 == 0 || y % 200 == 0;
@@ -330,18 +322,19 @@ TEST(Tile, IsTwoHundredPixelsWideAtTheHighestLevel) {
 }
 
 TEST(Laminate, HalvesAFlatPictureTwice) {
-    EXPECT_EQ(PixelAt(Applied(Laminate, FlatPicture(50, 40, {101, 200, 7}), 1), 3, 3), (CColor{100, 200, 6}));
+    EXPECT_EQ(PixelAt(Applied(Laminate, CPixels::MakeFilled(50, 40, {101, 200, 7}), 1), 3, 3),
+              (CColor{100, 200, 6}));
     // One block that is higher than sums of sixteen bits can hold.
-    EXPECT_EQ(PixelAt(Applied(Laminate, FlatPicture(700, 701, {255, 255, 255}), 100), 0, 0).r, 254);
+    EXPECT_EQ(PixelAt(Applied(Laminate, CPixels::MakeFilled(700, 701, {255, 255, 255}), 100), 0, 0).r, 254);
     // Behind the last block of the lowest row the corner stays.
-    const CPixels laminated = Applied(Laminate, FlatPicture(50, 40, {101, 101, 101}), 1);
+    const CPixels laminated = Applied(Laminate, CPixels::MakeFilled(50, 40, {101, 101, 101}), 1);
     EXPECT_EQ(PixelAt(laminated, 39, 39).r, 100);
     EXPECT_EQ(PixelAt(laminated, 40, 39).r, 101);
     EXPECT_EQ(PixelAt(laminated, 49, 29).r, 100);
 }
 
 TEST(ConcaveMirror, LeavesACircleInBlackCorners) {
-    const CPixels round = Applied(ConcaveMirror, FlatPicture(101, 101, {255, 255, 255}));
+    const CPixels round = Applied(ConcaveMirror, CPixels::MakeFilled(101, 101, {255, 255, 255}));
     int nLight = 0;
     for (int y = 0; y < 101; ++y)
         for (int x = 0; x < 101; ++x) nLight += PixelAt(round, x, y) == kWhite565 ? 1 : 0;

@@ -121,8 +121,7 @@ CNaivePlanes::CNaivePlanes(const CPixels& src) : nWidth(src.Width()), nHeight(sr
 }
 
 CPixels CNaivePlanes::ToPixels() const {
-    CPixels dst;
-    dst.Create(nWidth, nHeight);
+    CPixels dst = CPixels::MakeFilled(nWidth, nHeight, {});
     const std::span<std::uint8_t> bytes = dst.MutableBytes();
     for (std::size_t i = 0; i < y.size(); ++i) {
         const CColor rgb = ColorYUVtoRGB({y[i], u[i], v[i]});
@@ -307,8 +306,7 @@ CPixels NaiveEngrave(const CPixels& src) {
                                            ((Clamp(to[1] - from[1] + 128) * 8) & 0x07E0) |
                                            ((Clamp(to[2] - from[2] + 128) / 8) & 0x001F);
     }
-    CPixels dst;
-    dst.Create(w, h);
+    CPixels dst = CPixels::MakeFilled(w, h, {});
     for (int i = w; i < w * (h - 1); ++i) {
         const std::array<int, 3> rgb = unpack(out[static_cast<std::size_t>(i)]);
         dst.MutableView().Set(i % w, i / w,

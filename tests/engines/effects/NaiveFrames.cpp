@@ -35,8 +35,7 @@ struct CPacked {
         for (int x = 0; x < nWidth; ++x) Set(x, y, nWord);
     }
     CPixels ToPixels() const {
-        CPixels dst;
-        dst.Create(nWidth, nHeight);
+        CPixels dst = CPixels::MakeFilled(nWidth, nHeight, {});
         for (int y = 0; y < nHeight; ++y)
             for (int x = 0; x < nWidth; ++x) dst.MutableView().Set(x, y, Unpack(Get(x, y)));
         return dst;

@@ -19,8 +19,7 @@ std::uint8_t Byte(CWide n) {
 
 template <class TStep>
 CPixels ForEachPixel(const CPixels& src, TStep step) {
-    CPixels dst;
-    dst.Create(src.Width(), src.Height());
+    CPixels dst = CPixels::MakeFilled(src.Width(), src.Height(), {});
     const CPixelView view = dst.MutableView();
     for (int y = 0; y < src.Height(); ++y)
         for (int x = 0; x < src.Width(); ++x) view.Set(x, y, step(src.View().Get(x, y)));
@@ -70,8 +69,7 @@ CPixels NaiveNegative(const CPixels& src, int) {
 CPixels NaivePureBlackWhite(const CPixels& src, int nLevel) {
     const auto s = static_cast<std::uint16_t>(src.Width() / 8);
     if (nLevel == 0 || s == 0) return src;
-    CPixels dst;
-    dst.Create(src.Width(), src.Height());
+    CPixels dst = CPixels::MakeFilled(src.Width(), src.Height(), {});
     const CPixelView view = dst.MutableView();
     auto acc = static_cast<std::uint16_t>(s * 128);
     for (int x = 0; x < src.Width(); ++x) {

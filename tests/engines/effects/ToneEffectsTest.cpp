@@ -3,9 +3,9 @@
 #include <climits>
 #include <random>
 
-#include "engines/effects/CpuChoice.h"
 #include "engines/effects/Effects.h"
 #include "engines/effects/NaiveTones.h"
+#include "image/CpuChoice.h"
 #include "support/Pictures.h"
 
 namespace {
@@ -27,10 +27,8 @@ void PrintTo(const CTone& tone, std::ostream* pStream) {
 
 // The picture container has a form of its own.
 CPixels EqualizedImage(const CPixels& src, int) {
-    CxImage image;
-    image.CreateFromHBITMAP(src);
-    image.HistogramEqualize();
-    return image.Pixels();
+    CxImage image(src);
+    return image.HistogramEqualize() ? image.Pixels() : CPixels();
 }
 
 constexpr CTone kTones[] = {
@@ -50,9 +48,8 @@ constexpr CTone kTones[] = {
 };
 
 CPixels Applied(CFastForm fast, const CPixels& src, int nLevel) {
-    CPixels dst;
     // Anything but black, so that a pixel that was left out shows.
-    dst.CreateFilled(src.Width(), src.Height(), {203, 77, 31});
+    CPixels dst = CPixels::MakeFilled(src.Width(), src.Height(), {203, 77, 31});
     CRandomSequence random;
     fast({src.View(), dst.MutableView(), nLevel, src.Width(), random});
     return dst;
@@ -62,15 +59,8 @@ CPixels Applied(CFastForm fast, const CPixels& src, int nLevel) {
 CPixels NoisePicture(int nWidth, int nHeight, unsigned nSeed, int nLow = 0, int nHigh = 255) {
     std::mt19937 random(nSeed);
     std::uniform_int_distribution<int> bytes(nLow, nHigh);
-    CPixels pixels;
-    pixels.Create(nWidth, nHeight);
+    CPixels pixels = CPixels::MakeFilled(nWidth, nHeight, {});
     for (std::uint8_t& n : pixels.MutableBytes()) n = static_cast<std::uint8_t>(bytes(random));
-    return pixels;
-}
-
-CPixels Flat(int nWidth, int nHeight, CColor cr) {
-    CPixels pixels;
-    pixels.CreateFilled(nWidth, nHeight, cr);
     return pixels;
 }
 
@@ -128,7 +118,7 @@ TEST(ToneValues, PureBlackAndWhiteGoesOnAsItsSumWraps) {
 }
 
 CColor OfOne(CFastForm fast, CColor cr, int nLevel) {
-    return PixelAt(Applied(fast, Flat(1, 1, cr), nLevel), 0, 0);
+    return PixelAt(Applied(fast, CPixels::MakeFilled(1, 1, cr), nLevel), 0, 0);
 }
 
 TEST(ToneValues, SinglePixels) {
@@ -145,7 +135,7 @@ TEST(ToneValues, SinglePixels) {
     // Flat: lifted by 255 - 170 and the level.
     EXPECT_EQ(OfOne(Haze1, {100, 100, 100}, 10), CxImage::YUVtoRGB({195, 143, 118}));
     // Half black, half white: the mean is 127, the spread 127, so that the lift is 128.
-    CPixels halves = Flat(2, 1, white);
+    CPixels halves = CPixels::MakeFilled(2, 1, white);
     halves.MutableView().Set(0, 0, {0, 0, 0});
     EXPECT_EQ(PixelAt(Applied(Haze1, halves, 50), 0, 0), CxImage::YUVtoRGB({8, 183, 78}));
     // Contrast has it at (0, 255, 0), hue 85 and lightness 128; saturation can grow no more.
@@ -154,9 +144,9 @@ TEST(ToneValues, SinglePixels) {
 
 TEST(ToneValues, PureBlackAndWhiteOnFlatGrey) {
     // 16 wide, so the sum starts at 256 and settles near twice the grey.
-    const CPixels bright = Applied(PureBlackWhite, Flat(16, 20, {90, 110, 3}), 1);
+    const CPixels bright = Applied(PureBlackWhite, CPixels::MakeFilled(16, 20, {90, 110, 3}), 1);
     EXPECT_EQ(PixelAt(bright, 15, 19), (CColor{255, 255, 255}));
-    const CPixels dark = Applied(PureBlackWhite, Flat(16, 20, {90, 110, 3}), 100);
+    const CPixels dark = Applied(PureBlackWhite, CPixels::MakeFilled(16, 20, {90, 110, 3}), 100);
     EXPECT_EQ(PixelAt(dark, 15, 19), (CColor{0, 0, 0}));
     const CPixels narrow = NoisePicture(7, 20, 4);
     EXPECT_EQ(Applied(PureBlackWhite, narrow, 50), narrow);
@@ -164,7 +154,7 @@ TEST(ToneValues, PureBlackAndWhiteOnFlatGrey) {
 
 TEST(ToneValues, HomogeniseLeavesWhatHasNoGreyAboveZero) {
     for (const CColor cr : {CColor{0, 0, 0}, CColor{0, 0, 8}})
-        EXPECT_EQ(Applied(Homogenise, Flat(33, 9, cr), 0), Flat(33, 9, cr));
+        EXPECT_EQ(Applied(Homogenise, CPixels::MakeFilled(33, 9, cr), 0), CPixels::MakeFilled(33, 9, cr));
 }
 
 TEST(ToneValues, LevelZero) {

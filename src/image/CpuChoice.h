@@ -2,8 +2,10 @@
 
 // Which form of a loop runs: the one with wide vectors or the plain one beside it. Both give the same bytes.
 //
-// A function with FOTARIUM_AVX2 before it may use the intrinsics of <immintrin.h>; it stands inside
-// `#if FOTARIUM_HAS_AVX2` and is called only where UseAvx2() says so.
+// A function with FOTARIUM_AVX2 before it is called only where UseAvx2() says so. It may use the intrinsics
+// of <immintrin.h> if it stands inside `#if FOTARIUM_HAS_AVX2`. The usual engine has one body with
+// FOTARIUM_INLINE, a plain function and one with FOTARIUM_AVX2 that are nothing but that body, and chooses:
+// `(UseAvx2() ? DoWide : DoPlain)(...)`.
 #if defined(__x86_64__) && defined(__GNUC__)
 #define FOTARIUM_HAS_AVX2 1
 #define FOTARIUM_AVX2 __attribute__((target("avx2,fma")))

@@ -1,4 +1,4 @@
-#include "engines/effects/CpuChoice.h"
+#include "image/CpuChoice.h"
 
 namespace {
 

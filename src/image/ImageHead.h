@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "image/Geometry.h"
+#include "image/ImageType.h"
+
+// What the head of a picture file says, without a look at its pixels.
+struct CImageHead {
+    CSize size;    // upright, as CxImage::GetSize gives it; 0 by 0 if the file cannot be read
+    int nBpp = 0;  // as CxImage::GetBpp gives it; 0 if the file cannot be read
+    bool operator==(const CImageHead&) const = default;
+};
+
+// Reads the head of a file as the format `type`, whatever its name or content says. A file that is cut behind
+// its head has one all the same; a picture too large to be held has none.
+[[nodiscard]] CImageHead ReadImageHead(const std::string& strPath, ImageType type);

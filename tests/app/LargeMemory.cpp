@@ -1,0 +1,21 @@
+#include "app/LargeMemory.h"
+
+#include <cstdlib>
+#include <new>
+
+// Those of the whole test program. They stand in a file without tests, so that no allocation of a test is
+// compiled together with one half of a pair.
+// NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): this is where memory comes from.
+void* operator new(std::size_t nSize) {
+    if (!CBlockGate::Admits(nSize)) throw std::bad_alloc();
+    void* const p = std::malloc(nSize == 0 ? 1 : nSize);
+    if (p == nullptr) throw std::bad_alloc();
+    return p;
+}
+void operator delete(void* p) noexcept {
+    std::free(p);
+}
+void operator delete(void* p, std::size_t /*nSize*/) noexcept {
+    std::free(p);
+}
+// NOLINTEND(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)

@@ -1,0 +1,197 @@
+// Every command with one of its large blocks refused, each in turn: the edit stays as it was, and the user is
+// told.
+
+#include <functional>
+#include <new>
+
+#include "app/LargeMemory.h"
+#include "app/PaintWorkshop.h"
+
+namespace {
+
+const CMessageBox kNoMemory{"Memory leak", "Orvo Fotarium V 1.0", EBoxIcon::Exclamation, EBoxButtons::Ok};
+
+// What must be as it was.
+struct CEditNow {
+    CSnapshot snapshot;
+    CPixels committed;
+    bool bFloating = false;
+    bool bMarked = false;
+    int nTool = 0;
+    bool operator==(const CEditNow&) const = default;
+};
+
+class NoMemoryTest : public PaintWorkshop {
+  protected:
+    NoMemoryTest() {
+        // Every picture of the edit takes more than the smallest block that counts, the preview too.
+        m_strPicture = SavePicture("picture.bmp", NumberedImage(210, 190));
+    }
+
+    CEditNow Now() {
+        return {Snapshot(), Draw().Paper().Committed().Pixels(), Draw().IsFloating(),
+                Draw().Selection().IsMarked(), Tools().m_nTool};
+    }
+    // Runs it with the first, second, ... large block refused until it needs no more of them. nElse: so many
+    // come first that belong to something else, a dialog's window for one.
+    void Try(const std::string& strName, const std::function<void()>& command, int nElse = 0) {
+        SCOPED_TRACE(strName);
+        m_host.Pump();
+        const CEditNow before = Now();
+        for (int n = 1; n < 30; ++n) {
+            SCOPED_TRACE("block " + std::to_string(n));
+            bool bRefused = false;
+            {
+                const CBlockGate gate(nElse + n);
+                command();
+                bRefused = gate.HasRefused();
+            }
+            const std::vector<CMessageBox> arrBoxes = m_platform.TakeBoxes();
+            m_platform.TakeProblems();
+            m_platform.TakeAsked();
+            EXPECT_EQ(m_platform.WaitDepth(), 0);
+            // What the clipboard does not take is another story.
+            const bool bClipboard = arrBoxes.size() == 1 && arrBoxes[0].strText.starts_with("Unable to set");
+            if (!bRefused || bClipboard) {
+                EXPECT_TRUE(bClipboard || arrBoxes.empty());
+                EXPECT_GT(n, 1) << "it takes no memory";
+                m_host.Pump();
+                return;
+            }
+            EXPECT_EQ(arrBoxes, std::vector<CMessageBox>{kNoMemory});
+            ASSERT_TRUE(Now() == before);
+        }
+        ADD_FAILURE() << "it never ends";
+    }
+    void TryCommand(int nId) {
+        Try("command " + std::to_string(nId), [=, this] { m_dialog.OnCommand(nId); });
+    }
+    void OpenPicture() {
+        Open(m_strPicture);
+        ASSERT_TRUE(State().m_bImageOpen);
+    }
+    // DRAW with a step behind it and a float up, or with what was copied for it still marked.
+    void Mark() {
+        Tool(1);
+        Drag({5, 5}, {205, 185});
+    }
+    void Float() {
+        Mark();
+        Click(kCmdCopy);
+        Click(kCmdPaste);
+        ASSERT_TRUE(Draw().IsFloating());
+    }
+
+    std::string m_strPicture;
+};
+
+}  // namespace
+
+TEST_F(NoMemoryTest, CommandsOfThePictureModes) {
+    for (const EMode mode : {EMode::Effect, EMode::Stick}) {
+        OpenPicture();
+        GoTo(mode);
+        for (const int nId : {kCmdLarge, kCmdLarge, kCmdSmall, kCmdUndo, kCmdRedo, kCmdLarge,
+                              kCmdFlipVertical, kCmdFlipHorizontal, kCmdTurnLeft, kCmdTurnRight, kCmdNew})
+            TryCommand(nId);
+    }
+    TryCommand(kRadioPhoneSize);
+    TryCommand(kCmdFlipVertical);
+    TryCommand(kCmdReset);
+    TryCommand(kCmdNew);
+}
+
+TEST_F(NoMemoryTest, ASizeFromItsDialog) {
+    OpenPicture();
+    CBlockGate* pGate = nullptr;
+    int nWindow = 0;
+    m_platform.SetRunner(kDlgSize, [&](CPlayHost& host) {
+        if (pGate != nullptr) nWindow = pGate->Count();
+        EXPECT_EQ(host.Type(kSizeWidth, "300"), "");
+        EXPECT_EQ(host.Click(pGate == nullptr ? kSizeOk : kSizeCancel), "");
+    });
+    {
+        CBlockGate gate(0);
+        pGate = &gate;
+        m_dialog.OnCommand(kCmdSize);
+        pGate = nullptr;
+    }
+    m_platform.TakeAsked();
+    Try(
+        "size", [this] { m_dialog.OnCommand(kCmdSize); }, nWindow);
+    EXPECT_NE(Images().DisplaySize(), (CSize{210, 190}));
+}
+
+TEST_F(NoMemoryTest, ModesAndNew) {
+    Open(SavePicture("large.bmp", NumberedImage(900, 700)));
+    GoTo(EMode::Stick);
+    m_dialog.OnCommand(kCmdLarge);
+    m_host.Pump();
+    for (const int nTab : {kTabFont, kTabEffect, kTabDraw, kTabStick}) TryCommand(nTab);
+    GoTo(EMode::Font);
+    TryCommand(kCmdNew);
+    GoTo(EMode::Draw);
+    TryCommand(kCmdNew);
+}
+
+// What finds no memory is no picture; both names are the new file's whatever becomes of it.
+TEST_F(NoMemoryTest, Open) {
+    OpenPicture();
+    Edit(1);
+    const CEditNow before = Now();
+    for (int n = 1, nBoxes = 1; nBoxes == 1; ++n) {
+        {
+            const CBlockGate gate(n);
+            m_dialog.OpenFileByName(m_folder.Path(), "picture.bmp");
+        }
+        nBoxes = static_cast<int>(m_platform.TakeBoxes().size());
+        ASSERT_EQ(Now() == before, nBoxes == 1);
+        EXPECT_TRUE(nBoxes == 1 || n > 2);
+    }
+    m_platform.TakeProblems();
+    EXPECT_EQ(Undos(), 0);
+}
+
+TEST_F(NoMemoryTest, Effects) {
+    OpenPicture();
+    for (const int nEffect : {int{kBrightness}, int{kArt}, int{kOilPainting}, int{kTile}, int{kHaze1}}) {
+        Try("choice", [&] {
+            Controls().Select(kEffectList, -1);
+            Controls().Select(kEffectList, nEffect);
+            m_dialog.OnNotify(kEffectList, ENotice::SelectionChanged);
+        });
+        ASSERT_TRUE(m_dialog.Effects().IsPending());
+        TryCommand(kConfirm);
+    }
+}
+
+TEST_F(NoMemoryTest, CommandsOfDraw) {
+    const int kCommands[] = {kCmdFlipVertical, kCmdFlipHorizontal, kCmdTurnLeft, kCmdTurnRight};
+    for (const bool bFloat : {false, true}) {
+        for (const int nId : kCommands) {
+            OpenPicture();
+            GoTo(EMode::Draw);
+            if (bFloat) Float();
+            TryCommand(nId);
+        }
+        for (const int nId : {kCmdUndo, kTabEffect, kTabThum, kTabFont}) {
+            if (!bFloat) break;
+            OpenPicture();
+            GoTo(EMode::Draw);
+            Float();
+            TryCommand(nId);
+        }
+    }
+    OpenPicture();
+    GoTo(EMode::Draw);
+    Mark();
+    TryCommand(kCmdCopy);
+    TryCommand(kCmdPaste);
+    TryCommand(FindToolButton(5));
+    Mark();
+    TryCommand(kCmdCut);
+    Mark();
+    TryCommand(kCmdCrop);
+    GoTo(EMode::Effect);
+    TryCommand(kCmdActual);
+}

@@ -6,9 +6,8 @@ constexpr CSize kCorner{20, 20};
 
 }  // namespace
 
-// Nothing reads the vertex, but a command takes the figure for one that is open.
-void CBoxTool::Press(CPoint pt) {
-    Hand().BeginShape(pt);
+void CBoxTool::Press(CPoint /*pt*/) {
+    Hand().BeginBox();
 }
 
 void CBoxTool::Move(CPoint pt) {

@@ -2,16 +2,12 @@
 
 namespace {
 
-// The count of steps behind the third drag.
-constexpr int kDone = 4;
+constexpr int kLastStep = 3;
 
 }  // namespace
 
 void CCurveTool::Press(CPoint pt) {
-    if (Hand().IsShapeOpen()) return;
-    Hand().m_nVertexCount = 1;
-    Hand().m_ptBezierCur = pt;
-    Hand().m_ptBezier.fill(pt);
+    Hand().BeginCurve(pt);
 }
 
 // The first run of a move draws the curve as it was, the second one as it is.
@@ -25,17 +21,17 @@ void CCurveTool::Move(CPoint pt) {
 
 void CCurveTool::Release(CPoint pt) {
     Pull(pt);
-    if (++Hand().m_nVertexCount != kDone) return;
+    if (!Hand().TakeRelease() || ++Hand().m_nCurveStep <= kLastStep) return;
     if (m_env.Snapshot()) Committed().Bezier(Hand().m_ptBezier);
     Paper().Revert();
-    Hand().m_nVertexCount = -1;
+    Hand().EndShape();
 }
 
-// The first drag moves the end, the second one pulls both control points, the third one the far one alone.
+// A drag that began elsewhere moves all but the start. The first one moves the end, the second one pulls both control points, the third one the far one alone.
 void CCurveTool::Pull(CPoint pt) {
-    Hand().m_ptBezierCur = pt;
+    if (Hand().m_bReleaseSpent) return;
     auto& points = Hand().m_ptBezier;
-    switch (Hand().m_nVertexCount) {
+    switch (Hand().m_nCurveStep) {
         case 0:
             points[1] = points[2] = points[3] = pt;
             break;
@@ -45,10 +41,7 @@ void CCurveTool::Pull(CPoint pt) {
         case 2:
             points[1] = points[2] = pt;
             break;
-        case 3:
-            points[2] = pt;
-            break;
         default:
-            break;
+            points[2] = pt;
     }
 }

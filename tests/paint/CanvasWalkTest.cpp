@@ -110,7 +110,7 @@ class CanvasWalk : public CommandBench {
         CheckKept();
         // The hand.
         const CHand& hand = m_draw.Hand();
-        ASSERT_TRUE(hand.m_nVertexCount >= -1 && hand.m_nVertexCount <= CHand::kMostVertices);
+        ASSERT_TRUE(hand.m_nVertexCount <= CHand::kMostVertices);
         ASSERT_NE(m_tools.m_nResumeTool, ETool::Float);
         // A float and its tool come and go together, and no mark stands beside it.
         ASSERT_EQ(m_draw.IsFloating(), m_tools.m_nTool == ETool::Float);

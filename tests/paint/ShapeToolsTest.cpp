@@ -1,6 +1,8 @@
 // The tools that stretch a figure: the rubber band on the scratch store, one figure and one step at the end.
 
 #include <cmath>
+#include <functional>
+#include <tuple>
 
 #include "paint/ToolBench.h"
 
@@ -175,7 +177,7 @@ TEST_F(ShapeTools, ACurveIsALineAndTwoPulls) {
     Move({40, 45});
     Release({40, 45});
     ExpectStroke(curve({CPoint{5, 25}, {20, 5}, {40, 45}, {52, 25}}), Page().Pixels());
-    EXPECT_EQ(m_draw.Hand().m_nVertexCount, -1);
+    EXPECT_FALSE(m_draw.IsShapeOpen());
 }
 
 // A click is a pull at its point, a double click two.
@@ -214,7 +216,32 @@ TEST_F(ShapeTools, AnOpenShapeThatIsGivenUpLeavesNoTrace) {
 TEST_F(ShapeTools, ABoxCountsAsAnOpenShapeBehindItsFirstPress) {
     m_tools.m_nTool = ETool::Ellipse;
     Drag({{10, 10}, {40, 30}});
-    EXPECT_EQ(m_draw.Hand().m_nVertexCount, 1);
-    Drag({{20, 20}, {30, 30}});
-    EXPECT_EQ(m_draw.Hand().m_ptVertex[0], (CPoint{10, 10}));
+    EXPECT_TRUE(m_draw.IsShapeOpen());
+    m_draw.AbandonShape();
+    Release({20, 20});
+    EXPECT_FALSE(m_draw.IsShapeOpen());
+}
+
+// Closed, finished or given up in mid-drag: the release that is still to come adds nothing, the one behind it
+// counts, as does one whose press was elsewhere.
+TEST_F(ShapeTools, ADragThatOutlivesItsShapeAddsNothing) {
+    const auto givenUp = [&] { m_draw.AbandonShape(); };
+    const auto closed = [&] { DoubleClick({30, 30}); };
+    const auto bent = [&] { Drag({{1, 1}, {9, 9}}), Click({20, 5}), Click({20, 5}); };
+    const std::tuple<ETool, std::function<void()>, bool> kEnds[] = {
+        {ETool::Polygon, givenUp, true},       {ETool::Polygon, closed, false},
+        {ETool::SelectPolygon, givenUp, true}, {ETool::SelectPolygon, closed, false},
+        {ETool::Curve, givenUp, true},         {ETool::Curve, bent, true},
+    };
+    for (const auto& [tool, end, bSpent] : kEnds) {
+        SCOPED_TRACE(NumberOf(tool));
+        m_tools.m_nTool = tool;
+        Press({10, 10});
+        end();
+        if (bSpent) Release({20, 20});
+        EXPECT_FALSE(m_draw.IsShapeOpen());
+        Release({20, 20});
+        EXPECT_TRUE(m_draw.IsShapeOpen());
+        m_draw.AbandonShape();
+    }
 }

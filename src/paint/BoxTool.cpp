@@ -13,7 +13,6 @@ void CBoxTool::Press(CPoint /*pt*/) {
 void CBoxTool::Move(CPoint pt) {
     Paper().Revert();
     DrawFigure(Scratch(), pt);
-    Paper().ShowScratch();
 }
 
 void CBoxTool::Release(CPoint pt) {

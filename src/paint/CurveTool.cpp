@@ -13,10 +13,8 @@ void CCurveTool::Press(CPoint pt) {
 // The first run of a move draws the curve as it was, the second one as it is.
 void CCurveTool::Move(CPoint pt) {
     Paper().Revert();
-    Scratch().SelectBrush(CBrush::Hollow());
     Scratch().Bezier(Hand().m_ptBezier);
     Pull(pt);
-    Paper().ShowScratch();
 }
 
 void CCurveTool::Release(CPoint pt) {
@@ -27,7 +25,8 @@ void CCurveTool::Release(CPoint pt) {
     Hand().EndShape();
 }
 
-// A drag that began elsewhere moves all but the start. The first one moves the end, the second one pulls both control points, the third one the far one alone.
+// The first drag moves the end, the second one pulls both control points, the third one the far one alone.
+// One that began beside the canvas moves all but the start.
 void CCurveTool::Pull(CPoint pt) {
     if (Hand().m_bReleaseSpent) return;
     auto& points = Hand().m_ptBezier;

@@ -6,13 +6,11 @@ void CPolygonTool::Press(CPoint pt) {
 
 void CPolygonTool::Move(CPoint pt) {
     Paper().Revert();
-    Scratch().SelectBrush(CBrush::Hollow());
     if (Hand().m_nVertexCount > 0) {
         const auto vertices = Vertices(Hand().m_nVertexCount);
         Scratch().Polyline(vertices);
         DrawLine(Scratch(), vertices.back(), pt);
     }
-    Paper().ShowScratch();
 }
 
 void CPolygonTool::Release(CPoint pt) {

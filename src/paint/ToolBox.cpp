@@ -85,15 +85,11 @@ void CToolBox::OnPress(CPoint pt, EMouseButton button) {
     TakeColors(button);
     if (m_options.m_nTool == ETool::Picker) m_options.m_bPickForeground = button == EMouseButton::Left;
     m_env.hand.m_ptStart = KeepInside(pt);
-    const CPen pen = CPen::Solid(m_options.m_nLineWidth, m_env.hand.m_crPrimary);
-    m_env.paper.Committed().SelectPen(pen);
-    m_env.paper.Scratch().SelectPen(pen);
-    m_env.paper.Committed().SelectBrush(CBrush::Solid(m_env.hand.m_crPrimary));
+    m_env.paper.Scratch().SelectPen(CPen::Solid(m_options.m_nLineWidth, m_env.hand.m_crPrimary));
     Current().Press(pt);
 }
 
 void CToolBox::OnMove(CPoint pt) {
-    m_env.paper.Committed().SelectPen(ToolPen());
     m_env.paper.Scratch().SelectPen(ToolPen());
     m_env.paper.Scratch().SelectBrush(FigureBrush());
     if (m_env.hand.m_bButtonDown) Current().Move(KeepInside(pt));
@@ -106,12 +102,10 @@ void CToolBox::OnRelease(CPoint pt) {
     Current().Release(KeepInside(pt));
 }
 
+// The first click's release has left pen and brush on the picture.
 void CToolBox::OnDoubleClick(CPoint pt, EMouseButton button) {
     TakeColors(button);
     m_env.hand.m_bButtonDown = false;
-    m_env.paper.Committed().SelectPen(ToolPen());
-    const bool bHollow = m_options.m_nTool == ETool::SelectPolygon;
-    m_env.paper.Committed().SelectBrush(bHollow ? CBrush::Hollow() : FigureBrush());
     Current().DoubleClick(pt);
 }
 

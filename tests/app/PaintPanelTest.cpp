@@ -101,6 +101,8 @@ TEST_F(PaintPanelTest, APressBesideThePanelEndsAnOpenShapeAndOneInsideDoesNot) {
     PressWindow({100, 600});
     EXPECT_FALSE(Draw().IsShapeOpen());
     Drag({5, 5}, {20, 6});
+    Window(EMouseAction::Press, {100, 600}, EMouseButton::Right);
+    EXPECT_TRUE(Draw().IsShapeOpen());
     Window(EMouseAction::Release, {100, 600}, EMouseButton::Right);
     EXPECT_FALSE(Draw().IsShapeOpen());
     Drag({5, 5}, {20, 6});

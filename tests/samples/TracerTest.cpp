@@ -7,12 +7,12 @@
 #include "resources/samples/tool/Bvh.h"
 #include "resources/samples/tool/Denoise.h"
 #include "resources/samples/tool/Noise.h"
-#include "resources/samples/tool/Stage.h"
+#include "resources/samples/tool/Scene.h"
 
 namespace {
 
-CSurface Matt(const CSpot& spot, float fBody) {
-    CSurface surface;
+CMaterial Matt(const CSpot& spot, float fBody) {
+    CMaterial surface;
     surface.crBody = {fBody, fBody, fBody};
     surface.crMirror = {0, 0, 0};
     surface.normal = spot.normal;
@@ -20,8 +20,8 @@ CSurface Matt(const CSpot& spot, float fBody) {
 }
 
 // A matt floor seen straight from above, with no light but what a test adds.
-CStage FloorStage(float fBody) {
-    CStage stage;
+CScene FloorStage(float fBody) {
+    CScene stage;
     const int nFloor = stage.AddShader([fBody](const CSpot& spot) { return Matt(spot, fBody); });
     AddSheet(stage.mesh, nFloor, 1, 1, false, [](float u, float v) {
         return CVec3{-50 + 100 * u, 0, 50 - 100 * v};
@@ -32,7 +32,7 @@ CStage FloorStage(float fBody) {
     return stage;
 }
 
-float MeanLight(const CStage& stage, int nPaths) {
+float MeanLight(const CScene& stage, int nPaths) {
     const CFilm film = Photograph(stage, 8, 8, nPaths);
     float fSum = 0;
     for (const CVec3 cr : film.pixels) fSum += Luminance(cr);
@@ -119,12 +119,12 @@ TEST(Mesh, TurnedThingsFaceOutwardsAndKeepTheirRestWhenMoved) {
 }
 
 TEST(Photograph, AMattFloorGivesBackItsPartOfAnEvenSky) {
-    CStage stage = FloorStage(0.6F);
+    CScene stage = FloorStage(0.6F);
     stage.sky = [](CVec3, bool) { return CVec3{2, 2, 2}; };
     EXPECT_NEAR(MeanLight(stage, 256), 1.2F, 0.02F);
     stage.air = [](CVec3, CVec3, float fLength) {
         const float f = std::exp(-fLength);
-        return CStage::CAir{{f, f, f}, {0.5F, 0.5F, 0.5F}};
+        return CScene::CAir{{f, f, f}, {0.5F, 0.5F, 0.5F}};
     };
     // A metre of air before the floor and none towards the sky.
     EXPECT_NEAR(MeanLight(stage, 256), 0.5F + 1.2F * std::exp(-1.0F), 0.02F);
@@ -132,7 +132,7 @@ TEST(Photograph, AMattFloorGivesBackItsPartOfAnEvenSky) {
 
 TEST(Photograph, ALampShinesByItsSizeAndDistance) {
     for (const float fSide : {0.2F, 3.0F}) {
-        CStage stage = FloorStage(0.5F);
+        CScene stage = FloorStage(0.5F);
         constexpr float kHeight = 4;
         stage.lamps.push_back(LampAt({0, kHeight, 0}, {0, 0, 0}, fSide, fSide, {10, 10, 10}));
         // The cosine-weighted solid angle of the square, summed over small pieces.
@@ -151,21 +151,21 @@ TEST(Photograph, ALampShinesByItsSizeAndDistance) {
 }
 
 TEST(Photograph, ThingsThrowShadowsAndGlassTintsThem) {
-    CStage stage = FloorStage(0.5F);
+    CScene stage = FloorStage(0.5F);
     stage.lamps.push_back(LampAt({2, 6, 0}, {0, 0, 0}, 0.3F, 0.3F, {900, 900, 900}));
     const float fOpen = MeanLight(stage, 200);
-    const auto addPane = [](CStage& to, int nMaterial) {
+    const auto addPane = [](CScene& to, int nMaterial) {
         AddSheet(to.mesh, nMaterial, 1, 1, false, [](float u, float v) {
             return CVec3{0.3F + u, 3, 0.5F - v};
         });
     };
-    CStage covered = stage;
+    CScene covered = stage;
     addPane(covered, covered.AddShader([](const CSpot& spot) { return Matt(spot, 0.5F); }));
     EXPECT_LT(MeanLight(covered, 200), 0.05F * fOpen);
-    CStage glazed = stage;
+    CScene glazed = stage;
     addPane(glazed, glazed.AddShader(
                         [](const CSpot& spot) {
-                            CSurface surface;
+                            CMaterial surface;
                             surface.crThrough = {0.5F, 0.5F, 0.5F};
                             surface.normal = spot.normal;
                             return surface;
@@ -175,7 +175,7 @@ TEST(Photograph, ThingsThrowShadowsAndGlassTintsThem) {
 }
 
 TEST(Photograph, IsTheSameEveryTime) {
-    CStage stage = FloorStage(0.5F);
+    CScene stage = FloorStage(0.5F);
     stage.lamps.push_back(LampAt({1, 2, 1}, {0, 0, 0}, 1, 1, {5, 4, 3}));
     const std::vector<std::uint8_t> first = Develop(Photograph(stage, 24, 16, 4), {});
     EXPECT_EQ(first.size(), 24U * 16U * 3U);

@@ -31,13 +31,12 @@ std::string SelectedPicture(int nEffect) {
 }
 
 const CEffectRow& RowOf(int nEffect) {
-    return kEffects[static_cast<std::size_t>(nEffect)];
+    return ::RowOf(EffectOf(nEffect));
 }
 
 }  // namespace
 
-CEffectFlow::CEffectFlow(const CEnvironment& env)
-    : m_env(env), m_engine(env.random), m_list(env.controls, kEffectList) {}
+CEffectFlow::CEffectFlow(const CEnvironment& env) : m_env(env), m_list(env.controls, kEffectList) {}
 
 void CEffectFlow::Init() {
     std::vector<std::string> arrCells;
@@ -106,7 +105,8 @@ void CEffectFlow::ShowLevel(bool bHasLevel) {
 // Runs the effect on a fresh copy of the untouched preview.
 bool CEffectFlow::ApplyToPreview(bool bFull) {
     auto pImage = std::make_unique<CxImage>(*m_pImgEffectBase);
-    if (!m_engine.ApplyEffect(*pImage, m_nEffectIndex, m_nEffectLevel, bFull, m_env.images.m_nDispWidth))
+    if (!bFull) m_nRefWidth = m_env.images.m_nDispWidth;
+    if (!ApplyEffect(*pImage, EffectOf(m_nEffectIndex), m_nEffectLevel, m_nRefWidth, m_env.random))
         return false;
     m_pImgEffectSmall = std::move(pImage);
     return true;
@@ -156,8 +156,7 @@ void CEffectFlow::OnConfirm() {
     if (!m_env.state.m_bEffectPending) return;
     const CWaitScope wait(m_env.wait);
     auto pFull = std::make_unique<CxImage>(*m_env.images.m_pImgWork);
-    const int nWidth = m_env.images.m_nDispWidth;
-    if (!m_engine.ApplyEffect(*pFull, m_nEffectIndex, m_nEffectLevel, true, nWidth)) {
+    if (!ApplyEffect(*pFull, EffectOf(m_nEffectIndex), m_nEffectLevel, m_nRefWidth, m_env.random)) {
         m_env.boxes.Show({kTextNoMemory, kTextProgram, EBoxIcon::Exclamation, EBoxButtons::Ok});
         return;
     }

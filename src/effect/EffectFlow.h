@@ -74,11 +74,12 @@ class CEffectFlow {
     void EndPreview();
 
     CEnvironment m_env;
-    CImageEffect m_engine;
     CImageListBox m_list;
     int m_nEffectIndex = 0;
     int m_nEffectShown = -1;  // whose list picture is in its selected form; -1 for none
     int m_nEffectLevel = 0;
+    // The width of the display as the last preview that was new had it; CONFIRM refers to it too.
+    int m_nRefWidth = 0;
     std::unique_ptr<CxImage> m_pImgEffectSmall;  // the preview as shown
     std::unique_ptr<CxImage> m_pImgEffectBase;   // the untouched preview, source of every slider move
 };

@@ -18,10 +18,9 @@ CxImage NoiseImage(int nWidth, int nHeight, unsigned nSeed) {
     return image;
 }
 
-CxImage Applied(CxImage image, int nEffect, int nLevel) {
+CxImage Applied(CxImage image, EEffect effect, int nLevel) {
     CRandomSequence random;
-    CImageEffect engine(random);
-    EXPECT_TRUE(engine.ApplyEffect(image, nEffect, nLevel, false, image.GetWidth()));
+    EXPECT_TRUE(ApplyEffect(image, effect, nLevel, image.GetWidth(), random));
     return image;
 }
 
@@ -48,22 +47,22 @@ TEST(Engine, RunsTheEffectOfEachNumber) {
             ASSERT_TRUE(expected.Create(67, 53));
             CRandomSequence random;
             row.apply({src.Pixels().View(), expected.MutableView(), nLevel, 67, random});
-            EXPECT_EQ(Applied(src, row.nNumber, nLevel).Pixels(), expected) << row.nNumber;
+            EXPECT_EQ(Applied(src, EffectOf(row.nNumber), nLevel).Pixels(), expected) << row.nNumber;
             EXPECT_NE(expected, src.Pixels()) << row.nNumber;
         }
     }
     CxImage equalised = src;
     ASSERT_TRUE(equalised.HistogramEqualize());
-    EXPECT_EQ(Applied(src, 11, 0).Pixels(), equalised.Pixels());
+    EXPECT_EQ(Applied(src, EffectOf(11), 0).Pixels(), equalised.Pixels());
 }
 
 TEST(Engine, LeavesThePictureForNumbersThatAreNoEffect) {
     const CxImage src = NoiseImage(20, 20, 2);
     for (const int nNumber : {-1, 31, INT_MIN, INT_MAX})
-        EXPECT_EQ(Applied(src, nNumber, 50).Pixels(), src.Pixels()) << nNumber;
+        EXPECT_EQ(Applied(src, EffectOf(nNumber), 50).Pixels(), src.Pixels()) << nNumber;
     CxImage empty;
     CRandomSequence random;
-    EXPECT_TRUE(CImageEffect(random).ApplyEffect(empty, kNegative, 0, true, 0));
+    EXPECT_TRUE(ApplyEffect(empty, EEffect::Negative, 0, 0, random));
     EXPECT_FALSE(empty.IsValid());
 }
 
@@ -74,7 +73,7 @@ TEST(Engine, KeepsAlphaAndLeavesEveryCopyAlone) {
     ASSERT_TRUE(src.SetAlpha(alpha));
     const std::vector<std::uint8_t> before(src.Pixels().Bytes().begin(), src.Pixels().Bytes().end());
     for (int nNumber = -1; nNumber <= 31; ++nNumber) {
-        const CxImage result = Applied(src, nNumber, 10);
+        const CxImage result = Applied(src, EffectOf(nNumber), 10);
         EXPECT_TRUE(std::ranges::equal(src.Pixels().Bytes(), before)) << nNumber;
         EXPECT_TRUE(std::ranges::equal(result.Alpha(), alpha)) << nNumber;
         EXPECT_EQ(result.GetSize(), src.GetSize()) << nNumber;
@@ -88,49 +87,38 @@ TEST(Engine, InvertsAPictureThatNobodySharesWhereItStands) {
     const std::uint8_t* const pBits = image.Pixels().View().pBits;
     ASSERT_NE(pBits, src.Pixels().View().pBits);
     CRandomSequence random;
-    ASSERT_TRUE(CImageEffect(random).ApplyEffect(image, kNegative, 0, true, 0));
+    ASSERT_TRUE(ApplyEffect(image, EEffect::Negative, 0, 0, random));
     EXPECT_EQ(image.Pixels().View().pBits, pBits);
-    EXPECT_EQ(image.Pixels(), Applied(src, kNegative, 0).Pixels());
+    EXPECT_EQ(image.Pixels(), Applied(src, EEffect::Negative, 0).Pixels());
     EXPECT_NE(image.Pixels(), src.Pixels());
 }
 
-TEST(Engine, KnowsTheFullWidthFromTheLastPreview) {
+TEST(Engine, TakesSizesFromTheFullWidthAndElseFromThePicture) {
     const CxImage src = NoiseImage(60, 50, 4);
     CRandomSequence random;
-    CImageEffect engine(random);
-    CxImage preview = src;
-    EXPECT_TRUE(engine.ApplyEffect(preview, kLaminate, 4, false, 240));  // blocks of 10 pixels
-    CxImage full = src;
-    EXPECT_TRUE(engine.ApplyEffect(full, kLaminate, 4, true, 60));
-    EXPECT_EQ(full.Pixels(), preview.Pixels());
-    EXPECT_EQ(engine.RefWidth(), 240);
-    EXPECT_TRUE(engine.ApplyEffect(full, -1, 0, false, 90));
-    EXPECT_EQ(engine.RefWidth(), 90);
-
-    // Before any preview, and for a width that is none, the picture's own one stands in.
-    CxImage own = src;
-    EXPECT_TRUE(engine.ApplyEffect(own, kLaminate, 1, false, 60));
-    for (const int nRefWidth : {0, -5}) {
-        CxImage other = src;
-        EXPECT_TRUE(CImageEffect(random).ApplyEffect(other, kLaminate, 1, false, nRefWidth));
-        EXPECT_EQ(other.Pixels(), own.Pixels()) << nRefWidth;
-    }
+    const auto Laminated = [&](int nLevel, int nRefWidth) {
+        CxImage image = src;
+        EXPECT_TRUE(ApplyEffect(image, EEffect::Laminate, nLevel, nRefWidth, random));
+        return image.Pixels();
+    };
+    EXPECT_EQ(Laminated(4, 240), Laminated(1, 60)) << "blocks of 10 pixels";
+    EXPECT_NE(Laminated(1, 240), Laminated(1, 60));
+    for (const int nRefWidth : {0, -5}) EXPECT_EQ(Laminated(1, nRefWidth), Laminated(1, 60));
 }
 
-TEST(Engine, GoesOnInItsRandomNumbersUntilItIsSeeded) {
+TEST(Engine, GoesOnInItsRandomNumbersUntilTheyAreSeeded) {
     const CxImage src = NoiseImage(60, 50, 5);
-    for (const int nNumber : {kOilPainting, kTile}) {
+    for (const EEffect effect : {EEffect::OilPainting, EEffect::Tile}) {
         CRandomSequence random;
-        CImageEffect engine(random);
-        CxImage first = src;
-        CxImage second = src;
-        CxImage third = src;
-        ASSERT_TRUE(engine.ApplyEffect(first, nNumber, 5, false, 200));
-        ASSERT_TRUE(engine.ApplyEffect(second, nNumber, 5, true, 200));
+        const auto Next = [&] {
+            CxImage image = src;
+            EXPECT_TRUE(ApplyEffect(image, effect, 5, 200, random));
+            return image.Pixels();
+        };
+        const CPixels first = Next();
+        EXPECT_NE(Next(), first);
         random.Seed(1);
-        ASSERT_TRUE(engine.ApplyEffect(third, nNumber, 5, true, 200));
-        EXPECT_NE(first.Pixels(), second.Pixels()) << nNumber;
-        EXPECT_EQ(first.Pixels(), third.Pixels()) << nNumber;
+        EXPECT_EQ(Next(), first);
     }
 }
 
@@ -139,12 +127,12 @@ TEST(Engine, ChangesNothingAtLevelZeroButForTheWayThroughHue) {
     for (int nNumber = 0; nNumber < kEffectCount; ++nNumber) {
         if (!kEffects[static_cast<std::size_t>(nNumber)].bHasLevel) continue;
         CPixels expected = src.Pixels();
-        if (nNumber == kChroma)
+        if (EffectOf(nNumber) == EEffect::Chroma)
             for (int y = 0; y < 48; ++y)
                 for (int x = 0; x < 64; ++x)
                     expected.MutableView().Set(x, y,
                                                ColorHSLtoRGB(ColorRGBtoHSL(PixelAt(src.Pixels(), x, y))));
-        EXPECT_EQ(Applied(src, nNumber, 0).Pixels(), expected) << nNumber;
+        EXPECT_EQ(Applied(src, EffectOf(nNumber), 0).Pixels(), expected) << nNumber;
     }
 }
 
@@ -157,9 +145,9 @@ TEST(Engine, GivesTheSamePictureWithAndWithoutWideVectors) {
         for (int nNumber = 0; nNumber < kEffectCount; ++nNumber) {
             const CEffectRow& row = kEffects[static_cast<std::size_t>(nNumber)];
             for (const int nLevel : {row.nMin, row.nMax / 3, row.nMax, 2 * row.nMax + 1}) {
-                const CxImage wide = Applied(src, nNumber, nLevel);
+                const CxImage wide = Applied(src, EffectOf(nNumber), nLevel);
                 const CPlainLoops plain;
-                ASSERT_EQ(Applied(src, nNumber, nLevel).Pixels(), wide.Pixels())
+                ASSERT_EQ(Applied(src, EffectOf(nNumber), nLevel).Pixels(), wide.Pixels())
                     << nNumber << " at " << nLevel << ", " << nWidth << " by " << nHeight << ", seed "
                     << nRound;
             }
@@ -169,15 +157,16 @@ TEST(Engine, GivesTheSamePictureWithAndWithoutWideVectors) {
 
 TEST(Engine, GivesColoursOfSixteenBitsWhereItWorksInThem) {
     const CxImage src = NoiseImage(200, 150, 8);
-    for (const int nNumber : {kFilm, kCrystalFrame, kEngrave, kConcaveMirror}) {
+    for (const EEffect effect :
+         {EEffect::Film, EEffect::CrystalFrame, EEffect::Engrave, EEffect::ConcaveMirror}) {
         int nBits = 0;
-        const CxImage result = Applied(src, nNumber, 0);
+        const CxImage result = Applied(src, effect, 0);
         for (int y = 0; y < 150; ++y)
             for (int x = 0; x < 200; ++x) {
                 const CColor cr = PixelAt(result.Pixels(), x, y);
                 nBits |= (cr.r & 7) | (cr.g & 3) | (cr.b & 7);
             }
-        EXPECT_EQ(nBits, 0) << nNumber;
+        EXPECT_EQ(nBits, 0) << NumberOf(effect);
     }
 }
 

@@ -1,5 +1,5 @@
 #include "editor/EditorBench.h"
-#include "editor/ShortMemory.h"
+#include "support/ShortMemory.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // What happens when there is no memory for a step.
 
 #include "editor/EditorBench.h"
-#include "editor/ShortMemory.h"
+#include "support/ShortMemory.h"
 
 namespace {
 

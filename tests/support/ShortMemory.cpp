@@ -1,4 +1,4 @@
-#include "editor/ShortMemory.h"
+#include "support/ShortMemory.h"
 
 #include <cstdlib>
 #include <new>

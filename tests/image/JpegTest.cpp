@@ -14,33 +14,18 @@ class Jpeg : public CFolderTest {
     }
 };
 
-// What the mark says of the stored picture: where in the upright one its first row and its first column lie.
-struct CSides {
-    char cFirstRow;
-    char cFirstColumn;
-};
-constexpr CSides kSides[9] = {{},         {'t', 'l'}, {'t', 'r'}, {'b', 'r'}, {'b', 'l'},
-                              {'l', 't'}, {'r', 't'}, {'r', 'b'}, {'l', 'b'}};
-
+// The picture as a camera stores it that marks it so.
 CxImage StoredAs(const CxImage& upright, int nOrientation) {
-    const CSides sides = kSides[nOrientation];
-    const bool bExchanged = sides.cFirstRow == 'l' || sides.cFirstRow == 'r';
-    const int w = upright.GetWidth();
-    const int h = upright.GetHeight();
-    CxImage stored(bExchanged ? h : w, bExchanged ? w : h);
-    const CPixelView view = stored.MutableView();
-    const bool bFromRight = sides.cFirstRow == 'r' || sides.cFirstColumn == 'r';
-    const bool bFromBottom = sides.cFirstRow == 'b' || sides.cFirstColumn == 'b';
-    for (int r = 0; r < view.nHeight; ++r) {
-        for (int c = 0; c < view.nWidth; ++c) {
-            const int nAcross = bExchanged ? r : c;
-            const int nDown = bExchanged ? c : r;
-            view.Set(c, r,
-                     upright.Pixels().View().Get(bFromRight ? w - 1 - nAcross : nAcross,
-                                                 bFromBottom ? h - 1 - nDown : nDown));
-        }
+    CxImage image = upright;
+    if (nOrientation >= 5) {
+        EXPECT_TRUE(image.Rotate(nOrientation == 5 || nOrientation == 8 ? 90.0 : -90.0));
+    } else if (nOrientation >= 3) {
+        EXPECT_TRUE(image.Rotate180());
     }
-    return stored;
+    if (nOrientation == 2 || nOrientation == 4 || nOrientation == 5 || nOrientation == 7) {
+        EXPECT_TRUE(image.Mirror());
+    }
+    return image;
 }
 
 TEST_F(Jpeg, EveryOrientationStandsUpright) {

@@ -56,7 +56,7 @@ TEST_F(Jpeg, MalformedExifIsPassedOver) {
             Load(WithSegment(file, Bytes(sound.begin(), sound.begin() + static_cast<long>(nCut)))).GetSize(),
             picture.GetSize());
     }
-    for (const std::uint8_t nValue : {0, 9, 255}) {
+    for (const auto nValue : std::initializer_list<std::uint8_t>{0, 9, 255}) {
         EXPECT_EQ(Load(WithSegment(file, ExifSegment(nValue, false))).GetSize(), picture.GetSize());
     }
     Bytes farAway = sound;

@@ -61,9 +61,7 @@ TEST(Geometry, TurnsAndScalesLikeTheNaiveForm) {
         CheckResample(source, side(90), side(90));
     }
     const CxImage source = WithAlpha(RandomPicture(random, 64, 48));
-    CheckResample(source, 128, 96);
-    CheckResample(source, 32, 24);
-    CheckResample(source, 1, 1);
+    for (const CSize size : {CSize{128, 96}, {32, 24}, {1, 1}}) CheckResample(source, size.cx, size.cy);
 }
 
 TEST(Geometry, ValuesWorkedOutByHand) {
@@ -83,11 +81,8 @@ TEST(Geometry, ValuesWorkedOutByHand) {
 TEST(Geometry, WhatMakesNoSenseChangesNothing) {
     CxImage image = SmoothPicture(8, 5);
     const CxImage before = image;
-    EXPECT_FALSE(image.Rotate(45.0));
-    EXPECT_FALSE(image.Resample(0, 5));
-    EXPECT_FALSE(image.Resample(5, -1));
-    EXPECT_FALSE(image.Resample(4, 4, 0));
-    EXPECT_FALSE(image.ReplacePixels(SmoothPicture(5, 8).Pixels()));
+    EXPECT_FALSE(image.Rotate(45.0) || image.Resample(0, 5) || image.Resample(5, -1) ||
+                 image.Resample(4, 4, 0) || image.ReplacePixels(SmoothPicture(5, 8).Pixels()));
     EXPECT_TRUE(image.Pixels().SharesWith(before.Pixels()));
     image.SetPixelColor(8, 0, {255, 255, 255});
     image.SetPixelColor(0, -1, {255, 255, 255});

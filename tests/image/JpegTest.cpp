@@ -56,7 +56,7 @@ TEST_F(Jpeg, MalformedExifIsPassedOver) {
             Load(WithSegment(file, Bytes(sound.begin(), sound.begin() + static_cast<long>(nCut)))).GetSize(),
             picture.GetSize());
     }
-    for (const std::uint8_t nValue : {0, 9, 255}) {
+    for (const auto nValue : std::initializer_list<std::uint8_t>{0, 9, 255}) {
         EXPECT_EQ(Load(WithSegment(file, ExifSegment(nValue, false))).GetSize(), picture.GetSize());
     }
     Bytes farAway = sound;
@@ -160,7 +160,7 @@ TEST_F(Jpeg, ScaledSizesAreTheSmallestThatCover) {
 TEST_F(Jpeg, WrittenFilesHaveTheAgreedForm) {
     CxImage image = SmoothPicture(33, 17);
     ASSERT_TRUE(image.Save(Path("a.jpg"), ImageType::kJpeg));
-    const Bytes file = ReadBytes(Path("a.jpg"));
+    const Bytes file = BytesOf(Path("a.jpg"));
     // Start mark, sixteen bytes of JFIF 1.01 with 96 dots per inch and no thumbnail, then the tables at
     // byte 20.
     const Bytes head = {0xFF, 0xD8, 0xFF, 0xE0, 0,  16, 'J', 'F', 'I', 'F',  0,
@@ -177,7 +177,7 @@ TEST_F(Jpeg, WrittenFilesHaveTheAgreedForm) {
     image.SetYDPI(72);
     image.SetJpegQuality(50);
     ASSERT_TRUE(CxImage(image).Save(Path("b.jpg"), ImageType::kJpeg)) << "the settings go with a copy";
-    const Bytes other = ReadBytes(Path("b.jpg"));
+    const Bytes other = BytesOf(Path("b.jpg"));
     EXPECT_EQ(Bytes(other.begin() + 13, other.begin() + 18), (Bytes{1, 1, 44, 0, 72}));
     EXPECT_EQ(other[25], 16);
     image.SetJpegQuality(1000);

@@ -28,6 +28,18 @@ function(fotarium_room FOLDER)
   target_link_libraries(room_${NAME} PRIVATE fotarium_flags ${ARG_PRIVATE} PUBLIC ${ARG_LINK})
 endfunction()
 
+# What nearly every test includes, compiled once for all test programs but those with compiler flags of their own, as
+# Qt and Magick++ bring them.
+# With a compiler cache, which passes such units over, it would cost more than it saves.
+if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
+  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+endif()
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/test_headers.cpp CONTENT "")
+add_library(fotarium_test_headers OBJECT EXCLUDE_FROM_ALL ${CMAKE_BINARY_DIR}/test_headers.cpp)
+target_link_libraries(fotarium_test_headers PRIVATE fotarium_flags GTest::gtest)
+target_precompile_headers(fotarium_test_headers PRIVATE
+  <gtest/gtest.h> <algorithm> <array> <filesystem> <map> <set> <string> <vector>)
+
 # fotarium_test(FOLDER [LINK libraries...] [FILTER tests]): one GoogleTest program of the files in tests/FOLDER/. With a
 # filter, ctest runs only what passes it, one by one; the rest is for an add_test of its own.
 function(fotarium_test FOLDER)
@@ -40,6 +52,9 @@ function(fotarium_test FOLDER)
   add_executable(test_${NAME} ${SOURCES})
   target_include_directories(test_${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(test_${NAME} PRIVATE fotarium_flags ${ARG_LINK} GTest::gtest_main)
+  if(NOT ARG_LINK MATCHES "Qt6::|MAGICK|room_strips")
+    target_precompile_headers(test_${NAME} REUSE_FROM fotarium_test_headers)
+  endif()
   target_compile_definitions(test_${NAME} PRIVATE FOTARIUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   gtest_discover_tests(test_${NAME} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 240
     TEST_FILTER "${ARG_FILTER}" DISCOVERY_TIMEOUT 60)

@@ -36,8 +36,8 @@ class CBenchCanvas : private CCanvasHost,
         benchmark::DoNotOptimize(m_canvas.TakeDamage());
     }
     // Beside the size that the tool's option is to have.
-    void Select(int nTool) {
-        m_tools.m_nTool = nTool;
+    void Select(ETool tool) {
+        m_tools.m_nTool = tool;
         m_tools.m_nEraserSize = 3;
         m_tools.m_nSpraySize = 2;
         m_draw.AbandonShape();
@@ -73,9 +73,9 @@ CBenchCanvas& Canvas(bool bLarge) {
 }
 
 // 20 pixels along a circle and back.
-void Stroke(benchmark::State& state, int nTool) {
+void Stroke(benchmark::State& state, ETool tool) {
     CBenchCanvas& canvas = Canvas(state.range(0) != 0);
-    canvas.Select(nTool);
+    canvas.Select(tool);
     canvas.Mouse(EMouseAction::Press, {200, 200});
     if (!canvas.Draw().Hand().m_bButtonDown) state.SkipWithError("no memory for the step");
     int n = 0;
@@ -85,13 +85,13 @@ void Stroke(benchmark::State& state, int nTool) {
     canvas.Mouse(EMouseAction::Release, {200, 200});
 }
 void PenMove(benchmark::State& state) {
-    Stroke(state, kToolPen);
+    Stroke(state, ETool::Pen);
 }
 void BrushMove(benchmark::State& state) {
-    Stroke(state, kToolBrush);
+    Stroke(state, ETool::Brush);
 }
 void EraserMove(benchmark::State& state) {
-    Stroke(state, kToolEraser);
+    Stroke(state, ETool::Eraser);
 }
 BENCHMARK(PenMove)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 BENCHMARK(BrushMove)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
@@ -99,7 +99,7 @@ BENCHMARK(EraserMove)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void AirbrushTick(benchmark::State& state) {
     CBenchCanvas& canvas = Canvas(state.range(0) != 0);
-    canvas.Select(kToolAirbrush);
+    canvas.Select(ETool::Airbrush);
     canvas.Mouse(EMouseAction::Press, {200, 200});
     for (auto _ : state) canvas.View().OnTimer(CPaintEnvironment::kSprayTimer);
     canvas.Mouse(EMouseAction::Release, {200, 200});
@@ -107,25 +107,25 @@ void AirbrushTick(benchmark::State& state) {
 BENCHMARK(AirbrushTick)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 // A figure of 300 by 300 that goes to and fro by a pixel.
-void Band(benchmark::State& state, int nTool) {
+void Band(benchmark::State& state, ETool tool) {
     CBenchCanvas& canvas = Canvas(state.range(0) != 0);
-    canvas.Select(nTool);
+    canvas.Select(tool);
     canvas.Mouse(EMouseAction::Press, {100, 100});
     int n = 0;
     for (auto _ : state) canvas.Mouse(EMouseAction::Move, {400 - n++ % 2, 400});
     canvas.Mouse(EMouseAction::Release, {400, 400});
 }
 void LineBand(benchmark::State& state) {
-    Band(state, kToolLine);
+    Band(state, ETool::Line);
 }
 void EllipseBand(benchmark::State& state) {
-    Band(state, kToolEllipse);
+    Band(state, ETool::Ellipse);
 }
 void RoundRectBand(benchmark::State& state) {
-    Band(state, kToolRoundRect);
+    Band(state, ETool::RoundRect);
 }
 void SelectionBand(benchmark::State& state) {
-    Band(state, kToolSelectRect);
+    Band(state, ETool::SelectRect);
 }
 BENCHMARK(LineBand)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 BENCHMARK(EllipseBand)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
@@ -139,7 +139,7 @@ void FloatDrag(benchmark::State& state) {
     selection.m_region = CRegion::MakeEllipse({100, 100, 401, 401});
     selection.m_imgFloat = CxImage(CPixels::MakeFilled(300, 300, {0, 0, 200}));
     selection.SetFloating(true);
-    canvas.Select(kToolFloat);
+    canvas.Select(ETool::Float);
     canvas.Mouse(EMouseAction::Press, {200, 200});
     int n = 0;
     for (auto _ : state) canvas.Mouse(EMouseAction::Move, {200 + n++ % 2 * 3, 200});
@@ -151,7 +151,7 @@ BENCHMARK(FloatDrag)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 // The press of a stroke: the undo step shares the picture, and the store that goes on gets pixels of its own.
 void Press(benchmark::State& state) {
     CBenchCanvas& canvas = Canvas(state.range(0) != 0);
-    canvas.Select(kToolPen);
+    canvas.Select(ETool::Pen);
     for (auto _ : state) {
         canvas.Mouse(EMouseAction::Press, {200, 200});
         canvas.Mouse(EMouseAction::Release, {200, 200});
@@ -163,7 +163,7 @@ BENCHMARK(Press)->Arg(0)->Unit(benchmark::kMicrosecond);
 // the system has to clear first, which costs far more than the fill; so it is filled beforehand.
 void Fill(benchmark::State& state) {
     CBenchCanvas canvas({4000, 3000});
-    canvas.Select(kToolFill);
+    canvas.Select(ETool::Fill);
     for (int n = 0; n <= CUndoStack<CUndoEntry>::kDepth; ++n) {
         canvas.Mouse(EMouseAction::Press, {300, 300});
         canvas.Mouse(EMouseAction::Release, {300, 300});

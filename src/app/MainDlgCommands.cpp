@@ -85,7 +85,7 @@ void CMainDlg::OnCommand(int nId) {
         {kPaintColor, [](CMainDlg& d) { d.m_tools.OnPaintColor(); }},
     };
     // clang-format on
-    if (const int nTool = FindTool(nId); nTool != 0) return m_tools.OnToolButton(nTool);
+    if (const auto tool = FindTool(nId)) return m_tools.OnToolButton(*tool);
     const int nButton = ButtonOfMenuItem(nId);
     const auto* const pCommand =
         std::find_if(std::begin(kCommands), std::end(kCommands),

@@ -31,9 +31,8 @@ void CMainDlg::OnHover(int nIdControl, bool bLeftDown) {
     m_skin.OnHover(Client(), nIdControl, bLeftDown);
     Present();
     if (!m_state.IsUp(EMode::Draw)) return;
-    const int nTool = FindTool(nIdControl);
-    if (nTool != 0)
-        m_lines.SetHelp(kHelpTool + nTool);
+    if (const auto tool = FindTool(nIdControl))
+        m_lines.SetHelp(HelpCodeOf(*tool));
     else
         m_lines.SetHelp(nIdControl == kPaintColor ? kHelpPaintColor : kHelpClear);
 }

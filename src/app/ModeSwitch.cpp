@@ -71,7 +71,7 @@ void CModeSwitch::EnterDraw() {
     m_env.tools.FocusCurrentTool();
     if (!m_env.state.m_bImageOpen) return;
     m_env.tools.ResetZoom();
-    m_env.lines.SetHelp(kHelpTool + m_env.tools.CurrentTool());
+    m_env.lines.SetHelp(HelpCodeOf(m_env.tools.CurrentTool()));
     m_env.draw.LoadCanvas();
     m_env.tools.EnterMagnifier();
 }

@@ -6,15 +6,13 @@ constexpr CSize kCorner{20, 20};
 
 }  // namespace
 
-// Nothing reads the vertex, but a command takes the figure for one that is open.
-void CBoxTool::Press(CPoint pt) {
-    Hand().BeginShape(pt);
+void CBoxTool::Press(CPoint /*pt*/) {
+    Hand().BeginBox();
 }
 
 void CBoxTool::Move(CPoint pt) {
     Paper().Revert();
     DrawFigure(Scratch(), pt);
-    Paper().ShowScratch();
 }
 
 void CBoxTool::Release(CPoint pt) {
@@ -25,13 +23,13 @@ void CBoxTool::Release(CPoint pt) {
 void CBoxTool::DrawFigure(CSurface& surface, CPoint pt) const {
     const CRect rc = Between(Hand().m_ptStart, pt);
     switch (m_figure) {
-        case BoxFigure::kRectangle:
+        case EBoxFigure::Rectangle:
             surface.Rectangle(rc);
             break;
-        case BoxFigure::kEllipse:
+        case EBoxFigure::Ellipse:
             surface.Ellipse(rc);
             break;
-        case BoxFigure::kRoundRect:
+        case EBoxFigure::RoundRect:
             surface.RoundRect(rc, kCorner);
             break;
     }

@@ -3,11 +3,11 @@
 #include "paint/PaintTool.h"
 
 // The three figures in the box between press and release.
-enum class BoxFigure { kRectangle, kEllipse, kRoundRect };
+enum class EBoxFigure { Rectangle, Ellipse, RoundRect };
 
 class CBoxTool : public CPaintTool {
   public:
-    CBoxTool(const CPaintEnvironment& env, BoxFigure figure) : CPaintTool(env), m_figure(figure) {}
+    CBoxTool(const CPaintEnvironment& env, EBoxFigure figure) : CPaintTool(env), m_figure(figure) {}
     void Press(CPoint pt) override;
     void Move(CPoint pt) override;
     void Release(CPoint pt) override;
@@ -15,5 +15,5 @@ class CBoxTool : public CPaintTool {
   private:
     void DrawFigure(CSurface& surface, CPoint pt) const;
 
-    BoxFigure m_figure;
+    EBoxFigure m_figure;
 };

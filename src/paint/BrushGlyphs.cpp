@@ -4,15 +4,15 @@ namespace {
 
 constexpr int kRows = 4;
 constexpr int kColumns = 3;
-enum ERow { kRowRound, kRowSquare, kRowRising, kRowFalling };
+enum class ERow { Round, Square, Rising, Falling };
 
-void DrawDab(CClientArea& client, const CRect& rc, int nRow, CColor color) {
-    switch (nRow) {
-        case kRowRound:
+void DrawDab(CClientArea& client, const CRect& rc, ERow row, CColor color) {
+    switch (row) {
+        case ERow::Round:
             return client.DrawEllipse(rc, color);
-        case kRowSquare:
+        case ERow::Square:
             return client.FillRect(rc, color);
-        case kRowRising:
+        case ERow::Rising:
             return client.DrawLine({rc.right, rc.top}, {rc.left, rc.bottom}, color);
         default:
             return client.DrawLine({rc.left, rc.top}, {rc.right, rc.bottom}, color);
@@ -31,10 +31,10 @@ std::vector<CRect> CBrushGlyphs::Layout(const CRect& rcPanel) const {
 }
 
 void CBrushGlyphs::DrawNormal(CClientArea& client, const CRect& rc, int nOption) const {
-    DrawDab(client, Inset(rc, 2 * (nOption % kColumns) + 2), nOption / kColumns, kBlack);
+    DrawDab(client, Inset(rc, 2 * (nOption % kColumns) + 2), ERow{nOption / kColumns}, kBlack);
 }
 
 void CBrushGlyphs::DrawSelected(CClientArea& client, const CRect& rc, int nOption) const {
     client.FillRect(rc, kFieldBlue);
-    DrawDab(client, Inset(rc, 2 * (nOption % kColumns) + 2), nOption / kColumns, kWhite);
+    DrawDab(client, Inset(rc, 2 * (nOption % kColumns) + 2), ERow{nOption / kColumns}, kWhite);
 }

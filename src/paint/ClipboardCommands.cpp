@@ -89,7 +89,7 @@ void CClipboardCommands::OnPaste() {
     selection.Unmark();
     m_env.editor.PushStep(imgBase);
     m_env.tools.m_nResumeTool = m_env.tools.m_nTool;
-    m_env.tools.m_nTool = kToolFloat;
+    m_env.tools.m_nTool = ETool::Float;
     Float(image);
     m_env.events.Tell(EEditEvent::SelectionGone);
 }

@@ -6,10 +6,10 @@
 // A field of one colour with a black outline, under its edge.
 class CColorWell : public CSkinItem {
   public:
-    CColorWell(const CRect& rc, CColor color, int nStyle)
-        : CSkinItem(rc, nStyle), m_brush(CBrush::Solid(color)) {}
+    CColorWell(const CRect& rc, CColor color, ESkinEdge edge)
+        : CSkinItem(rc, edge), m_brush(CBrush::Solid(color)) {}
 
-    void Draw(CClientArea& client) const override;
+    void Draw(CClientArea& client) const;
 
     CColor Color() const { return m_brush.color; }
     void SetColor(CColor color) { m_brush = CBrush::Solid(color); }

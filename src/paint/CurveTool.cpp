@@ -2,40 +2,35 @@
 
 namespace {
 
-// The count of steps behind the third drag.
-constexpr int kDone = 4;
+constexpr int kLastStep = 3;
 
 }  // namespace
 
 void CCurveTool::Press(CPoint pt) {
-    if (Hand().IsShapeOpen()) return;
-    Hand().m_nVertexCount = 1;
-    Hand().m_ptBezierCur = pt;
-    Hand().m_ptBezier.fill(pt);
+    Hand().BeginCurve(pt);
 }
 
 // The first run of a move draws the curve as it was, the second one as it is.
 void CCurveTool::Move(CPoint pt) {
     Paper().Revert();
-    Scratch().SelectBrush(CBrush::Hollow());
     Scratch().Bezier(Hand().m_ptBezier);
     Pull(pt);
-    Paper().ShowScratch();
 }
 
 void CCurveTool::Release(CPoint pt) {
     Pull(pt);
-    if (++Hand().m_nVertexCount != kDone) return;
+    if (!Hand().TakeRelease() || ++Hand().m_nCurveStep <= kLastStep) return;
     if (m_env.Snapshot()) Committed().Bezier(Hand().m_ptBezier);
     Paper().Revert();
-    Hand().m_nVertexCount = -1;
+    Hand().EndShape();
 }
 
 // The first drag moves the end, the second one pulls both control points, the third one the far one alone.
+// One that began beside the canvas moves all but the start.
 void CCurveTool::Pull(CPoint pt) {
-    Hand().m_ptBezierCur = pt;
+    if (Hand().m_bReleaseSpent) return;
     auto& points = Hand().m_ptBezier;
-    switch (Hand().m_nVertexCount) {
+    switch (Hand().m_nCurveStep) {
         case 0:
             points[1] = points[2] = points[3] = pt;
             break;
@@ -45,10 +40,7 @@ void CCurveTool::Pull(CPoint pt) {
         case 2:
             points[1] = points[2] = pt;
             break;
-        case 3:
-            points[2] = pt;
-            break;
         default:
-            break;
+            points[2] = pt;
     }
 }

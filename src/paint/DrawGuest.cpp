@@ -1,7 +1,5 @@
 #include "paint/DrawGuest.h"
 
-#include <algorithm>
-
 CDrawGuest::CDrawGuest(const CEnvironment& env)
     : m_env(env),
       m_toolBox({m_paper, m_hand, env.tools, m_selection, env.editor, env.events, env.host, env.random,
@@ -106,8 +104,8 @@ bool CDrawGuest::PrepareDrop() {
 
 void CDrawGuest::EndFloat() {
     m_env.tools.m_nTool = m_env.tools.m_nResumeTool;
-    if (m_env.tools.m_nTool == kToolSelectPolygon) m_hand.m_nVertexCount = std::max(0, m_hand.m_nVertexCount);
-    if (m_env.tools.m_nTool == kToolSelectFree) m_selection.m_free.Clear();
+    if (m_env.tools.m_nTool == ETool::SelectPolygon) m_hand.m_bReleaseSpent = false;
+    if (m_env.tools.m_nTool == ETool::SelectFree) m_selection.m_free.Clear();
     m_selection.SetFloating(false);
 }
 

@@ -38,7 +38,7 @@ class CDrawGuest : public CCanvasGuest, public CToolCanvas {
     // --- for the commands ---
 
     // Gives up a shape of several clicks that is open.
-    void AbandonShape() override { m_hand.m_nVertexCount = -1; }
+    void AbandonShape() override { m_hand.EndShape(); }
     bool IsFloating() const override { return m_selection.IsFloating(); }
     [[nodiscard]] bool PrepareDrop() override;
     void DropFloat() override;

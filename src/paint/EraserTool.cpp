@@ -18,7 +18,6 @@ void CEraserTool::Move(CPoint pt) {
 
 // The last square is a column wider than the first.
 void CEraserTool::Release(CPoint pt) {
-    Paper().Commit();
     const int n = Half();
     Scratch().FillRect({pt.x - n, pt.y - n, pt.x + n + 1, pt.y + n}, Hand().m_crSecondary);
     Paper().Commit();

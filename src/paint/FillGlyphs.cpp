@@ -22,12 +22,14 @@ std::vector<CRect> CFillGlyphs::Layout(const CRect& rcPanel) const {
 }
 
 void CFillGlyphs::DrawNormal(CClientArea& client, const CRect& rc, int nOption) const {
-    client.DrawBox(Inset(rc, kInset), nOption == kFillSame ? kGrey : kBlack,
-                   nOption == kFillNone ? kLightGrey : kGrey);
+    const EFillMode mode{nOption};
+    client.DrawBox(Inset(rc, kInset), mode == EFillMode::Same ? kGrey : kBlack,
+                   mode == EFillMode::None ? kLightGrey : kGrey);
 }
 
 void CFillGlyphs::DrawSelected(CClientArea& client, const CRect& rc, int nOption) const {
+    const EFillMode mode{nOption};
     client.FillRect(rc, kFieldBlue);
-    client.DrawBox(Inset(rc, kInset), nOption == kFillSame ? kGrey : kWhite,
-                   nOption == kFillNone ? kFieldBlue : kGrey);
+    client.DrawBox(Inset(rc, kInset), mode == EFillMode::Same ? kGrey : kWhite,
+                   mode == EFillMode::None ? kFieldBlue : kGrey);
 }

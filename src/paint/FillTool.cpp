@@ -6,8 +6,6 @@ void CFillTool::Press(CPoint pt) {
         return !Committed().Bounds().Contains(pt) ||
                Committed().FloodFill(pt, Committed().GetPixel(pt.x, pt.y));
     };
-    const CBrush brushBefore = Committed().SelectBrush(CBrush::Solid(Hand().m_crPrimary));
-    const bool bFilled = m_env.Snapshot(fill);
-    Committed().SelectBrush(brushBefore);
-    if (bFilled) Paper().Revert();
+    Committed().SelectBrush(CBrush::Solid(Hand().m_crPrimary));
+    if (m_env.Snapshot(fill)) Paper().Revert();
 }

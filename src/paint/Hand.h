@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <utility>
 
 #include "image/Color.h"
 #include "image/Geometry.h"
@@ -17,22 +18,32 @@ struct CHand {
     CColor m_crPrimary;
     CColor m_crSecondary;
 
-    // A shape of several clicks. Its points so far, or the curve's step; above 0: a shape is open. A shape
-    // that a double click has closed leaves -1, and the release behind it 0.
-    int m_nVertexCount = -1;
+    // The points of the polygon that is open; 0: none is.
+    int m_nVertexCount = 0;
     std::array<CPoint, kMostVertices> m_ptVertex;
-    // One more than the points of the polygon that was closed last.
+    // The points of the polygon that was closed last.
     int m_nClosedCount = 0;
-    // The curve: both ends and the two points that pull it, and where the cursor was last.
+    // The drag that bends the curve, from 1 to 3; 0: none is open.
+    int m_nCurveStep = 0;
+    // Both ends of the curve and, between them, the two points that pull it.
     std::array<CPoint, 4> m_ptBezier;
-    CPoint m_ptBezierCur;
+    // A box figure has been begun. A command takes it for one that is open, however often it was finished.
+    bool m_bBoxBegun = false;
+    // The shape is over and a release may still be to come: the one of a double click, or of a drag in which
+    // the shape was given up. It adds nothing to the next one.
+    bool m_bReleaseSpent = true;
 
-    bool IsShapeOpen() const { return m_nVertexCount > 0; }
-    // A press: begins a shape of several clicks if none is open.
-    void BeginShape(CPoint pt);
-    // A release: one more point. Behind the last one that there is room for, further points are not taken.
+    bool IsShapeOpen() const { return m_nVertexCount > 0 || m_nCurveStep > 0 || m_bBoxBegun; }
+    // A press: begins a shape if none is open.
+    void BeginPolygon(CPoint pt);
+    void BeginCurve(CPoint pt);
+    void BeginBox();
+    // A release; false for the one that is spent.
+    bool TakeRelease() { return !std::exchange(m_bReleaseSpent, false); }
+    // Behind the last point that there is room for, further ones are not taken.
     void AddVertex(CPoint pt);
-    // A double click: closes the shape with the points that stood before it; the count of these. 0: none was
-    // open.
-    int CloseShape(CPoint pt);
+    // A double click: closes the polygon; the count of its points. 0: none was open.
+    int ClosePolygon();
+    // Whatever is open is over.
+    void EndShape();
 };

@@ -2,9 +2,7 @@
 
 void CLineTool::Move(CPoint pt) {
     Paper().Revert();
-    Scratch().SelectBrush(CBrush::Hollow());
     DrawLine(Scratch(), Hand().m_ptStart, pt);
-    Paper().ShowScratch();
 }
 
 void CLineTool::Release(CPoint pt) {

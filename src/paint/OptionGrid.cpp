@@ -2,26 +2,19 @@
 
 #include <algorithm>
 
-void COptionGrid::Layout(const CRect& rcFrame, EOptNum nOptNum, const COptionGlyphs& glyphs) {
-    SetRect(rcFrame);
-    m_nOptNum = nOptNum;
+void COptionGrid::Layout(const CRect& rcPanel, const COptionGlyphs& glyphs) {
     m_pGlyphs = &glyphs;
-    m_arrRects = glyphs.Layout(rcFrame);
+    m_arrRects = glyphs.Layout(rcPanel);
 }
 
-bool COptionGrid::HitTest(CPoint pt) {
+void COptionGrid::HitTest(CPoint pt) {
     const auto it =
         std::find_if(m_arrRects.begin(), m_arrRects.end(), [&](const CRect& rc) { return rc.Contains(pt); });
-    if (it == m_arrRects.end()) return false;
-    const int nBefore = m_nSel;
-    m_nSel = static_cast<int>(it - m_arrRects.begin());
-    return m_nSel != nBefore;
+    if (it != m_arrRects.end()) m_nSel = static_cast<int>(it - m_arrRects.begin());
 }
 
 void COptionGrid::Draw(CClientArea& client) const {
-    if (m_pGlyphs == nullptr) return;
-    for (int i = 0; i < Count(); ++i)
-        m_pGlyphs->DrawNormal(client, m_arrRects[static_cast<std::size_t>(i)], i);
+    int nOption = 0;
+    for (const CRect& rc : m_arrRects) m_pGlyphs->DrawNormal(client, rc, nOption++);
     m_pGlyphs->DrawSelected(client, m_arrRects[static_cast<std::size_t>(m_nSel)], m_nSel);
-    DrawEdge(client);
 }

@@ -7,9 +7,7 @@ void CSelectFreeTool::Press(CPoint pt) {
 void CSelectFreeTool::Move(CPoint pt) {
     m_env.selection.m_free.Add(pt);
     Paper().Revert();
-    Scratch().SelectBrush(CBrush::Hollow());
     Scratch().Polyline(m_env.selection.m_free.Points());
-    Paper().ShowScratch();
 }
 
 // A click without a move comes here with the press's solid pen on the scratch store.

@@ -1,8 +1,8 @@
 #include "paint/SelectPolygonTool.h"
 
 // The last press has put a solid pen on the scratch store, and a double click need not have a move before it.
-void CSelectPolygonTool::DoubleClick(CPoint pt) {
-    const int nPoints = Hand().CloseShape(pt);
+void CSelectPolygonTool::DoubleClick(CPoint /*pt*/) {
+    const int nPoints = Hand().ClosePolygon();
     if (nPoints == 0) return;
     Scratch().SelectPen(SelectionPen());
     Scratch().SelectBrush(CBrush::Hollow());

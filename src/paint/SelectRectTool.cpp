@@ -4,7 +4,6 @@ void CSelectRectTool::Move(CPoint pt) {
     Scratch().SelectBrush(CBrush::Hollow());
     Paper().Revert();
     Scratch().Rectangle(Between(Hand().m_ptStart, pt));
-    Paper().ShowScratch();
 }
 
 // A plain click leaves an empty selection and the commands as they are.

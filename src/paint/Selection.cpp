@@ -4,25 +4,18 @@
 #include <cstring>
 #include <utility>
 
-#include "paint/ToolState.h"
-
 namespace {
 
-// All points but the last nLeftOut, which a release has put behind the others.
-template <typename T>
-std::span<const CPoint> First(const T& points, std::size_t nCount) {
-    return std::span<const CPoint>(points).first(std::min(nCount, std::size(points)));
-}
-
-CRegion RegionOf(int nTool, const CRect& rcSelect, const CHand& hand, std::span<const CPoint> free) {
-    switch (nTool) {
-        case kToolSelectRect:
+CRegion RegionOf(ETool tool, const CRect& rcSelect, const CHand& hand, std::span<const CPoint> free) {
+    switch (tool) {
+        case ETool::SelectRect:
             return CRegion::MakeRectangle(rcSelect);
-        case kToolSelectPolygon:
+        case ETool::SelectPolygon:
             return CRegion::MakePolygon(
-                First(hand.m_ptVertex, static_cast<std::size_t>(std::max(0, hand.m_nClosedCount - 1))));
-        case kToolSelectFree:
-            return CRegion::MakePolygon(First(free, free.size() - std::min<std::size_t>(1, free.size())));
+                std::span(hand.m_ptVertex).first(static_cast<std::size_t>(hand.m_nClosedCount)));
+        case ETool::SelectFree:
+            // The release's own point is not part of it.
+            return CRegion::MakePolygon(free.first(free.size() - std::min<std::size_t>(1, free.size())));
         default:
             return {};
     }
@@ -30,9 +23,8 @@ CRegion RegionOf(int nTool, const CRect& rcSelect, const CHand& hand, std::span<
 
 }  // namespace
 
-// The point that the last release has added is not part of an outline of points.
-bool CSelection::Build(int nTool, const CHand& hand) {
-    CRegion region = RegionOf(nTool, m_rcSelect, hand, m_free.Points());
+bool CSelection::Build(ETool tool, const CHand& hand) {
+    CRegion region = RegionOf(tool, m_rcSelect, hand, m_free.Points());
     if (region.IsEmpty()) return false;
     m_region = std::move(region);
     m_rcSelect = m_region.Box();

@@ -3,6 +3,7 @@
 #include "image/Image.h"
 #include "paint/FreeOutline.h"
 #include "paint/Hand.h"
+#include "resources/ToolTable.h"
 #include "surface/Surface.h"
 
 // What is selected, and what floats over the picture. The outline that a selection tool leaves becomes a
@@ -29,9 +30,9 @@ class CSelection {
     bool IsFloating() const { return m_bFloating; }
     void SetFloating(bool bFloating) { m_bFloating = bFloating; }
 
-    // Makes the region of what the selection tool of that number has marked. False, and the region stays, if
+    // Makes the region of what the selection tool has marked. False, and the region stays, if
     // nothing is inside.
-    [[nodiscard]] bool Build(int nTool, const CHand& hand);
+    [[nodiscard]] bool Build(ETool tool, const CHand& hand);
 
     // The pixels of the region in a picture as large as its box. Empty if memory is short.
     [[nodiscard]] CPixels Lift(const CSurface& surface) const;

@@ -25,38 +25,38 @@ class CMagnifierTool : public CPaintTool {
     explicit CMagnifierTool(const CPaintEnvironment& env) : CPaintTool(env) {}
 };
 
-bool IsSelectionTool(int nTool) {
-    return nTool >= kToolSelectRect && nTool <= kToolSelectFree;
+bool IsSelectionTool(ETool tool) {
+    return tool == ETool::SelectRect || tool == ETool::SelectPolygon || tool == ETool::SelectFree;
 }
 
 }  // namespace
 
 CToolBox::CToolBox(const CPaintEnvironment& env, CToolState& options, const std::function<void()>& fnDrop)
     : m_env(env), m_options(options) {
-    const auto add = [this](ETool nTool, std::unique_ptr<CPaintTool> pTool) {
-        m_arrTools[static_cast<std::size_t>(nTool)] = std::move(pTool);
+    const auto add = [this](ETool tool, std::unique_ptr<CPaintTool> pTool) {
+        m_arrTools[SlotOf(tool)] = std::move(pTool);
     };
-    add(kToolSelectRect, std::make_unique<CSelectRectTool>(m_env));
-    add(kToolSelectPolygon, std::make_unique<CSelectPolygonTool>(m_env));
-    add(kToolSelectFree, std::make_unique<CSelectFreeTool>(m_env));
-    add(kToolPicker, std::make_unique<CPickerTool>(m_env));
-    add(kToolPen, std::make_unique<CPenTool>(m_env));
-    add(kToolBrush, std::make_unique<CBrushTool>(m_env));
-    add(kToolFill, std::make_unique<CFillTool>(m_env));
-    add(kToolAirbrush, std::make_unique<CAirbrushTool>(m_env));
-    add(kToolEraser, std::make_unique<CEraserTool>(m_env));
-    add(kToolMagnifier, std::make_unique<CMagnifierTool>(m_env));
-    add(kToolLine, std::make_unique<CLineTool>(m_env));
-    add(kToolCurve, std::make_unique<CCurveTool>(m_env));
-    add(kToolRectangle, std::make_unique<CBoxTool>(m_env, BoxFigure::kRectangle));
-    add(kToolPolygon, std::make_unique<CPolygonTool>(m_env));
-    add(kToolEllipse, std::make_unique<CBoxTool>(m_env, BoxFigure::kEllipse));
-    add(kToolRoundRect, std::make_unique<CBoxTool>(m_env, BoxFigure::kRoundRect));
-    add(kToolFloat, std::make_unique<CFloatTool>(m_env, fnDrop));
+    add(ETool::SelectRect, std::make_unique<CSelectRectTool>(m_env));
+    add(ETool::SelectPolygon, std::make_unique<CSelectPolygonTool>(m_env));
+    add(ETool::SelectFree, std::make_unique<CSelectFreeTool>(m_env));
+    add(ETool::Picker, std::make_unique<CPickerTool>(m_env));
+    add(ETool::Pen, std::make_unique<CPenTool>(m_env));
+    add(ETool::Brush, std::make_unique<CBrushTool>(m_env));
+    add(ETool::Fill, std::make_unique<CFillTool>(m_env));
+    add(ETool::Airbrush, std::make_unique<CAirbrushTool>(m_env));
+    add(ETool::Eraser, std::make_unique<CEraserTool>(m_env));
+    add(ETool::Magnifier, std::make_unique<CMagnifierTool>(m_env));
+    add(ETool::Line, std::make_unique<CLineTool>(m_env));
+    add(ETool::Curve, std::make_unique<CCurveTool>(m_env));
+    add(ETool::Rectangle, std::make_unique<CBoxTool>(m_env, EBoxFigure::Rectangle));
+    add(ETool::Polygon, std::make_unique<CPolygonTool>(m_env));
+    add(ETool::Ellipse, std::make_unique<CBoxTool>(m_env, EBoxFigure::Ellipse));
+    add(ETool::RoundRect, std::make_unique<CBoxTool>(m_env, EBoxFigure::RoundRect));
+    add(ETool::Float, std::make_unique<CFloatTool>(m_env, fnDrop));
 }
 
 CPaintTool& CToolBox::Current() {
-    return *m_arrTools[static_cast<std::size_t>(std::clamp<int>(m_options.m_nTool, 1, kToolFloat))];
+    return *m_arrTools[SlotOf(m_options.m_nTool)];
 }
 
 CPoint CToolBox::KeepInside(CPoint pt) const {
@@ -71,29 +71,25 @@ void CToolBox::TakeColors(EMouseButton button) {
 
 CPen CToolBox::ToolPen() const {
     if (IsSelectionTool(m_options.m_nTool)) return SelectionPen();
-    return CPen::Solid(m_options.m_nTool == kToolPen ? 1 : m_options.m_nLineWidth, m_env.hand.m_crPrimary);
+    return CPen::Solid(m_options.m_nTool == ETool::Pen ? 1 : m_options.m_nLineWidth, m_env.hand.m_crPrimary);
 }
 
 CBrush CToolBox::FigureBrush() const {
-    if (m_options.m_nFillMode == kFillNone) return CBrush::Hollow();
-    return CBrush::Solid(m_options.m_nFillMode == kFillOther ? m_env.hand.m_crSecondary
-                                                             : m_env.hand.m_crPrimary);
+    if (m_options.m_nFillMode == EFillMode::None) return CBrush::Hollow();
+    return CBrush::Solid(m_options.m_nFillMode == EFillMode::Other ? m_env.hand.m_crSecondary
+                                                                   : m_env.hand.m_crPrimary);
 }
 
 void CToolBox::OnPress(CPoint pt, EMouseButton button) {
     m_env.hand.m_bButtonDown = true;
     TakeColors(button);
-    if (m_options.m_nTool == kToolPicker) m_options.m_bPickForeground = button == EMouseButton::Left;
+    if (m_options.m_nTool == ETool::Picker) m_options.m_bPickForeground = button == EMouseButton::Left;
     m_env.hand.m_ptStart = KeepInside(pt);
-    const CPen pen = CPen::Solid(m_options.m_nLineWidth, m_env.hand.m_crPrimary);
-    m_env.paper.Committed().SelectPen(pen);
-    m_env.paper.Scratch().SelectPen(pen);
-    m_env.paper.Committed().SelectBrush(CBrush::Solid(m_env.hand.m_crPrimary));
+    m_env.paper.Scratch().SelectPen(CPen::Solid(m_options.m_nLineWidth, m_env.hand.m_crPrimary));
     Current().Press(pt);
 }
 
 void CToolBox::OnMove(CPoint pt) {
-    m_env.paper.Committed().SelectPen(ToolPen());
     m_env.paper.Scratch().SelectPen(ToolPen());
     m_env.paper.Scratch().SelectBrush(FigureBrush());
     if (m_env.hand.m_bButtonDown) Current().Move(KeepInside(pt));
@@ -106,18 +102,16 @@ void CToolBox::OnRelease(CPoint pt) {
     Current().Release(KeepInside(pt));
 }
 
+// The first click's release has left pen and brush on the picture.
 void CToolBox::OnDoubleClick(CPoint pt, EMouseButton button) {
     TakeColors(button);
     m_env.hand.m_bButtonDown = false;
-    m_env.paper.Committed().SelectPen(ToolPen());
-    const bool bHollow = m_options.m_nTool == kToolSelectPolygon;
-    m_env.paper.Committed().SelectBrush(bHollow ? CBrush::Hollow() : FigureBrush());
     Current().DoubleClick(pt);
 }
 
 // A release that has never reached the canvas leaves the timer on; another tool ends it.
 void CToolBox::OnTick() {
-    if (m_options.m_nTool == kToolAirbrush)
+    if (m_options.m_nTool == ETool::Airbrush)
         Current().Tick();
     else
         m_env.timers.KillTimer(m_env.canvas, CPaintEnvironment::kSprayTimer);

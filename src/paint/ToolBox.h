@@ -32,5 +32,6 @@ class CToolBox {
 
     const CPaintEnvironment m_env;
     CToolState& m_options;
-    std::array<std::unique_ptr<CPaintTool>, kToolFloat + 1> m_arrTools;
+    // In the order of their numbers, the float's at the end.
+    std::array<std::unique_ptr<CPaintTool>, kTools.size() + 1> m_arrTools;
 };

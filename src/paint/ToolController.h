@@ -7,28 +7,12 @@
 #include "paint/ColorWell.h"
 #include "paint/ToolCanvas.h"
 #include "paint/ToolHost.h"
-#include "paint/ToolItem.h"
 #include "paint/ToolPanel.h"
 #include "paint/ToolState.h"
 #include "window/Choosers.h"
 #include "window/ControlSet.h"
 #include "window/Events.h"
 #include "window/PanelHost.h"
-
-// The option last chosen, per tool. Lasts for the whole run. Line and curve are one choice: both always hold
-// the same.
-struct CToolOptions {
-    int m_nOptLine = 0;
-    int m_nOptCurve = 0;
-    int m_nOptPolygon = 0;
-    int m_nOptRect = 0;
-    int m_nOptRoundRect = 0;
-    int m_nOptEllipse = 0;
-    int m_nOptZoom = 0;
-    int m_nOptSpray = 0;
-    int m_nOptBrush = 0;
-    int m_nOptEraser = 0;
-};
 
 // Which paint tool is current and with which options and colours: the tool buttons, the option panel below
 // them and the colour wells.
@@ -56,7 +40,7 @@ class CToolController {
     // button. A switch of the mode does not touch it.
     int Panel() const { return m_nPanel; }
 
-    int CurrentTool() const { return m_env.tools.m_nTool; }
+    ETool CurrentTool() const { return m_env.tools.m_nTool; }
     // A picture has come onto the canvas: the magnifier is entered, which applies the zoom.
     void EnterMagnifier();
     // The same, and the current tool stays.
@@ -67,7 +51,7 @@ class CToolController {
     void FocusCurrentTool();
 
     // A click of a tool's button. Also for the tool that is current already: selections and floats end.
-    void OnToolButton(int nTool);
+    void OnToolButton(ETool tool);
     // A click of the colour button.
     void OnPaintColor() { ChooseColor(true); }
     // A left press in the main window beside its controls; true if it fell into the current tool's options.
@@ -86,12 +70,14 @@ class CToolController {
     void OnWindowPainted();
 
   private:
-    COptionGrid* GridOf(int nTool);
+    COptionGrid& GridOf(ETool tool);
+    // The tool whose panel was brought up last.
+    const CToolRow& PanelTool() const { return kTools[static_cast<std::size_t>(m_nPanel)]; }
     void EnterTool();
     void ClearToolPanel();
-    void DrawPanel(int nTool);
+    void DrawPanel(const CToolRow& row);
     void DrawWells();
-    void Remember(int nOption);
+    void Remember(const CToolRow& row, int nOption);
     void TakeOption();
     void ChooseColor(bool bForeground);
     void SetColor(bool bForeground, CColor color);
@@ -100,10 +86,12 @@ class CToolController {
     CToolPanel m_toolPanel;
     CToolOptions m_options;
     int m_nPanel = 0;
-    // Both in the order of the tools. The grid of the line is the curve's as well.
-    std::array<COptionGrid, kToolButtonCount> m_arrOptionGrid;
-    std::array<CToolItem, kToolButtonCount> m_arrToolItem;
-    CToolItem* m_pCurItem = m_arrToolItem.data();
+    // In the order of the tools; those without options leave theirs empty. The grid of the line is the
+    // curve's as well.
+    std::array<COptionGrid, kTools.size()> m_arrOptionGrid;
+    // The options that a press in the panel chooses from: those of the tool selected last by its button.
+    // Null: it has none.
+    COptionGrid* m_pCurGrid = nullptr;
     // In the order in which they are drawn.
     CColorWell m_wellBackdrop;
     CColorWell m_wellBackground;

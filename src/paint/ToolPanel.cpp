@@ -7,27 +7,27 @@ constexpr CColor kGround = CColor::FromRef(0x979790);
 
 }  // namespace
 
-CToolPanel::CToolPanel(CTextRasterizer& text) : CSkinItem(kPlace, kEdgeSunkenLine), m_zoom(text) {}
+CToolPanel::CToolPanel(CTextRasterizer& text) : CSkinItem(kPlace, ESkinEdge::SunkenLine), m_zoom(text) {}
 
 void CToolPanel::Clear(CClientArea& client) const {
     client.FillRect(GetRect(), kGround);
 }
 
-void CToolPanel::Layout(COptionGrid& grid, EOptNum nOptNum) const {
-    grid.Layout(GetRect(), nOptNum, GlyphsOf(nOptNum));
+void CToolPanel::Layout(COptionGrid& grid, EOptNum optNum) const {
+    grid.Layout(GetRect(), GlyphsOf(optNum));
 }
 
-const COptionGlyphs& CToolPanel::GlyphsOf(EOptNum nOptNum) const {
-    switch (nOptNum) {
-        case kOptEraser:
+const COptionGlyphs& CToolPanel::GlyphsOf(EOptNum optNum) const {
+    switch (optNum) {
+        case EOptNum::Eraser:
             return m_eraser;
-        case kOptSpray:
+        case EOptNum::Spray:
             return m_spray;
-        case kOptZoom:
+        case EOptNum::Zoom:
             return m_zoom;
-        case kOptBrush:
+        case EOptNum::Brush:
             return m_brush;
-        case kOptFill:
+        case EOptNum::Fill:
             return m_fill;
         default:
             return m_line;

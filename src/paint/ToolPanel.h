@@ -5,8 +5,10 @@
 #include "paint/FillGlyphs.h"
 #include "paint/LineGlyphs.h"
 #include "paint/OptionGrid.h"
+#include "paint/SkinItem.h"
 #include "paint/SprayGlyphs.h"
 #include "paint/ZoomGlyphs.h"
+#include "resources/ToolTable.h"
 
 // The field below the tool buttons that shows the options of the tool selected last.
 class CToolPanel : public CSkinItem {
@@ -17,13 +19,13 @@ class CToolPanel : public CSkinItem {
     // The empty ground.
     void Clear(CClientArea& client) const;
     // The edge around it, which what is drawn on the ground may have covered.
-    void Draw(CClientArea& client) const override { DrawEdge(client); }
+    void Draw(CClientArea& client) const { DrawEdge(client); }
 
-    // Lays the grid out over the panel.
-    void Layout(COptionGrid& grid, EOptNum nOptNum) const;
+    // Lays a grid of that kind out over the panel.
+    void Layout(COptionGrid& grid, EOptNum optNum) const;
 
   private:
-    const COptionGlyphs& GlyphsOf(EOptNum nOptNum) const;
+    const COptionGlyphs& GlyphsOf(EOptNum optNum) const;
 
     CEraserGlyphs m_eraser;
     CSprayGlyphs m_spray;

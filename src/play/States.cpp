@@ -70,7 +70,7 @@ constexpr CStateEntry kStates[] = {
     {"disp", [](const CStage& s) { return Pair(s.dialog.Images().DisplaySize()); }, "The display size."},
     {"work", Work, "Width and height of the working image, or none."},
     {"image", Image, "Whether a picture is open; if so, width and height of it as it is shown."},
-    {"tool", [](const CStage& s) { return std::to_string(s.dialog.Tools().CurrentTool()); },
+    {"tool", [](const CStage& s) { return std::to_string(NumberOf(s.dialog.Tools().CurrentTool())); },
      "The paint tool, 1 to 16; 17 while a selection floats."},
     {"zoom", [](const CStage& s) { return std::to_string(s.dialog.Tools().State().m_nZoom); },
      "The zoom of DRAW: 1, 2, 4 or 6."},

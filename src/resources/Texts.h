@@ -50,8 +50,7 @@ inline constexpr char kWordEditMode[] = "编辑模式";
 inline constexpr char kBlankReadout[] = "       ";
 inline constexpr char kBlankLevel[] = "     ";
 
-// Codes of the help line
-inline constexpr int kHelpTool = 100;  // plus the tool's number
+// Codes of the help line, beside those of the tools
 inline constexpr int kHelpPaintColor = 117;
 inline constexpr int kHelpForeground = 118;
 inline constexpr int kHelpBackground = 119;

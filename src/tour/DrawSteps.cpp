@@ -4,7 +4,6 @@
 #include <QTest>
 #include <memory>
 
-#include "paint/ToolState.h"
 #include "qt/DialogView.h"
 #include "resources/Ids.h"
 #include "resources/ToolTable.h"
@@ -44,23 +43,23 @@ CTourCheck IsColor(QPoint pt, QRgb rgb) {
 }
 
 // The focus marks the current tool.
-QString CheckMark(const CPerson& person, int nTool) {
-    return Unless(person.MainWindow()->WidgetOf(FindToolButton(nTool))->hasFocus(), "the tool is not marked");
+QString CheckMark(const CPerson& person, ETool tool) {
+    return Unless(person.MainWindow()->WidgetOf(FindToolButton(tool))->hasFocus(), "the tool is not marked");
 }
 
 // A tool with an option of its panel, then what the hand does with it.
-CTourStep Tool(int nTool, const char* szName, const char* szTells, std::initializer_list<QPoint> options,
+CTourStep Tool(ETool tool, const char* szName, const char* szTells, std::initializer_list<QPoint> options,
                const std::function<void(CPencil&)>& fnDraw, const CTourCheck& fnCheck) {
     const std::vector<QPoint> arrOptions(options);
     return {QString(szName), QString(szTells),
             [=](CPerson& person) {
-                person.Click(FindToolButton(nTool));
+                person.Click(FindToolButton(tool));
                 for (const QPoint pt : arrOptions) person.ClickPoint(pt);
                 CPencil pencil(person, kPage);
                 fnDraw(pencil);
             },
             [=](CPerson& person) {
-                const QString strMark = CheckMark(person, nTool);
+                const QString strMark = CheckMark(person, tool);
                 return strMark.isEmpty() ? fnCheck(person) : strMark;
             }};
 }
@@ -100,7 +99,7 @@ void AddGround(std::vector<CTourStep>& steps) {
         steps, "draw-foreground", "the foreground becomes blue", kSky,
         [](CPerson& person) { person.Click(kPaintColor); }, kForegroundWell);
     steps.push_back(Tool(
-        kToolFill, "draw-fill", "fill: one click colours the whole page", {},
+        ETool::Fill, "draw-fill", "fill: one click colours the whole page", {},
         [](CPencil& pencil) {
             pencil.Click({320, 240});
         },
@@ -109,7 +108,7 @@ void AddGround(std::vector<CTourStep>& steps) {
         steps, "draw-background", "a right double click on the wells: the background becomes green", kGrass,
         [](CPerson& person) { ClickWells(person, Qt::RightButton); }, kBackgroundWell);
     steps.push_back(Tool(
-        kToolRectangle, "draw-rectangle", "rectangle, filled, by the right button", {InPanel(37, 62)},
+        ETool::Rectangle, "draw-rectangle", "rectangle, filled, by the right button", {InPanel(37, 62)},
         [](CPencil& pencil) {
             pencil.Stroke({{-4, 340}, {644, 485}}, Qt::RightButton);
         },
@@ -121,7 +120,7 @@ void AddGround(std::vector<CTourStep>& steps) {
         steps, "draw-sun-colour", "a left double click on the wells: the foreground becomes yellow", kSun,
         [](CPerson& person) { ClickWells(person, Qt::LeftButton); }, kForegroundWell);
     steps.push_back(Tool(
-        kToolEllipse, "draw-ellipse", "ellipse, filled", {InPanel(37, 62)},
+        ETool::Ellipse, "draw-ellipse", "ellipse, filled", {InPanel(37, 62)},
         [](CPencil& pencil) {
             pencil.Stroke({{470, 40}, {560, 130}});
         },
@@ -130,7 +129,8 @@ void AddGround(std::vector<CTourStep>& steps) {
 
 void AddStrokes(std::vector<CTourStep>& steps, const CSeenPtr& pSeen) {
     steps.push_back(Tool(
-        kToolAirbrush, "draw-airbrush", "airbrush, large: held down, it goes on spraying", {InPanel(37, 60)},
+        ETool::Airbrush, "draw-airbrush", "airbrush, large: held down, it goes on spraying",
+        {InPanel(37, 60)},
         [pSeen](CPencil& pencil) {
             pencil.Press({515, 150});
         },
@@ -153,13 +153,13 @@ void AddStrokes(std::vector<CTourStep>& steps, const CSeenPtr& pSeen) {
         steps, "draw-bark-colour", "the foreground becomes brown", kBark,
         [](CPerson& person) { person.Click(kPaintColor); }, kForegroundWell);
     steps.push_back(Tool(
-        kToolBrush, "draw-brush", "brush, the largest round one", {InPanel(12, 12)},
+        ETool::Brush, "draw-brush", "brush, the largest round one", {InPanel(12, 12)},
         [](CPencil& pencil) {
             pencil.Stroke({{150, 390}, {152, 360}, {148, 330}});
         },
         IsColor({150, 375}, kBark)));
     steps.push_back(Tool(
-        kToolPolygon, "draw-polygon", "polygon: drags and a double click; outline and the other colour",
+        ETool::Polygon, "draw-polygon", "polygon: drags and a double click; outline and the other colour",
         {InPanel(37, 40)},
         [](CPencil& pencil) {
             pencil.Stroke({{90, 330}, {150, 180}});
@@ -171,14 +171,14 @@ void AddStrokes(std::vector<CTourStep>& steps, const CSeenPtr& pSeen) {
             return strLeaf.isEmpty() ? ColorIs(person, {90, 250}, kSky) : strLeaf;
         }));
     steps.push_back(Tool(
-        kToolPen, "draw-pen", "pen: birds", {},
+        ETool::Pen, "draw-pen", "pen: birds", {},
         [](CPencil& pencil) {
             pencil.Stroke({{300, 90}, {315, 75}, {330, 92}, {345, 75}, {360, 90}});
             pencil.Stroke({{380, 130}, {390, 120}, {400, 131}, {410, 120}, {420, 130}});
         },
         IsColor({315, 75}, kBark)));
     steps.push_back(Tool(
-        kToolEraser, "draw-eraser", "eraser, the largest: the other colour, a bush", {InPanel(37, 58)},
+        ETool::Eraser, "draw-eraser", "eraser, the largest: the other colour, a bush", {InPanel(37, 58)},
         [](CPencil& pencil) {
             pencil.Stroke({{560, 336}, {590, 322}, {620, 336}, {575, 332}});
         },
@@ -187,14 +187,14 @@ void AddStrokes(std::vector<CTourStep>& steps, const CSeenPtr& pSeen) {
 
 void AddShapes(std::vector<CTourStep>& steps, const CSeenPtr& pSeen) {
     steps.push_back(Tool(
-        kToolLine, "draw-line", "line, five wide: a fence", {InPanel(37, 63)},
+        ETool::Line, "draw-line", "line, five wide: a fence", {InPanel(37, 63)},
         [](CPencil& pencil) {
             for (int x = 260; x <= 420; x += 40) pencil.Stroke({{x, 380}, {x, 330}});
             pencil.Stroke({{250, 345}, {430, 345}});
         },
         IsColor({300, 360}, kBark)));
     steps.push_back(Tool(
-        kToolRoundRect, "draw-round-rectangle", "rounded rectangle, outline only", {InPanel(37, 18)},
+        ETool::RoundRect, "draw-round-rectangle", "rounded rectangle, outline only", {InPanel(37, 18)},
         [](CPencil& pencil) {
             pencil.Stroke({{450, 250}, {540, 340}});
         },
@@ -203,7 +203,7 @@ void AddShapes(std::vector<CTourStep>& steps, const CSeenPtr& pSeen) {
             return strWall.isEmpty() ? ColorIs(person, {500, 300}, kSky) : strWall;
         }));
     steps.push_back(Tool(
-        kToolCurve, "draw-curve", "curve: a line, bent by two more drags", {InPanel(37, 37)},
+        ETool::Curve, "draw-curve", "curve: a line, bent by two more drags", {InPanel(37, 37)},
         [](CPencil& pencil) {
             pencil.Stroke({{20, 470}, {600, 350}});
             pencil.Stroke({{200, 350}, {150, 360}});
@@ -215,7 +215,7 @@ void AddShapes(std::vector<CTourStep>& steps, const CSeenPtr& pSeen) {
     steps.push_back({"draw-redo", "Redo brings it again", [](CPerson& person) { person.Click(kCmdRedo); },
                      IsColor({20, 470}, kBark)});
     steps.push_back(Tool(
-        kToolPicker, "draw-picker", "colour picker: the sun's yellow becomes the foreground", {},
+        ETool::Picker, "draw-picker", "colour picker: the sun's yellow becomes the foreground", {},
         [](CPencil& pencil) {
             pencil.Click({515, 85});
         },
@@ -226,7 +226,7 @@ void AddShapes(std::vector<CTourStep>& steps, const CSeenPtr& pSeen) {
         }));
     const auto zoom = [&steps, pSeen](const char* szName, const char* szTells, int nOption, bool bSame) {
         steps.push_back(Tool(
-            kToolMagnifier, szName, szTells, {InPanel(30, 14 + 15 * nOption)}, [](CPencil&) {},
+            ETool::Magnifier, szName, szTells, {InPanel(30, 14 + 15 * nOption)}, [](CPencil&) {},
             [pSeen, bSame](CPerson& person) {
                 return Unless(Differs(person.LookAt(kCanvas), pSeen->canvas) != bSame, "wrong zoom");
             }));
@@ -247,7 +247,8 @@ void AddSelections(std::vector<CTourStep>& steps) {
         steps.push_back({szName, szTells, [nId](CPerson& person) { person.Click(nId); }, std::move(fnCheck)});
     };
     steps.push_back(Tool(
-        kToolSelectRect, "select-rectangle", "rectangle selection: a dotted line, Copy, Cut and Crop on", {},
+        ETool::SelectRect, "select-rectangle", "rectangle selection: a dotted line, Copy, Cut and Crop on",
+        {},
         [](CPencil& pencil) {
             pencil.Stroke({{80, 170}, {220, 400}});
         },
@@ -274,7 +275,7 @@ void AddSelections(std::vector<CTourStep>& steps) {
                      },
                      IsColor({240, 240}, kGrass)});
     steps.push_back(Tool(
-        kToolSelectPolygon, "select-polygon", "polygon selection, closed by a double click", {},
+        ETool::SelectPolygon, "select-polygon", "polygon selection, closed by a double click", {},
         [](CPencil& pencil) {
             pencil.Stroke({{450, 20}, {580, 20}});
             pencil.Stroke({{580, 20}, {515, 160}});
@@ -289,7 +290,7 @@ void AddSelections(std::vector<CTourStep>& steps) {
     });
     command("select-undo", "Undo: the sun again", kCmdUndo, IsColor({515, 85}, kSun));
     steps.push_back(Tool(
-        kToolSelectFree, "select-free", "free selection: the line follows the hand", {},
+        ETool::SelectFree, "select-free", "free selection: the line follows the hand", {},
         [](CPencil& pencil) {
             pencil.Stroke(
                 {{430, 230}, {520, 20}, {600, 120}, {610, 300}, {560, 380}, {440, 370}, {430, 240}});

@@ -12,19 +12,19 @@ constexpr CSize kPicture{40, 30};
 class DrawTest : public PaintWorkshop {
   protected:
     void Stroke() {
-        Tool(kToolPen);
+        Tool(ETool::Pen);
         Drag({5, 8}, {15, 8});
     }
     // A copy of (20, 10) to (30, 20) floats in the corner; the tool is one without options.
     void FloatUp() {
-        Tool(kToolSelectRect);
+        Tool(ETool::SelectRect);
         Drag({20, 10}, {30, 20});
         Click(kCmdCopy);
         Click(kCmdPaste);
         ASSERT_TRUE(Draw().IsFloating());
     }
     void OpenPolygon() {
-        Tool(kToolPolygon);
+        Tool(ETool::Polygon);
         Drag({5, 20}, {25, 20});
         ASSERT_TRUE(Draw().IsShapeOpen());
     }
@@ -48,7 +48,7 @@ class DrawTest : public PaintWorkshop {
     const CPixels& Work() const { return Images().m_imgWork.Pixels(); }
     void ExpectNothingOpen() {
         EXPECT_FALSE(Draw().IsFloating() || Draw().IsShapeOpen());
-        EXPECT_NE(Tools().m_nTool, kToolFloat);
+        EXPECT_NE(Tools().m_nTool, ETool::Float);
     }
 };
 
@@ -86,7 +86,7 @@ TEST_F(DrawTest, WhatIsPaintedGoesAlongToThePictureModes) {
 TEST_F(DrawTest, TheLastStrokeIsLostOnTheWayToTheList) {
     OpenAgain();
     Stroke();
-    Tool(kToolPen);
+    Tool(ETool::Pen);
     Drag({5, 20}, {15, 20});
     GoTo(EMode::Thum);
     EXPECT_EQ(Work(), WithStroke());
@@ -165,7 +165,7 @@ TEST_F(DrawTest, ANewPictureLeavesNothingOfTheOldOneOpen) {
             ExpectNothingOpen();
             const CPixels before = Work();
             GoTo(EMode::Draw);
-            Tool(kToolPolygon);
+            Tool(ETool::Polygon);
             GoTo(EMode::Effect);
             EXPECT_EQ(Work(), before);
         }
@@ -176,24 +176,24 @@ TEST_F(DrawTest, ANewPictureLeavesNothingOfTheOldOneOpen) {
 TEST_F(DrawTest, PasteAndCropAtAZoom) {
     OpenNumbered(600, 500);
     GoTo(EMode::Draw);
-    Tool(kToolSelectRect);
+    Tool(ETool::SelectRect);
     Drag({20, 10}, {30, 20});
     Click(kCmdCopy);
-    Tool(kToolMagnifier);
+    Tool(ETool::Magnifier);
     PressWindow({205, 373});
     ASSERT_EQ(Tools().m_nZoom, 2);
     Canvas().ScrollTo({301, 205});
-    Tool(kToolPen);
+    Tool(ETool::Pen);
     Click(kCmdPaste);
     EXPECT_EQ(Draw().Selection().m_region.Box(), (CRect{150, 102, 160, 112}));
-    Tool(kToolPen);
+    Tool(ETool::Pen);
     EXPECT_EQ(PixelAt(Draw().Paper().Committed().Pixels(), 150, 102),
               PixelAt(NumberedPixels(600, 500), 20, 10));
     Click(kCmdUndo);
 
-    Tool(kToolMagnifier);
+    Tool(ETool::Magnifier);
     PressWindow({205, 373});
-    Tool(kToolSelectRect);
+    Tool(ETool::SelectRect);
     Canvas().ScrollTo({0, 0});
     const CPoint ptOrigin = Draw().Origin();
     const auto at = [&](int x, int y) { return CPoint{2 * x - ptOrigin.x, 2 * y - ptOrigin.y}; };
@@ -203,7 +203,7 @@ TEST_F(DrawTest, PasteAndCropAtAZoom) {
     EXPECT_EQ(Work().Height(), 30);
     EXPECT_EQ(PixelAt(Work(), 0, 0), PixelAt(NumberedPixels(600, 500), 40, 50));
     EXPECT_EQ(Tools().m_nZoom, 2);
-    EXPECT_EQ(Tools().m_nTool, kToolSelectRect);
+    EXPECT_EQ(Tools().m_nTool, ETool::SelectRect);
     for (const int nId : {kCmdCut, kCmdCopy, kCmdCrop, kCmdPaste}) EXPECT_FALSE(Controls().IsEnabled(nId));
     Click(kCmdUndo);
     EXPECT_EQ(Work(), NumberedPixels(600, 500));
@@ -213,7 +213,7 @@ TEST_F(DrawTest, PasteAndCropAtAZoom) {
 // Ctrl with X, C and V do in DRAW what their keys do, and only there.
 TEST_F(DrawTest, TheClipboardByKeys) {
     OpenAgain();
-    Tool(kToolSelectRect);
+    Tool(ETool::SelectRect);
     Drag({20, 10}, {30, 20});
     EXPECT_TRUE(CtrlKey('C'));
     EXPECT_TRUE(CtrlKey('X'));

@@ -22,7 +22,7 @@ TEST_F(HistoryTest, UndoAndRedoGoThroughEveryMode) {
             EXPECT_EQ(Images().m_imgDisplay.Pixels(), Images().m_imgWork.Pixels());
             if (nMode == EMode::Draw) {
                 EXPECT_EQ(m_dialog.Draw().Paper().Committed().Pixels(), Images().m_imgWork.Pixels());
-                EXPECT_EQ(m_dialog.Tools().CurrentTool(), kToolMagnifier);
+                EXPECT_EQ(m_dialog.Tools().CurrentTool(), ETool::Magnifier);
             }
             EXPECT_EQ(State().m_nMode, nMode);
         }

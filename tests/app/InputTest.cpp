@@ -169,9 +169,9 @@ TEST_F(InputTest, TheHelpLineFollowsTheMouseInDraw) {
         return strText;
     };
     std::string strWanted;
-    for (int nTool = 1; nTool <= 16; ++nTool) {
-        ASSERT_TRUE(FindHelpText(100 + nTool, strWanted));
-        const CRect rc = Controls().Find(FindToolButton(nTool))->rcPlace;
+    for (const CToolRow& row : kTools) {
+        ASSERT_TRUE(FindHelpText(100 + NumberOf(row.tool), strWanted));
+        const CRect rc = Controls().Find(row.nButton)->rcPlace;
         EXPECT_EQ(helpAt({rc.left + 10, rc.top + 10}), strWanted);
     }
     EXPECT_EQ(helpAt({100, 510}), "点击选择前景色");

@@ -83,7 +83,7 @@ class ModeTest : public Workshop {
         const int nRadio = Images().IsPhoneSize() ? kRadioPhoneSize : kRadioImageSize;
         EXPECT_TRUE(nMode != EMode::Effect || nFocus == kEffectList);
         EXPECT_TRUE(nMode != EMode::Stick || !bOpen || nFocus == nRadio);
-        EXPECT_TRUE(nMode != EMode::Draw || FindTool(nFocus) != 0);
+        EXPECT_TRUE(nMode != EMode::Draw || FindTool(nFocus));
     }
 
     void ExpectAll(EMode nMode) {
@@ -186,7 +186,7 @@ TEST_F(ModeTest, DrawBeginsWithTheMagnifierAtOneToOne) {
     for (const EMode nMode : {EMode::Thum, EMode::Effect, EMode::Font, EMode::Stick}) {
         GoTo(nMode);
         GoTo(EMode::Draw);
-        EXPECT_EQ(m_dialog.Tools().CurrentTool(), 10);
+        EXPECT_EQ(m_dialog.Tools().CurrentTool(), ETool::Magnifier);
         EXPECT_EQ(m_dialog.Tools().State().m_nZoom, 1);
     }
 }

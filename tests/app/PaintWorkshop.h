@@ -9,7 +9,7 @@ class PaintWorkshop : public Workshop {
     const CToolState& Tools() const { return m_dialog.Tools().State(); }
     CMySCrollView& Canvas() { return m_dialog.Canvas(); }
     CDrawGuest& Draw() { return m_dialog.Draw(); }
-    void Tool(int nTool) { Click(FindToolButton(nTool)); }
+    void Tool(ETool tool) { Click(FindToolButton(tool)); }
     void Window(EMouseAction action, CPoint pt, EMouseButton button = EMouseButton::Left) {
         EXPECT_EQ(m_host.MouseOnWindow(action, button, pt), "");
     }

@@ -10,7 +10,7 @@ class CanvasMapping : public ToolBench {
   protected:
     // The vertex that a press at that client point leaves: it is not kept inside.
     CPoint PictureOf(CPoint ptClient) {
-        m_tools.m_nTool = kToolPolygon;
+        m_tools.m_nTool = ETool::Polygon;
         m_draw.AbandonShape();
         m_canvas.OnMouse({EMouseAction::Press, kLeft, ptClient, 0});
         m_canvas.OnMouse({EMouseAction::Release, kLeft, ptClient, 0});
@@ -78,7 +78,7 @@ TEST_F(CanvasMapping, TheScreenFollowsEveryEventByItsBox) {
         m_canvas.Paint();
         m_canvas.TakeDamage();
         for (int n = 0; n < 60; ++n) {
-            m_tools.m_nTool = 1 + pick(kToolButtonCount);
+            m_tools.m_nTool = ETool{1 + pick(16)};
             m_draw.AbandonShape();
             const CPoint pt{pick(30) + 60, pick(30) + 50};
             Press(pt);

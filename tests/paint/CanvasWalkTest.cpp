@@ -34,12 +34,12 @@ class CanvasWalk : public CommandBench {
             case 6:
                 return Mouse(EMouseAction::DoubleClick, PickPoint(), button);
             case 7:
-                return SelectTool(1 + Pick(kToolButtonCount));
+                return SelectTool(ETool{1 + Pick(16)});
             case 8:
                 m_tools.m_crForeground = PickColour();
                 m_tools.m_crBackground = PickColour();
                 m_tools.m_nLineWidth = 1 + Pick(5);
-                m_tools.m_nFillMode = Pick(3);
+                m_tools.m_nFillMode = EFillMode{Pick(3)};
                 m_tools.m_nBrushShape = Pick(12);
                 m_tools.m_nSpraySize = Pick(3);
                 m_tools.m_nEraserSize = Pick(4);
@@ -89,7 +89,7 @@ class CanvasWalk : public CommandBench {
                 Mouse(EMouseAction::Move, PickPoint());
                 m_canvas.SetGuest(&m_draw);
                 m_draw.LoadCanvas();
-                SelectTool(kToolMagnifier);
+                SelectTool(ETool::Magnifier);
         }
     }
 
@@ -110,11 +110,10 @@ class CanvasWalk : public CommandBench {
         CheckKept();
         // The hand.
         const CHand& hand = m_draw.Hand();
-        ASSERT_TRUE(hand.m_nVertexCount >= -1 && hand.m_nVertexCount <= CHand::kMostVertices);
-        ASSERT_TRUE(m_tools.m_nTool >= 1 && m_tools.m_nTool <= kToolFloat);
-        ASSERT_NE(m_tools.m_nResumeTool, kToolFloat);
+        ASSERT_TRUE(hand.m_nVertexCount <= CHand::kMostVertices);
+        ASSERT_NE(m_tools.m_nResumeTool, ETool::Float);
         // A float and its tool come and go together, and no mark stands beside it.
-        ASSERT_EQ(m_draw.IsFloating(), m_tools.m_nTool == kToolFloat);
+        ASSERT_EQ(m_draw.IsFloating(), m_tools.m_nTool == ETool::Float);
         ASSERT_FALSE(m_draw.IsFloating() && m_draw.Selection().IsMarked());
         ASSERT_LE(m_draw.Selection().m_free.Points().size(), CFreeOutline::kMostPoints);
         ASSERT_TRUE(m_draw.Selection().IsClipReady() || !m_draw.IsFloating());
@@ -157,7 +156,7 @@ TEST_F(CanvasWalk, TenThousandEvents) {
     Open(60, 50);
     for (int nStep = 0; nStep < 10000; ++nStep) {
         SCOPED_TRACE("seed " + std::to_string(nSeed) + ", step " + std::to_string(nStep) + ", tool " +
-                     std::to_string(m_tools.m_nTool));
+                     std::to_string(NumberOf(m_tools.m_nTool)));
         Act();
         m_arrBoxes.clear();
         Invariants();

@@ -42,7 +42,7 @@ TEST_F(ClipboardTest, WithoutASelectionEachCommandSaysSo) {
     m_commands.OnPaste();
     ExpectBox("先选择复制区域");
     EXPECT_EQ(Undos(), 0);
-    EXPECT_EQ(m_tools.m_nTool, kToolSelectRect);
+    EXPECT_EQ(m_tools.m_nTool, ETool::SelectRect);
 }
 
 TEST_F(ClipboardTest, CopyGivesTheShapeOnWhiteAndChangesNothing) {
@@ -88,7 +88,7 @@ TEST_F(ClipboardTest, AFloatIsDraggedAndMergedByAPressBesideIt) {
     Mark({10, 10, 30, 25});
     m_commands.OnCopy();
     Paste();
-    EXPECT_EQ(m_tools.m_nTool, kToolFloat);
+    EXPECT_EQ(m_tools.m_nTool, ETool::Float);
     EXPECT_EQ(Commands(), "--x-");
     EXPECT_TRUE(m_draw.IsFloating());
     EXPECT_FALSE(m_draw.Selection().IsMarked());
@@ -100,7 +100,7 @@ TEST_F(ClipboardTest, AFloatIsDraggedAndMergedByAPressBesideIt) {
     EXPECT_EQ(PixelAt(Scratch(), 40, 30), (CColor{20, 21, 0}));
     Click({2, 2});
     EXPECT_FALSE(m_draw.IsFloating());
-    EXPECT_EQ(m_tools.m_nTool, kToolSelectRect);
+    EXPECT_EQ(m_tools.m_nTool, ETool::SelectRect);
     const CPixels merged = With(NumberedPixels(60, 50), {10, 10, 30, 25}, {30, 19});
     EXPECT_EQ(Committed(), merged);
     EXPECT_EQ(Scratch(), merged);
@@ -118,13 +118,13 @@ TEST_F(ClipboardTest, AFloatComesUpAtTheVisibleCorner) {
     m_commands.OnCopy();
     Zoom(6);
     m_canvas.ScrollTo({301, 245});
-    SelectTool(kToolPen);
+    SelectTool(ETool::Pen);
     Paste();
     EXPECT_EQ(m_draw.Selection().m_region.Box(), (CRect{50, 40, 70, 55}));
     EXPECT_EQ(PixelAt(Scratch(), 51, 41), (CColor{11, 11, 0}));
-    SelectTool(kToolPen);
+    SelectTool(ETool::Pen);
     EXPECT_EQ(PixelAt(Committed(), 50, 40), (CColor{10, 10, 0}));
-    EXPECT_EQ(m_tools.m_nTool, kToolPen);
+    EXPECT_EQ(m_tools.m_nTool, ETool::Pen);
 }
 
 TEST_F(ClipboardTest, ASecondPasteMergesTheFirstWhereItLies) {
@@ -136,7 +136,7 @@ TEST_F(ClipboardTest, ASecondPasteMergesTheFirstWhereItLies) {
     EXPECT_TRUE(m_draw.IsFloating());
     Paste();
     EXPECT_TRUE(m_draw.IsFloating());
-    EXPECT_EQ(m_tools.m_nResumeTool, kToolSelectPolygon);
+    EXPECT_EQ(m_tools.m_nResumeTool, ETool::SelectPolygon);
     EXPECT_EQ(PixelAt(Committed(), 32, 22), (CColor{12, 12, 0}));
     EXPECT_EQ(PixelAt(Committed(), 48, 38), (CColor{48, 38, 0}));
     EXPECT_EQ(PixelAt(Scratch(), 2, 2), (CColor{12, 12, 0}));
@@ -157,7 +157,7 @@ TEST_F(ClipboardTest, CropTakesTheBoxWithWhiteAroundTheShape) {
     const CRect rc = m_draw.Selection().m_rcSelect;
     m_commands.OnCrop();
     EXPECT_EQ(Commands(), "----");
-    EXPECT_EQ(m_tools.m_nTool, kToolSelectPolygon);
+    EXPECT_EQ(m_tools.m_nTool, ETool::SelectPolygon);
     for (const CPixels& pixels :
          {Committed(), Scratch(), m_images.m_imgWork.Pixels(), m_images.m_imgDisplay.Pixels()}) {
         ASSERT_EQ((CSize{pixels.Width(), pixels.Height()}), rc.Size());
@@ -202,7 +202,7 @@ TEST_F(ClipboardTest, AnotherProgramMayHaveTheClipboardOrTakeIt) {
     // Its own picture goes through the shape of the last copy.
     m_clip = FlatImage(8, 40, {77, 0, 0}).CopyToHandle();
     Paste();
-    SelectTool(kToolPen);
+    SelectTool(ETool::Pen);
     EXPECT_EQ(PixelAt(Committed(), 7, 14), (CColor{77, 0, 0}));
     EXPECT_EQ(PixelAt(Committed(), 8, 14), (CColor{8, 14, 0}));
     EXPECT_EQ(PixelAt(Committed(), 7, 15), (CColor{7, 15, 0}));
@@ -210,16 +210,16 @@ TEST_F(ClipboardTest, AnotherProgramMayHaveTheClipboardOrTakeIt) {
     m_clip.reset();
     m_commands.OnPaste();
     EXPECT_TRUE(m_draw.IsFloating());
-    EXPECT_EQ(m_tools.m_nTool, kToolFloat);
+    EXPECT_EQ(m_tools.m_nTool, ETool::Float);
     Click({50, 40});
     EXPECT_FALSE(m_draw.IsFloating());
-    EXPECT_EQ(m_tools.m_nTool, kToolPen);
+    EXPECT_EQ(m_tools.m_nTool, ETool::Pen);
 }
 
 TEST_F(ClipboardTest, SelectingAToolEndsAMark) {
-    for (const int nTool : {kToolSelectRect, kToolSelectFree, kToolPen}) {
+    for (const ETool tool : {ETool::SelectRect, ETool::SelectFree, ETool::Pen}) {
         Mark({5, 5, 20, 20});
-        SelectTool(nTool);
+        SelectTool(tool);
         EXPECT_FALSE(m_draw.Selection().IsMarked());
         EXPECT_EQ(Scratch(), Committed());
         EXPECT_EQ(Commands(), "----");
@@ -245,7 +245,7 @@ TEST_F(ClipboardTest, ResetAndTheMergeOfAFloatGoTogether) {
     Paste();
     Reset();
     EXPECT_FALSE(m_draw.IsFloating());
-    EXPECT_EQ(m_tools.m_nTool, kToolMagnifier);
+    EXPECT_EQ(m_tools.m_nTool, ETool::Magnifier);
     EXPECT_EQ(Committed(), NumberedPixels(60, 50));
     EXPECT_EQ(Undos(), 2);
 }

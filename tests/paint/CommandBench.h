@@ -44,21 +44,21 @@ class CommandBench : public testing::Test,
         m_draw.LoadCanvas();
         Tell(EEditEvent::SelectionGone);
         m_controls.Enable(kCmdPaste, m_draw.Selection().IsClipReady());
-        SelectTool(kToolMagnifier);
+        SelectTool(ETool::Magnifier);
     }
     // What a tool's button does to the canvas.
-    void SelectTool(int nTool) {
+    void SelectTool(ETool tool) {
         Tell(EEditEvent::SelectionGone);
         const bool bOpen = m_draw.IsShapeOpen();
         m_draw.AbandonShape();
         if (bOpen) m_draw.Revert();
-        m_tools.m_nTool = nTool;
+        m_tools.m_nTool = tool;
         EnterTool();
         m_canvas.Paint();
     }
     void Zoom(int nZoom) {
         m_nZoomOption = nZoom;
-        SelectTool(kToolMagnifier);
+        SelectTool(ETool::Magnifier);
     }
 
     CPoint ToClient(CPoint pt) const {
@@ -76,12 +76,12 @@ class CommandBench : public testing::Test,
     void Click(CPoint pt) { Drag({pt}); }
     // Marks a rectangle with its tool.
     void Mark(CRect rc) {
-        SelectTool(kToolSelectRect);
+        SelectTool(ETool::SelectRect);
         Drag({{rc.left, rc.top}, {rc.right, rc.bottom}});
     }
     // A triangle with its corner at the upper left.
     void MarkTriangle(CPoint pt, int nSide) {
-        SelectTool(kToolSelectPolygon);
+        SelectTool(ETool::SelectPolygon);
         Drag({pt, {pt.x + nSide, pt.y}});
         Click({pt.x, pt.y + nSide});
         Mouse(EMouseAction::DoubleClick, {pt.x, pt.y + nSide});
@@ -97,9 +97,9 @@ class CommandBench : public testing::Test,
         m_draw.AbandonShape();
         m_draw.ForgetFloat();
         m_draw.LoadCanvas();
-        const int nTool = std::exchange(m_tools.m_nTool, int{kToolMagnifier});
+        const ETool tool = std::exchange(m_tools.m_nTool, ETool::Magnifier);
         EnterTool();
-        m_tools.m_nTool = nTool;
+        m_tools.m_nTool = tool;
     }
     void Undo() {
         Run([&](const CxImage& imgBase) { return m_editor.Undo(imgBase, EMode::Draw); });
@@ -109,7 +109,7 @@ class CommandBench : public testing::Test,
     }
     void Reset() {
         Run([&](const CxImage& /*imgBase*/) { return m_editor.Reset(m_draw.Committed(), EMode::Draw); });
-        m_tools.m_nTool = kToolMagnifier;
+        m_tools.m_nTool = ETool::Magnifier;
     }
 
     const CPixels& Committed() const { return m_draw.Paper().Committed().Pixels(); }
@@ -170,7 +170,7 @@ class CommandBench : public testing::Test,
         m_draw.Revert();
         m_draw.ForgetSelection();
         m_draw.DropFloat();
-        if (m_tools.m_nTool != kToolMagnifier) return;
+        if (m_tools.m_nTool != ETool::Magnifier) return;
         m_tools.m_nZoom = m_nZoomOption;
         m_draw.ApplyZoom();
     }

@@ -39,8 +39,8 @@ class PanelTest : public PanelBench {
                 ASSERT_EQ(At(x, y).ToRef(), m_page.GetPixel(x / 2, y / 2).ToRef()) << x << "," << y;
     }
     // Brings up the tool's panel and selects the option by a press at that place of the panel.
-    void Choose(int nTool, int x, int y) {
-        m_controller.OnToolButton(nTool);
+    void Choose(ETool tool, int x, int y) {
+        m_controller.OnToolButton(tool);
         ASSERT_TRUE(PressPanel(x, y));
     }
 
@@ -96,9 +96,10 @@ class PanelTest : public PanelBench {
 }  // namespace
 
 TEST_F(PanelTest, ToolsWithoutOptionsShowAnEmptyPanel) {
-    for (const int nTool : {1, 2, 3, 4, 5, 7}) {
-        m_controller.OnToolButton(kToolBrush);
-        m_controller.OnToolButton(nTool);
+    for (const ETool tool : {ETool::SelectRect, ETool::SelectPolygon, ETool::SelectFree, ETool::Picker,
+                             ETool::Pen, ETool::Fill}) {
+        m_controller.OnToolButton(ETool::Brush);
+        m_controller.OnToolButton(tool);
         BeginPage();
         ExpectPage();
     }
@@ -108,27 +109,27 @@ TEST_F(PanelTest, EraserSquares) {
     constexpr int kRows[] = {6, 20, 40, 60};
     for (int i = 0; i < 4; ++i) {
         SCOPED_TRACE(i);
-        Choose(kToolEraser, 30, kRows[i]);
+        Choose(ETool::Eraser, 30, kRows[i]);
         DrawEraser(i);
         ExpectPage();
     }
 }
 
 TEST_F(PanelTest, LineBars) {
-    for (const int nTool : {kToolLine, kToolCurve})
+    for (const ETool tool : {ETool::Line, ETool::Curve})
         for (int i = 0; i < 5; ++i) {
             SCOPED_TRACE(i);
-            Choose(nTool, 30, 6 + 13 * i);
+            Choose(tool, 30, 6 + 13 * i);
             DrawLines(i);
             ExpectPage();
         }
 }
 
 TEST_F(PanelTest, FillBoxes) {
-    for (const int nTool : {kToolRectangle, kToolPolygon, kToolEllipse, kToolRoundRect})
+    for (const ETool tool : {ETool::Rectangle, ETool::Polygon, ETool::Ellipse, ETool::RoundRect})
         for (int i = 0; i < 3; ++i) {
             SCOPED_TRACE(i);
-            Choose(nTool, 30, 8 + 22 * i);
+            Choose(tool, 30, 8 + 22 * i);
             DrawFills(i);
             ExpectPage();
         }
@@ -138,7 +139,7 @@ TEST_F(PanelTest, FillBoxes) {
 TEST_F(PanelTest, ZoomTextsAndDots) {
     for (int i = 0; i < 4; ++i) {
         SCOPED_TRACE(i);
-        Choose(kToolMagnifier, 30, 8 + 15 * i);
+        Choose(ETool::Magnifier, 30, 8 + 15 * i);
         BeginPage();
         constexpr CRect kDots[] = {
             {209, 358, 211, 360}, {208, 372, 212, 376}, {207, 386, 213, 392}, {206, 400, 214, 408}};
@@ -157,7 +158,7 @@ TEST_F(PanelTest, ZoomTextsAndDots) {
 TEST_F(PanelTest, BrushDabs) {
     for (int i = 0; i < 12; ++i) {
         SCOPED_TRACE(i);
-        Choose(kToolBrush, 14 + 24 * (i % 3), 5 + 17 * (i / 3));
+        Choose(ETool::Brush, 14 + 24 * (i % 3), 5 + 17 * (i / 3));
         EXPECT_EQ(m_tools.m_nBrushShape, i);
         BeginPage();
         for (int n = 0; n < 12; ++n) {
@@ -185,7 +186,7 @@ TEST_F(PanelTest, SprayClouds) {
     constexpr int kTops[] = {349, 369, 394};
     for (int i = 0; i < 3; ++i) {
         SCOPED_TRACE(i);
-        Choose(kToolAirbrush, 30, kTops[i] - 344 + 1);
+        Choose(ETool::Airbrush, 30, kTops[i] - 344 + 1);
         BeginPage();
         for (int n = 0; n < 3; ++n) {
             const CSize size = kPlain[n] == 175 ? CSize{67, 19} : CSize{70, 21};
@@ -198,13 +199,13 @@ TEST_F(PanelTest, SprayClouds) {
 
 TEST_F(PanelTest, OnADenseScreenAllIsTwiceAsLarge) {
     SetDensity(2);
-    Choose(kToolEraser, 30, 60);
+    Choose(ETool::Eraser, 30, 60);
     DrawEraser(3);
     ExpectDensePage();
-    Choose(kToolCurve, 30, 6 + 13 * 2);
+    Choose(ETool::Curve, 30, 6 + 13 * 2);
     DrawLines(2);
     ExpectDensePage();
-    Choose(kToolPolygon, 30, 8 + 22);
+    Choose(ETool::Polygon, 30, 8 + 22);
     DrawFills(1);
     ExpectDensePage();
 }
@@ -212,7 +213,7 @@ TEST_F(PanelTest, OnADenseScreenAllIsTwiceAsLarge) {
 // What has no straight edges comes finer there, and does not leave its place.
 TEST_F(PanelTest, OnADenseScreenRoundAndSlantedGlyphsAndTextsAreFiner) {
     SetDensity(2);
-    m_controller.OnToolButton(kToolBrush);
+    m_controller.OnToolButton(ETool::Brush);
     CSurface wanted(2 * 16, 2 * 13);
     wanted.FillRect(wanted.Bounds(), kBlue128);
     wanted.SelectPen(CPen::Solid(1, kWhite));
@@ -231,7 +232,7 @@ TEST_F(PanelTest, OnADenseScreenRoundAndSlantedGlyphsAndTextsAreFiner) {
         EXPECT_NEAR(nTop + (nRows - 1) / 2.0, 802.5 + (x - 348.5) * 13 / 16, 1.5) << x;
     }
     EXPECT_EQ(At(382, 829), kGround);
-    m_controller.OnToolButton(kToolMagnifier);
+    m_controller.OnToolButton(ETool::Magnifier);
     EXPECT_EQ(m_arrFonts.back().nHeight, 30);
     EXPECT_EQ(At(356, 702), kWhite);
     EXPECT_EQ(At(385, 731), kWhite);

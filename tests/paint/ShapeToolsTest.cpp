@@ -1,6 +1,8 @@
 // The tools that stretch a figure: the rubber band on the scratch store, one figure and one step at the end.
 
 #include <cmath>
+#include <functional>
+#include <tuple>
 
 #include "paint/ToolBench.h"
 
@@ -9,51 +11,50 @@ namespace {
 class ShapeTools : public ToolBench {
   protected:
     // The figure of a tool of one drag as it has to look.
-    static void Figure(CSurface& surface, int nTool, CPoint ptFrom, CPoint ptTo) {
+    static void Figure(CSurface& surface, ETool tool, CPoint ptFrom, CPoint ptTo) {
         const CRect rc{ptFrom.x, ptFrom.y, ptTo.x, ptTo.y};
-        if (nTool == kToolLine) Line(surface, ptFrom, ptTo);
-        if (nTool == kToolRectangle) surface.Rectangle(rc);
-        if (nTool == kToolEllipse) surface.Ellipse(rc);
-        if (nTool == kToolRoundRect) surface.RoundRect(rc, {20, 20});
+        if (tool == ETool::Line) Line(surface, ptFrom, ptTo);
+        if (tool == ETool::Rectangle) surface.Rectangle(rc);
+        if (tool == ETool::Ellipse) surface.Ellipse(rc);
+        if (tool == ETool::RoundRect) surface.RoundRect(rc, {20, 20});
     }
-    static constexpr int kDragTools[] = {kToolLine, kToolRectangle, kToolEllipse, kToolRoundRect};
+    static constexpr ETool kDragTools[] = {ETool::Line, ETool::Rectangle, ETool::Ellipse, ETool::RoundRect};
 };
 
 }  // namespace
 
 TEST_F(ShapeTools, AFigureOfOneDragIsDrawnOnceForAll) {
-    for (const int nTool : kDragTools)
-        for (int nFill = kFillNone; nFill <= kFillSame; ++nFill)
+    for (const ETool tool : kDragTools)
+        for (int nFill = 0; nFill < 3; ++nFill)
             for (const EMouseButton button : {kLeft, kRight}) {
-                SCOPED_TRACE(std::to_string(nTool) + " fill " + std::to_string(nFill));
+                SCOPED_TRACE(std::to_string(NumberOf(tool)) + " fill " + std::to_string(nFill));
                 Open(60, 50);
-                m_tools.m_nTool = nTool;
-                m_tools.m_nFillMode = nFill;
+                m_tools.m_nTool = tool;
+                m_tools.m_nFillMode = EFillMode{nFill};
                 m_tools.m_nLineWidth = 1 + nFill * 2;
                 const CColor pen = button == kLeft ? kFore : kBack;
                 const CColor other = button == kLeft ? kBack : kFore;
                 CSurface page = Page();
                 page.SelectPen(CPen::Solid(m_tools.m_nLineWidth, pen));
-                page.SelectBrush(nFill == kFillNone ? CBrush::Hollow()
-                                                    : CBrush::Solid(nFill == kFillOther ? other : pen));
+                page.SelectBrush(nFill == 0 ? CBrush::Hollow() : CBrush::Solid(nFill == 1 ? other : pen));
                 CSurface band = page;
                 Press({45, 40}, button);
                 Move({20, 45});
                 // From the lower right to the upper left: the same figure.
                 Move({8, 7});
-                Figure(band, nTool, {45, 40}, {8, 7});
+                Figure(band, tool, {45, 40}, {8, 7});
                 EXPECT_TRUE(Scratch() == band.Pixels());
                 EXPECT_TRUE(Committed() == Page().Pixels());
                 ExpectScreen(band.Pixels());
                 EXPECT_TRUE(m_arrSteps.empty());
                 Release({12, 9}, button);
-                Figure(page, nTool, {45, 40}, {12, 9});
+                Figure(page, tool, {45, 40}, {12, 9});
                 ExpectStroke(page.Pixels(), Page().Pixels());
             }
 }
 
 TEST_F(ShapeTools, ADragMayEndBeyondTheLastColumnAndStartsInside) {
-    m_tools.m_nTool = kToolRectangle;
+    m_tools.m_nTool = ETool::Rectangle;
     Drag({{-8, -9}, {90, 70}});
     // The right and lower edge stand one pixel short of the release, which is where the picture ends.
     EXPECT_EQ(Count(Committed(), kFore), 2 * 60 + 2 * 48);
@@ -61,14 +62,14 @@ TEST_F(ShapeTools, ADragMayEndBeyondTheLastColumnAndStartsInside) {
     // What counts as a step though it leaves nothing.
     Open(60, 50);
     m_arrSteps.clear();
-    m_tools.m_nTool = kToolLine;
+    m_tools.m_nTool = ETool::Line;
     Click({10, 10});
     ExpectStroke(Page().Pixels(), Page().Pixels());
 }
 
 // The release of a button that went down elsewhere ends a figure that starts at the last press.
 TEST_F(ShapeTools, ALoneReleaseUsesTheLastStart) {
-    m_tools.m_nTool = kToolLine;
+    m_tools.m_nTool = ETool::Line;
     Drag({{5, 5}, {15, 5}});
     m_arrSteps.clear();
     const CPixels before = Committed();
@@ -78,8 +79,8 @@ TEST_F(ShapeTools, ALoneReleaseUsesTheLastStart) {
 }
 
 TEST_F(ShapeTools, APolygonRunsFromDragToDrag) {
-    m_tools.m_nTool = kToolPolygon;
-    m_tools.m_nFillMode = kFillOther;
+    m_tools.m_nTool = ETool::Polygon;
+    m_tools.m_nFillMode = EFillMode::Other;
     Press({10, 10});
     Move({40, 12});
     Release({40, 12});
@@ -111,7 +112,7 @@ TEST_F(ShapeTools, APolygonRunsFromDragToDrag) {
 }
 
 TEST_F(ShapeTools, APolygonClosedAtOnceLeavesADotOrNothing) {
-    m_tools.m_nTool = kToolPolygon;
+    m_tools.m_nTool = ETool::Polygon;
     DoubleClick({20, 20});
     ExpectStroke(Page().Pixels(), Page().Pixels());
     m_tools.m_nLineWidth = 3;
@@ -122,8 +123,8 @@ TEST_F(ShapeTools, APolygonClosedAtOnceLeavesADotOrNothing) {
 
 // A vertex in the margin keeps its place; a start point would be kept inside.
 TEST_F(ShapeTools, AVertexMayLieBesideThePicture) {
-    m_tools.m_nTool = kToolPolygon;
-    m_tools.m_nFillMode = kFillSame;
+    m_tools.m_nTool = ETool::Polygon;
+    m_tools.m_nFillMode = EFillMode::Same;
     Drag({{-10, -10}, {10, -10}});  // a release is kept inside
     Click({30, 40});
     Double({30, 40});
@@ -135,7 +136,7 @@ TEST_F(ShapeTools, AVertexMayLieBesideThePicture) {
 }
 
 TEST_F(ShapeTools, TheHundredthVertexIsTheLast) {
-    m_tools.m_nTool = kToolPolygon;
+    m_tools.m_nTool = ETool::Polygon;
     std::vector<CPoint> points;
     for (int n = 0; n < 130; ++n) {
         const double f = n * 6.28 / 100;
@@ -154,7 +155,7 @@ TEST_F(ShapeTools, TheHundredthVertexIsTheLast) {
 }
 
 TEST_F(ShapeTools, ACurveIsALineAndTwoPulls) {
-    m_tools.m_nTool = kToolCurve;
+    m_tools.m_nTool = ETool::Curve;
     m_tools.m_nLineWidth = 2;
     const auto curve = [&](std::array<CPoint, 4> points) {
         CSurface page = Page();
@@ -176,12 +177,12 @@ TEST_F(ShapeTools, ACurveIsALineAndTwoPulls) {
     Move({40, 45});
     Release({40, 45});
     ExpectStroke(curve({CPoint{5, 25}, {20, 5}, {40, 45}, {52, 25}}), Page().Pixels());
-    EXPECT_EQ(m_draw.Hand().m_nVertexCount, -1);
+    EXPECT_FALSE(m_draw.IsShapeOpen());
 }
 
 // A click is a pull at its point, a double click two.
 TEST_F(ShapeTools, ADoubleClickEndsACurve) {
-    m_tools.m_nTool = kToolCurve;
+    m_tools.m_nTool = ETool::Curve;
     Drag({{5, 25}, {50, 25}});
     DoubleClick({20, 5});
     CSurface page = Page();
@@ -193,8 +194,8 @@ TEST_F(ShapeTools, ADoubleClickEndsACurve) {
 }
 
 TEST_F(ShapeTools, AnOpenShapeThatIsGivenUpLeavesNoTrace) {
-    for (const int nTool : {kToolPolygon, kToolCurve, kToolSelectPolygon}) {
-        m_tools.m_nTool = nTool;
+    for (const ETool tool : {ETool::Polygon, ETool::Curve, ETool::SelectPolygon}) {
+        m_tools.m_nTool = tool;
         Drag({{10, 10}, {40, 12}});
         Press({20, 30});
         Move({30, 30});
@@ -213,9 +214,34 @@ TEST_F(ShapeTools, AnOpenShapeThatIsGivenUpLeavesNoTrace) {
 }
 
 TEST_F(ShapeTools, ABoxCountsAsAnOpenShapeBehindItsFirstPress) {
-    m_tools.m_nTool = kToolEllipse;
+    m_tools.m_nTool = ETool::Ellipse;
     Drag({{10, 10}, {40, 30}});
-    EXPECT_EQ(m_draw.Hand().m_nVertexCount, 1);
-    Drag({{20, 20}, {30, 30}});
-    EXPECT_EQ(m_draw.Hand().m_ptVertex[0], (CPoint{10, 10}));
+    EXPECT_TRUE(m_draw.IsShapeOpen());
+    m_draw.AbandonShape();
+    Release({20, 20});
+    EXPECT_FALSE(m_draw.IsShapeOpen());
+}
+
+// Closed, finished or given up in mid-drag: the release that is still to come adds nothing, the one behind it
+// counts, as does one whose press was elsewhere.
+TEST_F(ShapeTools, ADragThatOutlivesItsShapeAddsNothing) {
+    const auto givenUp = [&] { m_draw.AbandonShape(); };
+    const auto closed = [&] { DoubleClick({30, 30}); };
+    const auto bent = [&] { Drag({{1, 1}, {9, 9}}), Click({20, 5}), Click({20, 5}); };
+    const std::tuple<ETool, std::function<void()>, bool> kEnds[] = {
+        {ETool::Polygon, givenUp, true},       {ETool::Polygon, closed, false},
+        {ETool::SelectPolygon, givenUp, true}, {ETool::SelectPolygon, closed, false},
+        {ETool::Curve, givenUp, true},         {ETool::Curve, bent, true},
+    };
+    for (const auto& [tool, end, bSpent] : kEnds) {
+        SCOPED_TRACE(NumberOf(tool));
+        m_tools.m_nTool = tool;
+        Press({10, 10});
+        end();
+        if (bSpent) Release({20, 20});
+        EXPECT_FALSE(m_draw.IsShapeOpen());
+        Release({20, 20});
+        EXPECT_TRUE(m_draw.IsShapeOpen());
+        m_draw.AbandonShape();
+    }
 }

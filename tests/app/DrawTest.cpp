@@ -93,6 +93,13 @@ TEST_F(DrawTest, TheLastStrokeIsLostOnTheWayToTheList) {
     GoTo(EMode::Draw);
     EXPECT_EQ(Draw().Paper().Committed().Pixels(), WithStroke());
     EXPECT_EQ(Undos(), 2);
+    // So is a float, which its tool does not outlive.
+    FloatUp();
+    GoTo(EMode::Thum);
+    ExpectNothingOpen();
+    GoTo(EMode::Draw);
+    ExpectNothingOpen();
+    EXPECT_EQ(Draw().Paper().Committed().Pixels(), WithStroke());
 }
 
 // Every command takes the last stroke along and the float with it, and gives an open shape up.
@@ -226,4 +233,32 @@ TEST_F(DrawTest, TheClipboardByKeys) {
     EXPECT_FALSE(CtrlKey('V'));
     EXPECT_FALSE(CtrlKey('C'));
     EXPECT_EQ(Undos(), 2);
+    // What was copied stays for the whole run; what was marked goes with its picture.
+    GoTo(EMode::Draw);
+    EXPECT_TRUE(Controls().IsEnabled(kCmdPaste));
+    Tool(ETool::SelectRect);
+    Drag({20, 10}, {30, 20});
+    Click(kCmdNew);
+    for (const int nId : {kCmdCut, kCmdCopy, kCmdCrop}) EXPECT_FALSE(Controls().IsEnabled(nId));
+    const int nUndos = Undos();
+    EXPECT_TRUE(CtrlKey('X'));
+    ExpectBoxes({{"请先选择剪切区域", kTitleNotice, EBoxIcon::Exclamation, EBoxButtons::Ok}});
+    EXPECT_TRUE(CtrlKey('C'));
+    ExpectBoxes({{"先选择复制区域", kTitleNotice, EBoxIcon::Exclamation, EBoxButtons::Ok}});
+    EXPECT_EQ(Undos(), nUndos);
+}
+
+// As Undo does.
+TEST_F(DrawTest, RedoGivesUpAnOpenShape) {
+    for (const ETool tool : {ETool::Polygon, ETool::Curve}) {
+        OpenAgain();
+        Stroke();
+        Click(kCmdUndo);
+        Tool(tool);
+        Drag({5, 20}, {25, 20});
+        Click(kCmdRedo);
+        ExpectNothingOpen();
+        EXPECT_EQ(Work(), WithStroke());
+        EXPECT_EQ(Tools().m_nTool, tool);
+    }
 }

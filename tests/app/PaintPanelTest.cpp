@@ -32,6 +32,7 @@ class PaintPanelTest : public PaintWorkshop {
 
 TEST_F(PaintPanelTest, EachButtonSelectsItsTool) {
     OpenInDraw(40, 30);
+    EXPECT_EQ(Help(), kTools.front().szHelp);
     Tool(ETool::Pen);
     const CPixels empty = PanelPixels();
     for (const CToolRow& row : kTools) {
@@ -100,6 +101,9 @@ TEST_F(PaintPanelTest, APressBesideThePanelEndsAnOpenShapeAndOneInsideDoesNot) {
     PressWindow({100, 600});
     EXPECT_FALSE(Draw().IsShapeOpen());
     Drag({5, 5}, {20, 6});
+    Window(EMouseAction::Release, {100, 600}, EMouseButton::Right);
+    EXPECT_FALSE(Draw().IsShapeOpen());
+    Drag({5, 5}, {20, 6});
     Tool(ETool::Curve);
     EXPECT_FALSE(Draw().IsShapeOpen());
     EXPECT_TRUE(Draw().Paper().Scratch().Pixels() == Draw().Paper().Committed().Pixels());
@@ -160,12 +164,18 @@ TEST_F(PaintPanelTest, TheZoomChangesSizesAndPlaceButNotTheScrolling) {
     EXPECT_EQ(Tools().m_nZoom, 6);
     EXPECT_EQ(Canvas().ScrollSizes(), (CSize{1500, 1200}));
     EXPECT_EQ(Tools().m_nTool, ETool::Fill);
+    EXPECT_EQ(Controls().Focus(), FindToolButton(ETool::Fill));
     Click(kCmdReset);
     EXPECT_EQ(Tools().m_nZoom, 1);
     EXPECT_EQ(Canvas().ScrollSizes(), (CSize{250, 200}));
     EXPECT_EQ(Draw().Origin(), (CPoint{204, 171}));
-    // So does a new entry.
+    // In its panel too.
     Tool(ETool::Magnifier);
+    const CPixels panel = PanelPixels();
+    PressWindow({205, 388});
+    Click(kCmdReset);
+    EXPECT_EQ(PanelPixels(), panel);
+    // So does a new entry.
     PressWindow({205, 373});
     EXPECT_EQ(Canvas().ScrollSizes(), (CSize{500, 400}));
     EXPECT_EQ(Draw().Origin(), (CPoint{79, 71}));

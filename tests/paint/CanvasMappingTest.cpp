@@ -2,11 +2,11 @@
 
 #include <random>
 
-#include "paint/ToolBench.h"
+#include "paint/DrawBench.h"
 
 namespace {
 
-class CanvasMapping : public ToolBench {
+class CanvasMapping : public DrawBench {
   protected:
     // The vertex that a press at that client point leaves: it is not kept inside.
     CPoint PictureOf(CPoint ptClient) {
@@ -35,7 +35,7 @@ TEST_F(CanvasMapping, ACentredPictureIsMappedWithTheFractionCutTowardZero) {
 // The picture's part on the screen and the point under the cursor are cut one by one, so they may differ by
 // one.
 TEST_F(CanvasMapping, ScrollingAndZoomAreCutOneByOne) {
-    Open(400, 300);
+    Open(NumberedImage(400, 300));
     Zoom(4);
     EXPECT_EQ(m_draw.Origin(), (CPoint{0, 0}));
     EXPECT_EQ(m_canvas.ScrollSizes(), (CSize{1600, 1200}));
@@ -56,12 +56,13 @@ TEST_F(CanvasMapping, ScrollingAndZoomAreCutOneByOne) {
 // A new picture at a higher zoom keeps the zoom but has the scroll sizes of the picture as it is.
 TEST_F(CanvasMapping, APictureThatIsLoadedAtAZoomScrollsByItsOwnSize) {
     Zoom(6);
-    Open(700, 90);
+    m_editor.TakePicture(NumberedImage(700, 90));
+    m_draw.LoadCanvas();
     EXPECT_EQ(m_canvas.ScrollSizes(), (CSize{700, 90}));
     EXPECT_EQ(m_draw.Origin(), (CPoint{0, 0}));
     m_canvas.ScrollTo({41, 0});
     m_canvas.Paint();
-    ExpectScreen(Committed());
+    ExpectScreen(m_draw.Paper().Committed());
 }
 
 // The screen is brought up to date by the box of the stroke alone and is yet always what a whole paint would
@@ -87,9 +88,9 @@ TEST_F(CanvasMapping, TheScreenFollowsEveryEventByItsBox) {
             const CRect rcDamage = m_canvas.TakeDamage();
             EXPECT_LE(rcDamage.Width(), 80 * nZoom);
             EXPECT_LE(rcDamage.Height(), 80 * nZoom);
-            ExpectScreen(Scratch());
+            ExpectScreen(m_draw.Paper().Scratch());
             Release(pt);
-            ExpectScreen(Scratch());
+            ExpectScreen(m_draw.Paper().Scratch());
             m_canvas.TakeDamage();
             if (HasFailure()) return;
         }

@@ -2,13 +2,13 @@
 
 #include <random>
 
-#include "paint/CommandBench.h"
+#include "paint/DrawBench.h"
 
 namespace {
 
-class CanvasWalk : public CommandBench {
+class CanvasWalk : public DrawBench {
   protected:
-    int Pick(int nBelow) { return std::uniform_int_distribution<int>(0, nBelow - 1)(m_random); }
+    int Pick(int nBelow) { return std::uniform_int_distribution<int>(0, nBelow - 1)(m_pick); }
     CColor PickColour() {
         // Few enough that a flood fill finds its own.
         return CColor::FromRef(
@@ -78,7 +78,7 @@ class CanvasWalk : public CommandBench {
                 if (Pick(10) == 0) Reset();
                 return;
             case 7:
-                if (Pick(5) == 0) Open(1 + Pick(120), 1 + Pick(90));
+                if (Pick(5) == 0) Open(NumberedImage(1 + Pick(120), 1 + Pick(90)));
                 return;
             default:
                 // Another mode and back, as the switch does it.
@@ -103,7 +103,7 @@ class CanvasWalk : public CommandBench {
         ASSERT_EQ(paper.Scratch().Bounds().Size(), size);
         // A surface that has been drawn on since the last show is out of date on the screen until the next
         // one; all steps show what they have drawn, so the screen is the shown store.
-        CheckScreen(paper.Shown());
+        ExpectScreen(paper.Shown());
         // No picture that somebody keeps is painted on: the newest undo step is what the working image was.
         ASSERT_LE(m_images.m_stackUndo.Count(), CUndoStack<CUndoEntry>::kDepth);
         ASSERT_LE(m_images.m_stackRedo.Count(), CUndoStack<CUndoEntry>::kDepth);
@@ -120,17 +120,6 @@ class CanvasWalk : public CommandBench {
         ASSERT_EQ(m_nWaits, 0);
     }
 
-    void CheckScreen(const CSurface& store) {
-        const int nZoom = m_tools.m_nZoom;
-        CSurface whole(m_canvas.ClientSize().cx, m_canvas.ClientSize().cy);
-        whole.DrawPixels(m_canvas.Surface().Pixels(), 0, 0);
-        const CPoint ptCorner = m_draw.VisibleCorner();
-        const CPoint ptOrigin = m_draw.Origin();
-        const CRect rcSeen = CRect{ptCorner.x, ptCorner.y, store.Width(), store.Height()};
-        whole.DrawEnlarged(store.Pixels(), rcSeen, ptOrigin.x, ptOrigin.y, nZoom, whole.Bounds());
-        ASSERT_TRUE(whole.Pixels() == m_canvas.Surface().Pixels());
-    }
-
     // Every undo step keeps its pixels for as long as it is the one at its depth.
     void CheckKept() {
         if (m_images.m_stackUndo.IsEmpty()) return m_kept.Clear();
@@ -143,7 +132,7 @@ class CanvasWalk : public CommandBench {
         ASSERT_TRUE(top == m_copy);
     }
 
-    std::mt19937 m_random;
+    std::mt19937 m_pick;
     CPixels m_kept;
     CPixels m_copy;
 };
@@ -152,8 +141,8 @@ class CanvasWalk : public CommandBench {
 
 TEST_F(CanvasWalk, TenThousandEvents) {
     const unsigned nSeed = std::random_device{}();
-    m_random.seed(nSeed);
-    Open(60, 50);
+    m_pick.seed(nSeed);
+    Open(NumberedImage(60, 50));
     for (int nStep = 0; nStep < 10000; ++nStep) {
         SCOPED_TRACE("seed " + std::to_string(nSeed) + ", step " + std::to_string(nStep) + ", tool " +
                      std::to_string(NumberOf(m_tools.m_nTool)));

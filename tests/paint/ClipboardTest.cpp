@@ -1,15 +1,13 @@
 // Copy, Cut, Paste, Crop and the floating selection, as the states of the selection follow each other.
 
-#include "paint/CommandBench.h"
+#include "paint/DrawBench.h"
 
 namespace {
 
-constexpr CColor kWhite{255, 255, 255};
-
-class ClipboardTest : public CommandBench {
+class ClipboardTest : public DrawBench {
   protected:
     ClipboardTest() {
-        Open(60, 50);
+        Open(NumberedImage(60, 50));
         m_tools.m_crBackground = {9, 200, 9};
     }
     // The picture with a part of it, or of another, at another place.
@@ -113,7 +111,7 @@ TEST_F(ClipboardTest, AFloatIsDraggedAndMergedByAPressBesideIt) {
 }
 
 TEST_F(ClipboardTest, AFloatComesUpAtTheVisibleCorner) {
-    Open(200, 180);
+    Open(NumberedImage(200, 180));
     Mark({10, 10, 30, 25});
     m_commands.OnCopy();
     Zoom(6);
@@ -206,6 +204,16 @@ TEST_F(ClipboardTest, AnotherProgramMayHaveTheClipboardOrTakeIt) {
     EXPECT_EQ(PixelAt(Committed(), 7, 14), (CColor{77, 0, 0}));
     EXPECT_EQ(PixelAt(Committed(), 8, 14), (CColor{8, 14, 0}));
     EXPECT_EQ(PixelAt(Committed(), 7, 15), (CColor{7, 15, 0}));
+    // Its shape is larger than it; neither leaves a trail.
+    const CPixels before = Committed();
+    Paste();
+    Drag({{5, 5}, {15, 25}});
+    for (int y = 0; y < 50; ++y)
+        for (int x = 0; x < 60; ++x)
+            ASSERT_TRUE(m_draw.Selection().FloatBox().Contains({x, y}) ||
+                        PixelAt(Scratch(), x, y) == PixelAt(before, x, y))
+                << x << "," << y;
+    SelectTool(ETool::Pen);
     // No picture any more: the tool stands, with the last float's pixels.
     m_clip.reset();
     m_commands.OnPaste();
@@ -248,4 +256,27 @@ TEST_F(ClipboardTest, ResetAndTheMergeOfAFloatGoTogether) {
     EXPECT_EQ(m_tools.m_nTool, ETool::Magnifier);
     EXPECT_EQ(Committed(), NumberedPixels(60, 50));
     EXPECT_EQ(Undos(), 2);
+}
+
+// A click beside the float merges it; what the hand does behind it is the resumed tool's.
+TEST_F(ClipboardTest, ADoubleClickBesideAFloatGoesOnWithTheTool) {
+    Mark({5, 5, 20, 20});
+    m_commands.OnCopy();
+    const auto pasteWith = [&](ETool tool) {
+        SelectTool(tool);
+        Paste();
+        m_arrSteps.clear();
+    };
+    // The polygon takes its step, and no vertex is left.
+    pasteWith(ETool::Polygon);
+    DoubleClick({50, 40});
+    EXPECT_FALSE(m_draw.IsFloating() || m_draw.IsShapeOpen());
+    EXPECT_EQ(m_arrSteps.size(), 1U);
+    // The release of the merging click begins a selection; the free one is begun anew.
+    pasteWith(ETool::SelectPolygon);
+    Click({50, 40});
+    EXPECT_TRUE(m_draw.IsShapeOpen());
+    pasteWith(ETool::SelectFree);
+    Click({50, 40});
+    EXPECT_EQ(m_draw.Selection().m_free.Points().size(), 1U);
 }

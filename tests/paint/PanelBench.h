@@ -41,7 +41,8 @@ class PanelBench : public testing::Test,
     void DoubleClick(CPoint pt, EMouseButton button) {
         m_controller.OnWellDoubleClick({EMouseAction::DoubleClick, button, pt, 0});
     }
-    CColor At(int x, int y) const { return m_client.Surface().GetPixel(x, y); }
+    // What has been brought to the screen.
+    CColor At(int x, int y) const { return m_shown.GetPixel(x, y); }
 
     CEditState m_state;
     CToolState m_tools;
@@ -79,7 +80,7 @@ class PanelBench : public testing::Test,
     void ApplyZoom() override { Call(("zoom" + std::to_string(m_tools.m_nZoom)).c_str()); }
 
     CClientArea& Client() override { return m_client; }
-    void Present() override {}
+    void Present() override { m_shown = m_client.Surface(); }
     void Invalidate() override { Call("repaint"); }
     void SetHelp(int nCode) override { Call(("help" + std::to_string(nCode)).c_str()); }
     void Tell(EEditEvent event) override { Call(event == EEditEvent::SelectionGone ? "off" : "on"); }
@@ -104,6 +105,7 @@ class PanelBench : public testing::Test,
         return &it->second;
     }
 
+    CSurface m_shown{0, 0};
     std::string m_strCalls;
     std::map<std::string, CxImage> m_mapBitmaps;
 };

@@ -4,11 +4,11 @@
 #include <cmath>
 #include <random>
 
-#include "paint/ToolBench.h"
+#include "paint/DrawBench.h"
 
 namespace {
 
-class SelectionTest : public ToolBench {
+class SelectionTest : public DrawBench {
   protected:
     SelectionTest() { Open(NumberedImage(60, 50, 9)); }
 
@@ -30,7 +30,7 @@ TEST_F(SelectionTest, ARectangleIsTheSameFromBothEnds) {
     m_tools.m_nTool = ETool::SelectRect;
     for (const auto& [ptFrom, ptTo] :
          {std::pair{CPoint{10, 8}, CPoint{40, 30}}, {{40, 8}, {10, 30}}, {{40, 30}, {10, 8}}}) {
-        m_bSelectionCommands = false;
+        SelectTool(ETool::SelectRect);
         Press(ptFrom);
         Move(ptTo);
         CSurface page(NumberedPixels(60, 50, 9));
@@ -40,7 +40,7 @@ TEST_F(SelectionTest, ARectangleIsTheSameFromBothEnds) {
         EXPECT_TRUE(Scratch() == page.Pixels());
         Release(ptTo);
         EXPECT_TRUE(Selection().IsMarked());
-        EXPECT_TRUE(m_bSelectionCommands);
+        EXPECT_EQ(Commands(), "xx-x");
         ASSERT_TRUE(Build());
         EXPECT_EQ(Selection().m_rcSelect, (CRect{10, 8, 40, 30}));
         const CPixels pixels = Lifted();
@@ -59,7 +59,7 @@ TEST_F(SelectionTest, AClickSelectsNothingAndTurnsNothingOn) {
         Selection().Unmark();
         Click({20, 20});
         EXPECT_TRUE(Selection().IsMarked());
-        EXPECT_FALSE(m_bSelectionCommands);
+        EXPECT_EQ(Commands(), "----");
         EXPECT_FALSE(Build());
         ExpectUntouched();
     }
@@ -82,7 +82,7 @@ TEST_F(SelectionTest, APolygonIsFilledByTheWindingRule) {
     EXPECT_FALSE(Selection().IsMarked());
     Double({44, 44});
     EXPECT_TRUE(Selection().IsMarked());
-    EXPECT_TRUE(m_bSelectionCommands);
+    EXPECT_EQ(Commands(), "xx-x");
     Release({44, 44});
     ASSERT_TRUE(Build());
     EXPECT_TRUE(Selection().m_region.Contains({30, 25}));
@@ -97,7 +97,7 @@ TEST_F(SelectionTest, APolygonIsFilledByTheWindingRule) {
 
 // A press has put a solid pen on the scratch store; the outline is dotted and hollow all the same.
 TEST_F(SelectionTest, TheOutlineIsDottedWithoutAMoveToo) {
-    Open(60, 50);
+    OpenPage();
     m_tools.m_nTool = ETool::SelectPolygon;
     m_tools.m_nFillMode = EFillMode::Same;
     Press({5, 5});
@@ -112,13 +112,16 @@ TEST_F(SelectionTest, TheOutlineIsDottedWithoutAMoveToo) {
 
 TEST_F(SelectionTest, AFreeSelectionTakesEveryPosition) {
     m_tools.m_nTool = ETool::SelectFree;
+    const CColor black{0, 0, 0};
     Press({10, 10});
     Move({40, 10});
+    EXPECT_EQ(Count(Scratch(), black, {10, 10, 40, 11}), 15);  // dotted
     Move({40, 40});
     Release({10, 40});
+    EXPECT_EQ(Count(Scratch(), black, {10, 11, 11, 40}), 14);  // closed
     // With two passes a move; the release's own point is not part of the region.
     EXPECT_EQ(Selection().m_free.Points().size(), 6U);
-    EXPECT_TRUE(m_bSelectionCommands);
+    EXPECT_EQ(Commands(), "xx-x");
     ASSERT_TRUE(Build());
     EXPECT_EQ(Selection().m_rcSelect, (CRect{10, 10, 40, 40}));
     EXPECT_TRUE(Selection().m_region.Contains({39, 39}));

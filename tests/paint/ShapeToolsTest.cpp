@@ -4,11 +4,11 @@
 #include <functional>
 #include <tuple>
 
-#include "paint/ToolBench.h"
+#include "paint/DrawBench.h"
 
 namespace {
 
-class ShapeTools : public ToolBench {
+class ShapeTools : public DrawBench {
   protected:
     // The figure of a tool of one drag as it has to look.
     static void Figure(CSurface& surface, ETool tool, CPoint ptFrom, CPoint ptTo) {
@@ -28,7 +28,7 @@ TEST_F(ShapeTools, AFigureOfOneDragIsDrawnOnceForAll) {
         for (int nFill = 0; nFill < 3; ++nFill)
             for (const EMouseButton button : {kLeft, kRight}) {
                 SCOPED_TRACE(std::to_string(NumberOf(tool)) + " fill " + std::to_string(nFill));
-                Open(60, 50);
+                OpenPage();
                 m_tools.m_nTool = tool;
                 m_tools.m_nFillMode = EFillMode{nFill};
                 m_tools.m_nLineWidth = 1 + nFill * 2;
@@ -45,7 +45,7 @@ TEST_F(ShapeTools, AFigureOfOneDragIsDrawnOnceForAll) {
                 Figure(band, tool, {45, 40}, {8, 7});
                 EXPECT_TRUE(Scratch() == band.Pixels());
                 EXPECT_TRUE(Committed() == Page().Pixels());
-                ExpectScreen(band.Pixels());
+                ExpectScreen(band);
                 EXPECT_TRUE(m_arrSteps.empty());
                 Release({12, 9}, button);
                 Figure(page, tool, {45, 40}, {12, 9});
@@ -60,7 +60,7 @@ TEST_F(ShapeTools, ADragMayEndBeyondTheLastColumnAndStartsInside) {
     EXPECT_EQ(Count(Committed(), kFore), 2 * 60 + 2 * 48);
     EXPECT_EQ(PixelAt(Committed(), 59, 49), kFore);
     // What counts as a step though it leaves nothing.
-    Open(60, 50);
+    OpenPage();
     m_arrSteps.clear();
     m_tools.m_nTool = ETool::Line;
     Click({10, 10});

@@ -1,10 +1,10 @@
 // The tools that act where the cursor is, each by its steps and with what Undo takes back.
 
-#include "paint/ToolBench.h"
+#include "paint/DrawBench.h"
 
 namespace {
 
-class StrokeTools : public ToolBench {
+class StrokeTools : public DrawBench {
   protected:
     // What a tick of the airbrush leaves, its size as chosen.
     void SprayDots(CSurface& surface, CRandomSequence& random, CPoint pt) const {
@@ -32,7 +32,7 @@ TEST_F(StrokeTools, ThePenFollowsTheCursorOnePixelWide) {
     Line(page, {20, 9}, {20, 30});
     Line(page, {20, 30}, {3, 31});
     ExpectStroke(page.Pixels(), Page().Pixels());
-    ExpectScreen(page.Pixels());
+    ExpectScreen(page);
 }
 
 // The rest of the way to a release elsewhere was never committed.
@@ -74,7 +74,7 @@ TEST_F(StrokeTools, AClickOfABrushLeavesItsDab) {
     };
     for (const auto& dab : kDabs) {
         SCOPED_TRACE(dab.nShape);
-        Open(60, 50);
+        OpenPage();
         m_tools.m_nBrushShape = dab.nShape;
         Click({30, 25});
         EXPECT_EQ(Count(Committed(), kFore), dab.nPixels);
@@ -88,7 +88,7 @@ TEST_F(StrokeTools, RoundAndSquareBrushesJoinTheirSamples) {
     m_tools.m_nTool = ETool::Brush;
     for (const auto& [nShape, nWidth] : {std::pair{0, 7}, {1, 5}, {2, 3}, {3, 8}, {4, 5}, {5, 2}}) {
         SCOPED_TRACE(nShape);
-        Open(60, 50);
+        OpenPage();
         m_tools.m_nBrushShape = nShape;
         CSurface page = Page();
         Press({20, 20});
@@ -109,6 +109,15 @@ TEST_F(StrokeTools, RoundAndSquareBrushesJoinTheirSamples) {
     }
 }
 
+// From where the hand went down, not from the edge of the picture.
+TEST_F(StrokeTools, ABrushComesInFromTheMargin) {
+    m_tools.m_nTool = ETool::Brush;
+    m_tools.m_nBrushShape = 2;
+    Drag({{-20, 0}, {10, 30}});
+    EXPECT_EQ(PixelAt(Committed(), 5, 25), kFore);
+    EXPECT_EQ(Count(Committed(), kFore, {0, 0, 60, 15}), 0);
+}
+
 TEST_F(StrokeTools, SlantedBrushesLeaveOneMarkASample) {
     m_tools.m_nTool = ETool::Brush;
     m_tools.m_nBrushShape = 7;
@@ -127,7 +136,7 @@ TEST_F(StrokeTools, TheEraserLeavesTheOtherButtonsColour) {
     m_tools.m_nTool = ETool::Eraser;
     for (int nSize = 0; nSize < 4; ++nSize) {
         for (const EMouseButton button : {kLeft, kRight}) {
-            Open(60, 50);
+            OpenPage();
             m_tools.m_nEraserSize = nSize;
             const CColor color = button == kLeft ? kBack : kFore;
             const int n = nSize + 1;
@@ -190,7 +199,7 @@ TEST_F(StrokeTools, ThePickerFollowsTheCursorWithTheButtonsWell) {
 TEST_F(StrokeTools, TheAirbrushSpraysTwentyDotsATick) {
     m_tools.m_nTool = ETool::Airbrush;
     for (m_tools.m_nSpraySize = 0; m_tools.m_nSpraySize < 3; ++m_tools.m_nSpraySize) {
-        Open(60, 50);
+        OpenPage();
         Press({30, 25});
         EXPECT_TRUE(m_bTimer);
         CSurface page = Page();

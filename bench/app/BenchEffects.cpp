@@ -21,7 +21,7 @@ void Slide(CBenchProgram& program, int nPos) {
 }
 
 const CEffectRow& RowOf(int nEffect) {
-    return kEffects[static_cast<std::size_t>(nEffect)];
+    return ::RowOf(EffectOf(nEffect));
 }
 
 // A level in the upper half of the range.
@@ -79,10 +79,9 @@ void EffectAlone(benchmark::State& state) {
     const CEffectRow& row = RowOf(nEffect);
     const int nLevel = CEffectFlow::LevelOf(row.nMin, row.nMax, TellingPosition(nEffect));
     CRandomSequence random;
-    CImageEffect engine(random);
     for (auto _ : state) {
         CxImage image(picture);
-        benchmark::DoNotOptimize(engine.ApplyEffect(image, nEffect, nLevel, false, image.GetWidth()));
+        benchmark::DoNotOptimize(ApplyEffect(image, EffectOf(nEffect), nLevel, image.GetWidth(), random));
         benchmark::DoNotOptimize(image);
     }
 }

@@ -23,13 +23,12 @@ std::string SelectedPicture(int nEffect) {
 }
 
 const CEffectRow& RowOf(int nEffect) {
-    return kEffects[static_cast<std::size_t>(nEffect)];
+    return ::RowOf(EffectOf(nEffect));
 }
 
 }  // namespace
 
-CEffectFlow::CEffectFlow(const CEnvironment& env)
-    : m_env(env), m_engine(env.random), m_list(env.controls, kEffectList) {}
+CEffectFlow::CEffectFlow(const CEnvironment& env) : m_env(env), m_list(env.controls, kEffectList) {}
 
 void CEffectFlow::Init() {
     std::vector<std::string> arrCells;
@@ -83,8 +82,8 @@ bool CEffectFlow::MakePreviewBase(CxImage& image) const {
     return image.Resample(std::max(1, size.cx), std::max(1, size.cy));
 }
 
-bool CEffectFlow::ApplyEffect(CxImage& image, int nEffect, int nLevel, bool bFull) {
-    return m_engine.ApplyEffect(image, nEffect, nLevel, bFull, m_env.images.m_nDispWidth);
+bool CEffectFlow::Apply(CxImage& image, int nEffect, int nLevel) const {
+    return ApplyEffect(image, EffectOf(nEffect), nLevel, m_nRefWidth, m_env.random);
 }
 
 void CEffectFlow::ShowSelected(int nEffect) {
@@ -101,12 +100,13 @@ void CEffectFlow::OnSelChangeEffectList() {
     const int nEffect = m_list.Selection();
     if (!m_env.state.m_bImageOpen || nEffect < 0 || nEffect >= kEffectCount) return;
     const CWaitScope wait(m_env.wait);
+    m_nRefWidth = m_env.images.m_nDispWidth;
     CxImage imgBase;
     CxImage imgSmall;
     const bool bMade = Prepare([&] {
         if (!MakePreviewBase(imgBase)) return false;
         imgSmall = imgBase;
-        return ApplyEffect(imgSmall, nEffect, 0, false);
+        return Apply(imgSmall, nEffect, 0);
     });
     if (!bMade) {
         m_env.editor.ReportNoMemory();
@@ -134,7 +134,8 @@ void CEffectFlow::OnVScroll() {
     const CControl& slider = *m_env.controls.Find(kEffectSlider);
     const int nLevel = LevelOf(slider.nMin, slider.nMax, slider.nPos);
     CxImage image = m_imgEffectBase;
-    if (!ApplyEffect(image, m_nEffectIndex, nLevel, m_bNoEffectLevel)) {
+    m_nRefWidth = m_env.images.m_nDispWidth;
+    if (!Apply(image, m_nEffectIndex, nLevel)) {
         m_env.editor.ReportNoMemory();
         return;
     }
@@ -174,8 +175,7 @@ bool CEffectFlow::OnConfirm() {
     const CWaitScope wait(m_env.wait);
     const bool bChanged = m_env.editor.Change(m_env.images.m_imgWork, [&](CEditPictures& next) {
         next.m_bFrameOn = false;
-        return ApplyEffect(next.m_imgWork, m_nEffectIndex, m_nEffectLevel, true) &&
-               next.RebuildDisplay(next.RuledSize());
+        return Apply(next.m_imgWork, m_nEffectIndex, m_nEffectLevel) && next.RebuildDisplay(next.RuledSize());
     });
     if (bChanged) EndPreview();
     return bChanged;

@@ -57,18 +57,19 @@ class CEffectFlow {
   private:
     CRect PreviewBox() const;
     bool MakePreviewBase(CxImage& image) const;
-    bool ApplyEffect(CxImage& image, int nEffect, int nLevel, bool bFull);
+    bool Apply(CxImage& image, int nEffect, int nLevel) const;
     void ShowSelected(int nEffect);
     void ShowLevel(bool bHasLevel);
     void EndPreview();
     void RepaintPreview();
 
     CEnvironment m_env;
-    CImageEffect m_engine;
     CImageListBox m_list;
     int m_nEffectIndex = 0;
     int m_nEffectShown = -1;  // whose list picture is in its selected form; -1 for none
     int m_nEffectLevel = 0;
+    // The width of the display as the last preview had it; CONFIRM refers to it too.
+    int m_nRefWidth = 0;
     bool m_bNoEffectLevel = true;
     bool m_bEffectPending = false;
     CxImage m_imgEffectSmall;  // the preview as shown

@@ -43,7 +43,7 @@ CRandomSequence::CWords CRandomSequence::Words() const {
 // squaring.
 void CRandomSequence::Skip(std::uint64_t n) {
     CWords factors{1};
-    for (int nBit = std::bit_width(n) - 1; nBit >= 0; --nBit) {
+    for (int nBit = static_cast<int>(std::bit_width(n)) - 1; nBit >= 0; --nBit) {
         factors = Square(factors);
         if ((n >> nBit & 1) == 0) continue;
         const std::uint32_t nTop = factors[kWords - 1];

@@ -60,7 +60,8 @@ void UnmapLarge(const CLargeBlock&) {}
 // it outlives them all whatever the order in which a program ends.
 class CBlockStore {
   public:
-    CBlockStore() = default;
+    // Giving a block back must not need memory.
+    CBlockStore() { m_kept.reserve(kMaxKept); }
     CBlockStore(const CBlockStore&) = delete;
     CBlockStore& operator=(const CBlockStore&) = delete;
     ~CBlockStore() { Drop(0); }
@@ -156,8 +157,12 @@ bool CSharedBytes::Fits(std::uint64_t nSize) {
 bool CSharedBytes::Allocate(std::size_t nSize) {
     if (nSize == 0 || !Fits(nSize) || !CBlockGate::Admits(nSize)) return false;
     const std::size_t nWhole = nSize + kSlack;
-    std::shared_ptr<std::uint8_t> pBlock =
-        nWhole >= kLargeBlock ? AllocateLarge(nWhole) : AllocateSmall(nWhole);
+    std::shared_ptr<std::uint8_t> pBlock;
+    try {
+        pBlock = nWhole >= kLargeBlock ? AllocateLarge(nWhole) : AllocateSmall(nWhole);
+    } catch (const std::bad_alloc&) {
+        return false;  // there was no memory for the count of the owners
+    }
     if (!pBlock) return false;
     m_pBlock = std::move(pBlock);
     m_nSize = nSize;

@@ -189,11 +189,13 @@ int CScriptedPlatform::Run(CDialog& dialog) {
     return dialog.EndCode();
 }
 
-std::optional<CFileChoice> CScriptedPlatform::EnterFolderOf(const std::string& strPath) {
+// A name may be typed in a folder that is not there: the process then stays where it is, and the program
+// finds out.
+CFileChoice CScriptedPlatform::EnterFolderOf(const std::string& strPath) {
     const fs::path path(strPath);
-    if (SetCurrentFolder(path.parent_path().string())) return CFileChoice{strPath, path.filename().string()};
-    m_arrProblems.push_back({EProblem::Impossible, "there is no folder for \"" + strPath + '"'});
-    return std::nullopt;
+    std::error_code error;
+    fs::current_path(path.parent_path(), error);
+    return {strPath, path.filename().string()};
 }
 
 std::optional<CFileChoice> CScriptedPlatform::RunOpen(const CFileDialogRequest& request,

@@ -136,8 +136,7 @@ class CScriptedPlatform : private CMessageBoxes,
     CAsked& Ask(EQuestion question);
     bool MayDelete(bool bToBin, bool bAsk);
     bool DeleteOne(const std::string& strPath, bool bToBin) const;
-    // Nothing, and a problem, where no dialog could have gone.
-    std::optional<CFileChoice> EnterFolderOf(const std::string& strPath);
+    static CFileChoice EnterFolderOf(const std::string& strPath);
 
     EBoxAnswer Show(const CMessageBox& box) override;
     int Run(CDialog& dialog) override;

@@ -91,9 +91,8 @@ QImage RenderContactSheet(const CxImage& image) {
         const int y = kGap + nEffect / kColumns * (kPicture.height() + kGap + kCaption);
         CxImage work = ToEngine(base);
         CRandomSequence random;
-        CImageEffect engine(random);
         const int nLevel = CEffectSamples::LevelOf(nEffect);
-        if (!engine.ApplyEffect(work, nEffect, nLevel, false, base.width() * 2)) return {};
+        if (!ApplyEffect(work, EffectOf(nEffect), nLevel, base.width() * 2, random)) return {};
         painter.drawImage(x + (kPicture.width() - base.width()) / 2, y, FromEngine(work));
         QString strCaption = QString::number(nEffect) + "  " + QString::fromUtf8(row.szLabel);
         if (row.bHasLevel) strCaption += "  " + QString::number(nLevel);

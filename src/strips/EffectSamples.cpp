@@ -122,7 +122,6 @@ std::optional<QImage> CEffectSamples::Render(int nEffect, QSize size) {
     CxImage image = ToEngine(part);
     // Random numbers of its own: random effects come out the same whatever was rendered before.
     CRandomSequence random;
-    CImageEffect engine(random);
-    if (!engine.ApplyEffect(image, nEffect, look.nLevel, false, look.nRefWidth)) return std::nullopt;
+    if (!ApplyEffect(image, EffectOf(nEffect), look.nLevel, look.nRefWidth, random)) return std::nullopt;
     return FromEngine(image).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

@@ -84,11 +84,18 @@ class CFlood {
     static constexpr std::uint64_t kEnds = std::uint64_t{1} << (kBits - 1) | 1;
     static constexpr CWord kUnknown{~std::uint64_t{0}, ~std::uint64_t{0}, 0};
     using CRow = std::vector<CWord>;
-    // A word with pixels that wait, and which way to go on from there: 1 down, -1 up.
-    struct CStop {
-        int y;
-        int nWord : 30;
-        int nStep : 2;
+    // A word with pixels that wait, and which way to go on from there: 1 down, -1 up. Small, for there can be
+    // many.
+    class CStop {
+      public:
+        CStop(int y, int nWord, int nStep) : m_y(y), m_nWay(nWord * nStep) {}
+        int Row() const { return m_y; }
+        int Word() const { return m_nWay < 0 ? -m_nWay : m_nWay; }
+        int Step() const { return m_nWay < 0 ? -1 : 1; }
+
+      private:
+        int m_y;
+        int m_nWay;
     };
 
     // The words of a row, or of the one above the first or below the last. They count from 1; there is one
@@ -123,11 +130,11 @@ class CFlood {
 
     // Reaches the runs of open pixels that hold one that waits, and from there on row for row.
     void Follow(const CStop& stop) {
-        const int nWord = stop.nWord;
-        const int nStep = stop.nStep;
-        CWord* pRow = Reach(stop.y);
-        CWord* pBack = Reach(stop.y - nStep);
-        int y = stop.y;
+        const int nWord = stop.Word();
+        const int nStep = stop.Step();
+        CWord* pRow = Reach(stop.Row());
+        CWord* pBack = Reach(stop.Row() - nStep);
+        int y = stop.Row();
         // What the row behind has brought here: as long as no run goes on beside it, nothing behind is new.
         std::uint64_t nKnown = 0;
         for (std::uint64_t nSeeds = pRow[nWord].nWaiting & pRow[nWord].nOpen; nSeeds != 0; y += nStep) {
@@ -142,25 +149,25 @@ class CFlood {
             pRow = Reach(y + nStep);
             nSeeds = nKnown = nRuns & Open(pRow, y + nStep, nWord);
         }
-        if (y == stop.y) return;
+        if (y == stop.Row()) return;
         m_nFirst = std::min(m_nFirst, nWord);
         m_nLast = std::max(m_nLast, nWord);
-        m_nTop = std::min({m_nTop, stop.y, y - nStep});
-        m_nBottom = std::max({m_nBottom, stop.y, y - nStep});
+        m_nTop = std::min({m_nTop, stop.Row(), y - nStep});
+        m_nBottom = std::max({m_nBottom, stop.Row(), y - nStep});
     }
 
     // Lets the pixels beside these wait that lie in the next words.
     void LeaveBeside(CWord* pRow, const CStop& stop, std::uint64_t nPixels) {
         if ((nPixels & 1) != 0)
-            Leave(pRow, {stop.y, stop.nWord - 1, stop.nStep}, std::uint64_t{1} << (kBits - 1));
-        if (nPixels >> (kBits - 1) != 0) Leave(pRow, {stop.y, stop.nWord + 1, stop.nStep}, 1);
+            Leave(pRow, {stop.Row(), stop.Word() - 1, stop.Step()}, std::uint64_t{1} << (kBits - 1));
+        if (nPixels >> (kBits - 1) != 0) Leave(pRow, {stop.Row(), stop.Word() + 1, stop.Step()}, 1);
     }
 
     // Lets those of the pixels wait that are open.
     void Leave(CWord* pRow, const CStop& stop, std::uint64_t nPixels) {
-        const std::uint64_t nOpen = Open(pRow, stop.y, stop.nWord);
+        const std::uint64_t nOpen = Open(pRow, stop.Row(), stop.Word());
         if ((nPixels & nOpen) == 0) return;
-        CWord& word = pRow[stop.nWord];
+        CWord& word = pRow[stop.Word()];
         if ((word.nWaiting & nOpen) == 0) m_arrStops.push_back(stop);
         word.nWaiting |= nPixels;
     }

@@ -44,8 +44,9 @@ QImage LookAtPreview(const CPerson& person) {
 
 // What the list's samples show, but for tiles and blocks, which are small on a preview of a large picture.
 int LevelOf(int nEffect) {
-    return nEffect == kTile || nEffect == kLaminate ? kEffects[static_cast<std::size_t>(nEffect)].nMax - 1
-                                                    : CEffectSamples::LevelOf(nEffect);
+    const EEffect effect = EffectOf(nEffect);
+    const bool bSmall = effect == EEffect::Tile || effect == EEffect::Laminate;
+    return bSmall ? RowOf(effect).nMax - 1 : CEffectSamples::LevelOf(nEffect);
 }
 
 void ClickRow(CPerson& person, int nRow) {
@@ -109,7 +110,8 @@ void AddEffect(std::vector<CTourStep>& steps, int nEffect, const std::shared_ptr
     steps.push_back({QStringLiteral("effect-%1").arg(nEffect, 2, 10, QLatin1Char('0')), strTells,
                      [nEffect, nLevel, pSeen](CPerson& person) {
                          ClickRow(person, nEffect);
-                         if (nEffect == kBrightness) pSeen->imageUntouched = LookAtPreview(person);
+                         if (nEffect == NumberOf(EEffect::Brightness))
+                             pSeen->imageUntouched = LookAtPreview(person);
                          const CControl& slider = SliderOf(person);
                          if (slider.bShown) DragTo(person, slider.nMin < 0 ? -nLevel : slider.nMax - nLevel);
                      },
@@ -131,7 +133,7 @@ void AddConfirm(std::vector<CTourStep>& steps, const std::shared_ptr<CSeen>& pSe
         {"level-top", "Brightness: the thumb at the top is level 100",
          [pSeen](CPerson& person) {
              pSeen->imageBefore = person.LookAt(kCanvas);
-             ClickRow(person, kBrightness);
+             ClickRow(person, NumberOf(EEffect::Brightness));
              DragTo(person, -100);
          },
          [pSeen](CPerson& person) {
@@ -162,15 +164,15 @@ void AddConfirm(std::vector<CTourStep>& steps, const std::shared_ptr<CSeen>& pSe
 void AddCancel(std::vector<CTourStep>& steps, const std::shared_ptr<CSeen>& pSeen) {
     steps.push_back({"keys", "Arrow keys move through the list from effect to effect",
                      [](CPerson& person) {
-                         ClickRow(person, kCrystalFrame);
+                         ClickRow(person, NumberOf(EEffect::CrystalFrame));
                          for (int i = 0; i < 2; ++i) person.Key(Qt::Key_Down);
                      },
-                     [](CPerson& person) { return CheckLit(person, kOilPainting); }});
+                     [](CPerson& person) { return CheckLit(person, NumberOf(EEffect::OilPainting)); }});
     steps.push_back({"cancel", "CANCEL: nothing has happened", [](CPerson& person) { person.Click(kCancel); },
                      [pSeen](CPerson& person) {
                          if (Differs(person.LookAt(kCanvas), pSeen->imageBefore))
                              return QStringLiteral("the picture has changed");
-                         const QString strLit = CheckLit(person, kOilPainting);
+                         const QString strLit = CheckLit(person, NumberOf(EEffect::OilPainting));
                          return strLit.isEmpty() ? CheckPending(person, false) : strLit;
                      }});
 }

@@ -7,8 +7,8 @@
 // Fixed tables from which dialogs and menus are built. The tables themselves live in src/resources/.
 
 struct CControlTemplate {
-    int nId;
-    EControlKind kind;
+    int nId = 0;
+    EControlKind kind = EControlKind::Static;
     CRect rcPlace;  // client pixels
     const char* szCaption = "";
     bool bShown = true;
@@ -17,7 +17,7 @@ struct CControlTemplate {
 };
 
 struct CControlLookRow {
-    int nId;
+    int nId = 0;
     CControlLook look;
 };
 

@@ -18,12 +18,12 @@ struct CEffectJob {
     std::optional<std::uint32_t> nSeed;
 };
 
-CVerbResult WrongCall(const std::string& strError) {
+CWorkResult WrongCall(const std::string& strError) {
     return {kWrongCall, strError};
 }
 
 // Takes the words from `words` that begin with --, with the number behind each; the others go to arrPlain.
-CVerbResult TakeOptions(std::span<const std::string> words, CEffectJob& job, CWords& arrPlain) {
+CWorkResult TakeOptions(std::span<const std::string> words, CEffectJob& job, CWorkWords& arrPlain) {
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::string& strWord = words[i];
         if (!strWord.starts_with("--")) {
@@ -45,9 +45,9 @@ CVerbResult TakeOptions(std::span<const std::string> words, CEffectJob& job, CWo
     return {};
 }
 
-CVerbResult ReadJob(std::span<const std::string> words, CEffectJob& job) {
-    CWords arrPlain;
-    CVerbResult options = TakeOptions(words, job, arrPlain);
+CWorkResult ReadJob(std::span<const std::string> words, CEffectJob& job) {
+    CWorkWords arrPlain;
+    CWorkResult options = TakeOptions(words, job, arrPlain);
     if (options.nStatus != kDone) return options;
     if (arrPlain.size() != 4) return WrongCall("it is effect ID LEVEL IN.ppm OUT.ppm");
     const std::optional<long long> nEffect = ParseNumber(arrPlain[0], 0, kEffectCount - 1);
@@ -61,24 +61,23 @@ CVerbResult ReadJob(std::span<const std::string> words, CEffectJob& job) {
     return {};
 }
 
-CVerbResult CannotBeDone(const std::string& strError) {
+CWorkResult CannotBeDone(const std::string& strError) {
     return {kCannotBeDone, strError};
 }
 
 }  // namespace
 
-CVerbResult RunEffectVerb(std::span<const std::string> words) {
+CWorkResult RunEffectVerb(std::span<const std::string> words) {
     CEffectJob job;
-    CVerbResult call = ReadJob(words, job);
+    CWorkResult call = ReadJob(words, job);
     if (call.nStatus != kDone) return call;
     CPpmPicture picture = ReadPpm(job.strIn);
     if (!picture.strError.empty()) return CannotBeDone(job.strIn + " " + picture.strError);
     CxImage image(std::move(picture.pixels));
     CRandomSequence random;
     if (job.nSeed) random.Seed(*job.nSeed);
-    CImageEffect engine(random);
     const int nFullWidth = job.nFullWidth > 0 ? job.nFullWidth : image.GetWidth();
-    if (!engine.ApplyEffect(image, job.nEffect, job.nLevel, false, nFullWidth))
+    if (!ApplyEffect(image, EffectOf(job.nEffect), job.nLevel, nFullWidth, random))
         return CannotBeDone("there is no memory for " + job.strIn);
     if (!WritePpm(job.strOut, image.Pixels())) return CannotBeDone(job.strOut + " cannot be written");
     return {};

@@ -6,7 +6,7 @@
 #include "surface/figures/Figures.h"
 #include "workbench/Verbs.h"
 
-CVerbResult RunFiguresVerb(std::span<const std::string> words) {
+CWorkResult RunFiguresVerb(std::span<const std::string> words) {
     if (words.size() != 2) return {kWrongCall, "it is figures CASES OUT"};
     std::ifstream in(words[0]);
     if (!in) return {kCannotBeDone, words[0] + " cannot be read"};

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr CVerb kVerbs[] = {
+constexpr CWorkVerb kVerbs[] = {
     {"effect", "ID LEVEL IN.ppm OUT.ppm [--full-width N] [--seed N]",
      "    Applies the effect ID at LEVEL to a binary PPM. An effect without a level takes any number for "
      "it.\n"
@@ -30,7 +30,7 @@ constexpr CVerb kVerbs[] = {
 
 }  // namespace
 
-std::span<const CVerb> AllVerbs() {
+std::span<const CWorkVerb> AllVerbs() {
     return kVerbs;
 }
 

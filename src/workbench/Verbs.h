@@ -6,25 +6,25 @@
 
 #include "workbench/Workbench.h"
 
-struct CVerbResult {
+struct CWorkResult {
     int nStatus = kDone;
     std::string strError;  // empty if it was done
 };
 
 // A verb is one function over its words and a line in Verbs.cpp.
-struct CVerb {
+struct CWorkVerb {
     const char* szName;
     const char* szWords;  // what stands behind the name
     const char* szHelp;   // lines of help, each with its end
-    CVerbResult (*run)(std::span<const std::string> words);
+    CWorkResult (*run)(std::span<const std::string> words);
 };
 
-std::span<const CVerb> AllVerbs();
+std::span<const CWorkVerb> AllVerbs();
 
 // A whole number from nMin to nMax, or nothing for any other text.
 std::optional<long long> ParseNumber(const std::string& strWord, long long nMin, long long nMax);
 
-CVerbResult RunEffectVerb(std::span<const std::string> words);
-CVerbResult RunFiguresVerb(std::span<const std::string> words);
+CWorkResult RunEffectVerb(std::span<const std::string> words);
+CWorkResult RunFiguresVerb(std::span<const std::string> words);
 // Lines that name the effects with their numbers and levels.
 std::string EffectList();

@@ -14,6 +14,7 @@ constexpr std::string_view kBlank = "       ";
 class EffectFlowTest : public Workshop {
   protected:
     void Choose(int nEffect) { EXPECT_EQ(m_host.SelectRow(kEffectList, nEffect), ""); }
+    void Choose(EEffect effect) { Choose(NumberOf(effect)); }
     void Slide(int nPos) { EXPECT_EQ(m_host.MoveSlider(kEffectSlider, nPos), ""); }
     void Seed(unsigned nSeed) {
         m_dialog.Seed(nSeed);
@@ -28,9 +29,10 @@ class EffectFlowTest : public Workshop {
     const CPixels& Work() const { return Images().m_imgWork.Pixels(); }
 
     // What the engine makes of these pixels; its random sequence goes on from call to call.
-    CPixels Engine(const CPixels& pixels, int nEffect, int nLevel, bool bFull) {
+    CPixels Engine(const CPixels& pixels, EEffect effect, int nLevel, bool bFull) {
         CxImage image(pixels);
-        EXPECT_TRUE(m_engine.ApplyEffect(image, nEffect, nLevel, bFull, Images().m_nDispWidth));
+        if (!bFull) m_nRefWidth = Images().m_nDispWidth;
+        EXPECT_TRUE(ApplyEffect(image, effect, nLevel, m_nRefWidth, m_random));
         return image.Pixels();
     }
     CPixels SmallWork(CSize size) const { return NaiveResample(Work(), size.cx, size.cy); }
@@ -57,7 +59,7 @@ class EffectFlowTest : public Workshop {
     CColor WindowPixel(int x, int y) { return m_dialog.Client().Surface().GetPixel(x, y); }
 
     CRandomSequence m_random;
-    CImageEffect m_engine{m_random};
+    int m_nRefWidth = 0;
 };
 
 }  // namespace
@@ -74,7 +76,7 @@ TEST_F(EffectFlowTest, ThePreviewsSize) {
     for (const CCase& c : kCases) EXPECT_EQ(CEffectFlow::PreviewSize(c.picture), c.preview) << c.picture.cx;
     // What is thinner than a line of the preview keeps one line.
     OpenNumbered(4000, 3);
-    Choose(kNegative);
+    Choose(EEffect::Negative);
     EXPECT_EQ(CSize({Preview().Width(), Preview().Height()}), (CSize{158, 1}));
 }
 
@@ -109,7 +111,8 @@ TEST_F(EffectFlowTest, AChoiceSetsUpEverything) {
         ExpectLit(n);
         EXPECT_TRUE(m_dialog.Effects().IsPending());
         EXPECT_EQ(Controls().Focus(), kEffectList);
-        EXPECT_EQ(Preview(), Engine(SmallWork({158, 105}), n, 0, false)) << "from the picture, at level 0";
+        EXPECT_EQ(Preview(), Engine(SmallWork({158, 105}), EffectOf(n), 0, false))
+            << "from the picture, at level 0";
         if (HasFailure()) return;
     }
     EXPECT_EQ(Work(), before.work);
@@ -120,13 +123,15 @@ TEST_F(EffectFlowTest, TheSliderStartsFromTheUntouchedPreview) {
     OpenNumbered(300, 200);
     Click(kCmdLarge);  // the tiles' measure is the width as shown
     ASSERT_NE(Images().m_nDispWidth, 300);
-    for (const int n :
-         {kBrightness, kSharpness, kPureBlackWhite, kOilPainting, kTile, kLaminate, kRefraction1}) {
+    for (const EEffect effect :
+         {EEffect::Brightness, EEffect::Sharpness, EEffect::PureBlackWhite, EEffect::OilPainting,
+          EEffect::Tile, EEffect::Laminate, EEffect::Refraction1}) {
+        const int n = NumberOf(effect);
         SCOPED_TRACE("effect " + std::to_string(n));
         Seed(3);
         Choose(n);
         const CPixels small = SmallWork({158, 105});
-        Engine(small, n, 0, false);
+        Engine(small, EffectOf(n), 0, false);
         const CEffectRow& row = kEffects[static_cast<std::size_t>(n)];
         for (const int nPos : {row.nMin, (row.nMin + row.nMax) / 2 + 1, row.nStart - 1}) {
             const int nLevel = CEffectFlow::LevelOf(row.nMin, row.nMax, nPos);
@@ -134,7 +139,7 @@ TEST_F(EffectFlowTest, TheSliderStartsFromTheUntouchedPreview) {
             Slide(nPos);
             EXPECT_EQ(m_dialog.Effects().Level(), nLevel);
             EXPECT_EQ(Controls().Text(kEffectLevel), std::to_string(nLevel));
-            EXPECT_EQ(Preview(), Engine(small, n, nLevel, false));
+            EXPECT_EQ(Preview(), Engine(small, EffectOf(n), nLevel, false));
             EXPECT_FALSE(Controls().IsEnabled(kCmdReset));
             EXPECT_EQ(Controls().Focus(), kEffectList);
         }
@@ -144,12 +149,12 @@ TEST_F(EffectFlowTest, TheSliderStartsFromTheUntouchedPreview) {
 TEST_F(EffectFlowTest, ThePreviewStandsInTheMiddleOfItsBox) {
     constexpr CRect kBox = CRect::FromPlace(64, 476, 158, 122);
     OpenNumbered(1000, 90);
-    Choose(kNegative);
+    Choose(EEffect::Negative);
     ASSERT_EQ(Preview().Height(), 14);
     EXPECT_EQ(WindowPixel(kBox.left, kBox.top + 61 - 7), PixelAt(Preview(), 0, 0));
     EXPECT_EQ(WindowPixel(kBox.right - 1, kBox.top + 61 + 6), PixelAt(Preview(), 157, 13));
     // A slider's move draws the box and nothing beside it.
-    Choose(kBrightness);
+    Choose(EEffect::Brightness);
     m_dialog.Client().TakeDamage();
     const int nPaints = m_host.PaintCount();
     Slide(-40);
@@ -161,7 +166,7 @@ TEST_F(EffectFlowTest, ThePreviewStandsInTheMiddleOfItsBox) {
     OpenNumbered(130, 125);
     const CColor crAbove = WindowPixel(kBox.left + 5, kBox.top - 1);
     const CColor crBelow = WindowPixel(kBox.left + 5, kBox.bottom);
-    Choose(kNegative);
+    Choose(EEffect::Negative);
     ASSERT_EQ(Preview().Height(), 151);
     EXPECT_EQ(WindowPixel(kBox.left, kBox.top), PixelAt(Preview(), 0, 14));
     EXPECT_EQ(WindowPixel(kBox.left, kBox.bottom - 1), PixelAt(Preview(), 0, 14 + 121));
@@ -179,14 +184,14 @@ TEST_F(EffectFlowTest, ConfirmRunsEachEffectOnThePictureItself) {
         const CSnapshot before = Snapshot();
         Choose(n);
         CPixels small = SmallWork({158, 106});
-        Engine(small, n, 0, false);
+        Engine(small, EffectOf(n), 0, false);
         const int nLevel = row.bHasLevel ? (row.nMax - row.nMin) / 5 : 0;
         if (row.bHasLevel) {
             Slide(PositionOf(nLevel));
-            Engine(small, n, nLevel, false);
+            Engine(small, EffectOf(n), nLevel, false);
         }
         Click(kConfirm);
-        EXPECT_EQ(Work(), Engine(before.work, n, nLevel, true));
+        EXPECT_EQ(Work(), Engine(before.work, EffectOf(n), nLevel, true));
         const CSize size = Images().DisplaySize();
         EXPECT_EQ(Images().m_imgDisplay.Pixels(), NaiveResample(Work(), size.cx, size.cy));
         EXPECT_EQ(Undos(), before.nUndo + 1);
@@ -209,30 +214,30 @@ TEST_F(EffectFlowTest, ConfirmBringsTheCommandsBack) {
     GoTo(EMode::Effect);
     CSnapshot before = Snapshot();
     ASSERT_TRUE(Controls().IsEnabled(kCmdUndo) && Controls().IsEnabled(kCmdRedo));
-    Choose(kNegative);
+    Choose(EEffect::Negative);
     Click(kConfirm);
     EXPECT_EQ(Undos(), before.nUndo + 1);
     EXPECT_EQ(Redos(), 0) << "a new step ends the way forward";
     std::erase(before.arrEnabled, kCmdRedo);
     EXPECT_EQ(Snapshot().arrEnabled, before.arrEnabled);
     // The list tells changes only: the same effect again takes the way over another.
-    Choose(kNegative);
+    Choose(EEffect::Negative);
     EXPECT_FALSE(m_dialog.Effects().IsPending());
-    Choose(kArt);
-    Choose(kNegative);
+    Choose(EEffect::Art);
+    Choose(EEffect::Negative);
     EXPECT_TRUE(m_dialog.Effects().IsPending());
 }
 
 TEST_F(EffectFlowTest, ConfirmAtLevelZeroAndInThePhonesSize) {
     OpenNumbered(60, 40);
-    Choose(kBrightness);
+    Choose(EEffect::Brightness);
     Click(kConfirm);
     EXPECT_EQ(Undos(), 1) << "a step all the same";
     EXPECT_EQ(Work(), NumberedPixels(60, 40));
     GoTo(EMode::Stick);
     Click(kRadioPhoneSize);
     GoTo(EMode::Effect);
-    Choose(kNegative);
+    Choose(EEffect::Negative);
     Click(kConfirm);
     EXPECT_EQ(Images().m_imgDisplay.Pixels(), NaiveResample(Work(), 176, 144));
     EXPECT_EQ(Images().m_imgWork.GetSize(), (CSize{60, 40}));
@@ -246,12 +251,12 @@ TEST_F(EffectFlowTest, CancelLeavesAllAsItWas) {
     GoTo(EMode::Effect);
     CSnapshot before = Snapshot();
     ASSERT_EQ(before.nRedo, 1);
-    Choose(kTile);
+    Choose(EEffect::Tile);
     Slide(4);
     Click(kCancel);
     ExpectNoPreview();
     ExpectSliderAtRest();
-    ExpectLit(kTile);
+    ExpectLit(NumberOf(EEffect::Tile));
     // Box and readout go with the preview.
     std::erase(before.arrShown, kEffectPreview);
     std::erase(before.arrShown, kEffectLevel);
@@ -267,7 +272,7 @@ TEST_F(EffectFlowTest, AModeSwitchDropsThePreview) {
         GoTo(nMode);
         const CSnapshot wanted = Snapshot();
         GoTo(EMode::Effect);
-        Choose(kSharpness);
+        Choose(EEffect::Sharpness);
         Slide(-4);
         GoTo(nMode);
         CSnapshot now = Snapshot();
@@ -281,21 +286,21 @@ TEST_F(EffectFlowTest, AModeSwitchDropsThePreview) {
         GoTo(EMode::Effect);
         ExpectNoPreview();
         ExpectSliderAtRest();
-        ExpectLit(kSharpness);
-        Choose(kArt);
+        ExpectLit(NumberOf(EEffect::Sharpness));
+        Choose(EEffect::Art);
         EXPECT_TRUE(m_dialog.Effects().IsPending());
     }
 }
 
 TEST_F(EffectFlowTest, AnotherChoiceStartsFromThePictureAgain) {
     OpenNumbered(300, 200);
-    Choose(kBrightness);
+    Choose(EEffect::Brightness);
     Slide(-90);
-    Choose(kContrast);
+    Choose(EEffect::Contrast);
     EXPECT_EQ(m_dialog.Effects().Level(), 0);
     EXPECT_EQ(Controls().Text(kEffectLevel), "0");
-    EXPECT_EQ(Preview(), Engine(SmallWork({158, 105}), kContrast, 0, false));
-    ExpectLit(kContrast);
+    EXPECT_EQ(Preview(), Engine(SmallWork({158, 105}), EEffect::Contrast, 0, false));
+    ExpectLit(NumberOf(EEffect::Contrast));
 }
 
 TEST_F(EffectFlowTest, CtrlZUndoesUnderAPreview) {
@@ -303,7 +308,7 @@ TEST_F(EffectFlowTest, CtrlZUndoesUnderAPreview) {
     Edit(77);
     Edit(78);
     GoTo(EMode::Effect);
-    Choose(kNegative);
+    Choose(EEffect::Negative);
     EXPECT_TRUE(CtrlKey('Z'));
     EXPECT_FALSE(Controls().IsEnabled(kCmdUndo)) << "a step that is left lights nothing";
     EXPECT_TRUE(Controls().IsEnabled(kCmdRedo)) << "the one that has come does";
@@ -312,8 +317,8 @@ TEST_F(EffectFlowTest, CtrlZUndoesUnderAPreview) {
     EXPECT_TRUE(CtrlKey('Y'));
     EXPECT_TRUE(Controls().IsEnabled(kCmdUndo)) << "a push is a push in THUM too";
     GoTo(EMode::Effect);
-    Choose(kArt);
-    Choose(kNegative);
+    Choose(EEffect::Art);
+    Choose(EEffect::Negative);
     const CPixels preview = Preview();
     EXPECT_TRUE(CtrlKey('Z'));
     EXPECT_EQ(Work(), NumberedPixels(60, 40));
@@ -321,7 +326,8 @@ TEST_F(EffectFlowTest, CtrlZUndoesUnderAPreview) {
     EXPECT_EQ(Preview(), preview) << "the preview stays as it was";
     EXPECT_EQ(Redos(), 2);
     Click(kConfirm);
-    EXPECT_EQ(Work(), Engine(NumberedPixels(60, 40), kNegative, 0, true)) << "what is there is changed";
+    EXPECT_EQ(Work(), Engine(NumberedPixels(60, 40), EEffect::Negative, 0, true))
+        << "what is there is changed";
     EXPECT_EQ(Redos(), 0);
 }
 
@@ -337,14 +343,14 @@ TEST_F(EffectFlowTest, WithoutAPictureAChoiceIsTheListsOwn) {
 
 TEST_F(EffectFlowTest, ANewPictureDropsThePreviewOfTheOld) {
     OpenNumbered(60, 40);
-    Choose(kBrightness);
+    Choose(EEffect::Brightness);
     OpenNumbered(50, 70);
     ExpectNoPreview();
     ExpectSliderAtRest();
     for (const int nId : {kCmdNew, kCmdSave, kCmdReset, kCmdLarge})
         EXPECT_TRUE(Controls().IsEnabled(nId)) << nId;
-    Choose(kNegative);
-    EXPECT_EQ(Preview(), Engine(SmallWork({158, 122}), kNegative, 0, false));
+    Choose(EEffect::Negative);
+    EXPECT_EQ(Preview(), Engine(SmallWork({158, 122}), EEffect::Negative, 0, false));
 }
 
 // What swaps a frame would not know of the effect; it also must not know of one that was only looked at.
@@ -353,7 +359,7 @@ TEST_F(EffectFlowTest, AFrameCanNoLongerBeSwappedBehindAPreview) {
     for (const int nButton : {kConfirm, kCancel}) {
         bool& bFrameOn = const_cast<CWorkingImages&>(Images()).m_bFrameOn;
         bFrameOn = true;
-        Choose(nButton == kConfirm ? kNegative : kArt);
+        Choose(nButton == kConfirm ? EEffect::Negative : EEffect::Art);
         EXPECT_TRUE(bFrameOn);
         Click(nButton);
         EXPECT_FALSE(bFrameOn) << nButton;
@@ -368,9 +374,9 @@ TEST_F(EffectFlowTest, TheWaitCursorComesWithAChoiceAndWithConfirm) {
         fnStep();
         return m_platform.WaitCount() > nBefore;
     };
-    EXPECT_TRUE(Waits([&] { Choose(kBrightness); }));
+    EXPECT_TRUE(Waits([&] { Choose(EEffect::Brightness); }));
     EXPECT_FALSE(Waits([&] { Slide(-30); }));
     EXPECT_TRUE(Waits([&] { Click(kConfirm); }));
-    Choose(kContrast);
+    Choose(EEffect::Contrast);
     EXPECT_FALSE(Waits([&] { Click(kCancel); }));
 }

@@ -154,7 +154,9 @@ TEST_F(NoMemoryTest, Open) {
 
 TEST_F(NoMemoryTest, Effects) {
     OpenPicture();
-    for (const int nEffect : {int{kBrightness}, int{kArt}, int{kOilPainting}, int{kTile}, int{kHaze1}}) {
+    for (const int nEffect :
+         {NumberOf(EEffect::Brightness), NumberOf(EEffect::Art), NumberOf(EEffect::OilPainting),
+          NumberOf(EEffect::Tile), NumberOf(EEffect::Haze1)}) {
         Try("choice", [&] {
             Controls().Select(kEffectList, -1);
             Controls().Select(kEffectList, nEffect);

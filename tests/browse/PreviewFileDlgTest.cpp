@@ -100,26 +100,21 @@ TEST_F(PreviewFileDlg, StaysEmptyBehindItsOnePaint) {
     EXPECT_EQ(Painted().GetPixel(60, 60), (CColor{0, 200, 0}));
 }
 
-TEST_F(PreviewFileDlg, LeavesTheLastPictureForOtherKinds) {
-    m_dialog.OnFileNameChange(Save("a.png", FlatImage(100, 200, {200, 0, 0})));
+TEST_F(PreviewFileDlg, ShowsNothingNewForWhatIsNoPicture) {
+    const std::string strBad = m_folder.Write("bad.jpg", "no picture at all");
+    m_dialog.OnFileNameChange(strBad);
+    EXPECT_FALSE(IsShown());
+    // The same path is tried again, and opens once it can; other kinds leave it.
+    Save("bad.jpg", FlatImage(100, 200, {200, 0, 0}));
     for (const std::string& strPath :
-         {m_folder.Path(), m_folder.Write("a.txt", "words"), m_folder.Path("none"), std::string()}) {
+         {strBad, m_folder.Path(), m_folder.Write("a.txt", "words"), m_folder.Path("none"), std::string()}) {
         m_dialog.OnFileNameChange(strPath);
         EXPECT_TRUE(IsShown());
     }
     EXPECT_EQ(PaintedBox(), CRect::FromPlace(28, 3, 68, 136));
-}
-
-TEST_F(PreviewFileDlg, ShowsNothingNewForAPictureThatCannotBeRead) {
-    const std::string strBad = m_folder.Write("bad.jpg", "no picture at all");
-    m_dialog.OnFileNameChange(strBad);
-    EXPECT_FALSE(IsShown());
-    // The same path is tried again, and opens once it can.
-    Save("bad.jpg", FlatImage(100, 200, {200, 0, 0}));
-    m_dialog.OnFileNameChange(strBad);
-    EXPECT_TRUE(IsShown());
+    // Of a picture that cannot be read the one that waited is gone, the view stays.
+    m_dialog.OnFileNameChange(Save("c.png", FlatImage(100, 200, {200, 0, 0})));
     m_dialog.OnFileNameChange(m_folder.Write("worse.jpg", "nor this"));
-    // The picture that waited is gone, the view stays.
     EXPECT_TRUE(IsShown());
     EXPECT_TRUE(PaintedBox().IsEmpty());
 }

@@ -41,51 +41,31 @@ class Files : public CFolderTest {
 };
 
 TEST_F(Files, TheNameAloneTellsTheType) {
-    const auto typeOf = [](std::string_view strName) {
-        return static_cast<int>(FindImageTypeOfName(strName));
-    };
-    const char* const kNames[] = {"",    "bmp",  "gif", "jpg", "png", "ico", "tif", "tga",
-                                  "pcx", "wbmp", "emf", "j2k", "j2c", "pgx", "pgm", "ras"};
-    for (int i = 1; i <= 15; ++i) EXPECT_EQ(typeOf(std::string("a.") + kNames[i]), i);
     for (const char* const szName :
-         {"jpeg", ".jpg", "archive.tar.jpg", "photo.JPG", "\xE7\x85\xA7\xE7\x89\x87.Jpeg"}) {
-        EXPECT_EQ(typeOf(std::string("x.") + szName), 3) << szName;
-    }
-    for (const char* const szName :
-         {"", "jpg", "a.", "a.jpg.", "a.jpg ", "a.txt", "a.jpge", "a.b/photo", "a.jpg\n"}) {
-        EXPECT_EQ(typeOf(szName), 0) << szName;
-    }
+         {"a.jpeg", "a..jpg", "archive.tar.jpg", "photo.JPG", "\xE7\x85\xA7\xE7\x89\x87.Jpeg"})
+        EXPECT_EQ(FindImageTypeOfName(szName), ImageType::kJpeg) << szName;
+    for (const char* const szName : {"", "jpg", "a.", "a.jpg.", "a.jpg ", "a.jpge", "a.b/photo", "a.jpg\n"})
+        EXPECT_EQ(FindImageTypeOfName(szName), ImageType::kUnknown) << szName;
     EXPECT_EQ(FindImageType("JPG"), ImageType::kUnknown) << "the caller lowers the case";
     EXPECT_EQ(GetFileExtension("C:\\a.b\\photo"), "b\\photo");
-    EXPECT_EQ(GetFileExtension("photo.JPG"), "JPG");
 }
 
 TEST_F(Files, WhatIsNoPictureIsNotValid) {
     WriteText(Path("empty.jpg"), "");
-    WriteText(Path("text.bmp"), "This is a letter and no picture, though it is called one.");
     ASSERT_TRUE(SmoothPicture(9, 9).Save(Path("png.jpg"), ImageType::kPng));
     ASSERT_TRUE(SmoothPicture(9, 9).Save(Path("jpg.png"), ImageType::kJpeg));
-    std::filesystem::create_directory(Path("folder.jpg"));
     ASSERT_EQ(mkfifo(Path("pipe.jpg").c_str(), 0600), 0);
-    std::filesystem::create_symlink(Path("nowhere"), Path("link.jpg"));
     for (const std::string& strName : Listing()) EXPECT_FALSE(Opens(Path(strName))) << strName;
     EXPECT_FALSE(Opens(Path("missing.jpg")));
-    EXPECT_FALSE(Opens(""));
     EXPECT_FALSE(Opens(Path(std::string("png.jpg") + '\0' + ".jpg")));
-    EXPECT_FALSE(CxImage(Path("png.jpg"), ImageType::kUnknown).IsValid());
+    EXPECT_FALSE(LoadPicture(Path("png.jpg"), ImageType::kUnknown).IsValid());
 }
 
 TEST_F(Files, HugeClaimsOfOtherFormatsAreRefused) {
     WriteText(Path("a.ppm"), "P6 65500 65500 255\n" + std::string(3000, 'x'));
-    Bytes bmp(54 + 3000);
-    bmp[0] = 'B';
-    bmp[1] = 'M';
-    bmp[10] = 54;
-    bmp[14] = 40;
-    bmp[18] = bmp[22] = 0xDC;
-    bmp[19] = bmp[23] = 0xFF;
-    bmp[26] = 1;
-    bmp[28] = 24;
+    Bytes bmp = {'B', 'M', 0, 0,    0,    0, 0, 0,    0,    0, 54, 0, 0, 0, 40,
+                 0,   0,   0, 0xDC, 0xFF, 0, 0, 0xDC, 0xFF, 0, 0,  1, 0, 24};
+    bmp.resize(54 + 3000);
     WriteBytes(Path("a.bmp"), bmp);
     EXPECT_FALSE(Opens(Path("a.ppm")));
     EXPECT_FALSE(Opens(Path("a.bmp")));
@@ -93,9 +73,8 @@ TEST_F(Files, HugeClaimsOfOtherFormatsAreRefused) {
 
 TEST_F(Files, NamesMayHoldAnything) {
     const CxImage picture = SmoothPicture(12, 9);
-    for (const char* const szName :
-         {"\xE7\x85\xA7 \xE7\x89\x87.jpg", "a 'b' \"c\" `d` $e;.jpg", "line\nbreak.jpg", "%s%d@~*?[.jpg",
-          "-rf.jpg", "png:x.jpg", "\xFF\xFE.jpg"}) {
+    for (const char* const szName : {"\xE7\x85\xA7 \xE7\x89\x87.jpg", "a 'b' `d` $e;\n%s%d@~*?[.jpg",
+                                     "-rf.jpg", "png:x.jpg", "\xFF\xFE.jpg"}) {
         ASSERT_TRUE(picture.Save(Path(szName), ImageType::kJpeg)) << szName;
         EXPECT_TRUE(Opens(Path(szName))) << szName;
     }
@@ -109,11 +88,15 @@ TEST_F(Files, ASaveThatFailsLeavesEverythingAsItWas) {
     const CxImage large = SmoothPicture(900, 700);
     const std::string strPath = Path("old.jpg");
     ASSERT_TRUE(old.Save(strPath, ImageType::kJpeg));
-    const Bytes file = ReadBytes(strPath);
+    const Bytes file = BytesOf(strPath);
     std::filesystem::create_directory(Path("folder.jpg"));
     ASSERT_EQ(mkfifo(Path("pipe.jpg").c_str(), 0600), 0);
     std::filesystem::create_symlink("ring.jpg", Path("ring.jpg"));
-    const std::vector<std::string> names = Listing();
+    const std::set<std::string> names = Listing();
+    const auto OpenFiles = [] {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    };
+    const auto nOpenFiles = OpenFiles();
 
     for (const ImageType type : {ImageType::kJpeg, ImageType::kPng, ImageType::kBmp}) {
         const CFullDisk disk(2000);
@@ -130,8 +113,9 @@ TEST_F(Files, ASaveThatFailsLeavesEverythingAsItWas) {
     EXPECT_FALSE(large.Save(Path("folder.jpg/"), ImageType::kJpeg));
     EXPECT_FALSE(large.Save("", ImageType::kJpeg));
 
-    EXPECT_EQ(ReadBytes(strPath), file);
+    EXPECT_EQ(BytesOf(strPath), file);
     EXPECT_EQ(Listing(), names) << "no temporary file is left behind";
+    EXPECT_EQ(OpenFiles(), nOpenFiles);
     EXPECT_TRUE(large.Save(strPath, ImageType::kJpeg));
     EXPECT_EQ(Listing(), names);
 }

@@ -61,7 +61,7 @@ TEST_F(Formats, EveryTypeOfTheTableComesBack) {
         }
 
         // Cut files, from the header to the last quarter.
-        const Bytes file = ReadBytes(strPath);
+        const Bytes file = BytesOf(strPath);
         for (std::size_t n = 0; n <= file.size() * 3 / 4; n += file.size() / 16 + 1) {
             WriteBytes(strPath, std::span(file).first(n));
             EXPECT_FALSE(CxImage(strPath, format.type).IsValid()) << n << " of " << file.size();
@@ -101,7 +101,7 @@ TEST_F(Formats, WhatCannotBeWrittenOrReadFails) {
     EXPECT_FALSE(SmoothPicture(300, 300).Save(Path("p"), ImageType::kIco))
         << "an icon has at most 256 by 256";
     EXPECT_FALSE(SmoothPicture(65501, 1).Save(Path("p"), ImageType::kJpeg));
-    EXPECT_EQ(Listing(), std::vector<std::string>());
+    EXPECT_TRUE(Listing().empty());
 }
 
 // A red box on a page of 200 by 100 pixels at 72 to the inch; the decoder shows the part that is drawn on.
@@ -123,12 +123,9 @@ TEST_F(Formats, MetafilesAreReadAndNeverWritten) {
     WriteBytes(Path("a.wmf"), std::span(kMetafile).first(60));
     EXPECT_FALSE(Load("a.wmf").IsValid());
 
-    Bytes enhanced(200);
-    enhanced[0] = 1;
-    std::copy_n(" EMF", 4, enhanced.begin() + 40);
-    WriteBytes(Path("a.emf"), enhanced);
+    std::filesystem::copy_file(Path("a.wmf"), Path("a.emf"));
     EXPECT_FALSE(Load("a.emf").IsValid());
-    EXPECT_EQ(Listing(), (std::vector<std::string>{"a.emf", "a.wmf"}));
+    EXPECT_EQ(Listing(), (std::set<std::string>{"a.emf", "a.wmf"}));
 }
 
 // A script, a text, a vector picture and an address under each of the names must not be followed.
@@ -168,22 +165,18 @@ TEST_F(Formats, DepthsAndColoursComeOutRight) {
         return image;
     };
     const auto depth16 = [](Magick::Image& image) { image.depth(16); };
+    const auto greyType = [](Magick::Image& image) { image.type(Magick::GrayscaleType); };
     const auto interlaced = [](Magick::Image& image) { image.interlaceType(Magick::PlaneInterlace); };
     const auto ink = [](Magick::Image& image) { image.colorSpace(Magick::CMYKColorspace); };
     const CCase cases[] = {
         {"grey.png", "PNG", 8, crGrey, grey},
-        {"grey16.png", "PNG", 8, crGrey,
-         with(grey,
-              [](Magick::Image& i) {
-                  i.depth(16);
-                  i.type(Magick::GrayscaleType);
-              })},
+        {"grey16.png", "PNG", 8, crGrey, with(with(grey, depth16), greyType)},
         {"color16.png", "PNG48", 24, crColor, with(color, depth16)},
         {"interlaced.png", "PNG24", 24, crColor, with(color, interlaced)},
         {"palette.png", "PNG8", 8, crColor, color},
         {"color16.tif", "TIFF", 24, crColor, with(color, depth16)},
         {"ink.tif", "TIFF", 24, crColor, with(color, ink)},
-        {"grey.tif", "TIFF", 8, crGrey, with(grey, [](Magick::Image& i) { i.type(Magick::GrayscaleType); })},
+        {"grey.tif", "TIFF", 8, crGrey, with(grey, greyType)},
         {"grey16.pgm", "PGM", 8, crGrey, with(grey, depth16)},
         {"interlaced.gif", "GIF", 1, crColor, with(color, interlaced)},
         {"old.bmp", "BMP2", 24, crColor, color},
@@ -202,8 +195,13 @@ TEST_F(Formats, DepthsAndColoursComeOutRight) {
             EXPECT_NEAR(cr.b, c.cr.b, 1);
         }
         EXPECT_EQ(image.GetBpp(), c.nBpp);
-        image.SetPixelColor(0, 0, {});
-        EXPECT_EQ(image.GetBpp(), 24) << "a picture that was written to has 24 bits";
+        // A picture that was changed has 24 bits, in whatever way.
+        CxImage written = image, scaled = image, turned = image, replaced = image;
+        written.SetPixelColor(0, 0, {});
+        ASSERT_TRUE(scaled.Resample(11, 7) && turned.Flip() && replaced.ReplacePixels(image.Pixels()));
+        ASSERT_TRUE(image.HistogramEqualize());
+        for (const CxImage* const p : {&image, &written, &scaled, &turned, &replaced})
+            EXPECT_EQ(p->GetBpp(), 24);
     }
 
     // A palette of sixteen colours in a file of four bits a pixel.
@@ -213,8 +211,6 @@ TEST_F(Formats, DepthsAndColoursComeOutRight) {
     few.quantize();
     Write(few, "BMP3", "few.bmp");
     EXPECT_EQ(Load("few.bmp").GetBpp(), 4);
-    Bytes palette = ReadBytes(Path("few.bmp"));
-    EXPECT_EQ(palette[28], 4);
 }
 
 TEST_F(Formats, OfSeveralPicturesTheFirstIsTaken) {
@@ -228,19 +224,6 @@ TEST_F(Formats, OfSeveralPicturesTheFirstIsTaken) {
         WriteBytes(Path(szName), {static_cast<const std::uint8_t*>(blob.data()), blob.length()});
         EXPECT_LE(LargestDifference(Load(szName), SmoothPicture(41, 23)), 24) << szName;
     }
-}
-
-// Where the codec's own limit on a side ends, a save fails as any other does.
-TEST_F(Formats, ASideThatTheCodecDoesNotTakeFailsCleanly) {
-    const CxImage longPicture(17000, 2);
-    for (const char* const szName : {"long.png", "long.bmp", "long.tif"}) {
-        const std::string strPath = Path(szName);
-        const ImageType type = FindImageTypeOfName(szName);
-        ASSERT_TRUE(CxImage(16, 2).Save(strPath, type));
-        if (longPicture.Save(strPath, type)) continue;  // a machine without that limit
-        EXPECT_EQ(CxImage(strPath, type).GetSize(), (CSize{16, 2})) << "the old file is lost: " << szName;
-    }
-    EXPECT_TRUE(longPicture.Save(Path("long.jpg"), ImageType::kJpeg));
 }
 
 }  // namespace

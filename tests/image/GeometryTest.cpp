@@ -1,33 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <optional>
 
 #include "image/CpuChoice.h"
 #include "image/TestPictures.h"
+#include "support/Pictures.h"
 
 namespace {
 
-using PixelOf = std::function<CColor(int x, int y)>;
-
-// y counts from the bottom.
-CxImage Build(int nWidth, int nHeight, const PixelOf& pixelOf) {
-    CxImage image(nWidth, nHeight);
-    for (int y = 0; y < nHeight; ++y) {
-        for (int x = 0; x < nWidth; ++x) image.SetPixelColor(x, y, pixelOf(x, y));
-    }
-    return image;
-}
-
-// The pixels must be the wanted ones, and the alpha, which was the red channel, must have gone with them.
-void ExpectLike(const CxImage& image, const CxImage& wanted) {
-    ASSERT_EQ(image.GetSize(), wanted.GetSize());
-    ASSERT_EQ(image.Pixels(), wanted.Pixels());
-    ASSERT_EQ(image.Alpha().size() * 3, image.Pixels().Bytes().size());
-    for (std::size_t i = 0; i < image.Alpha().size(); ++i)
-        ASSERT_EQ(image.Alpha()[i], image.Pixels().Bytes()[3 * i]);
-}
-
+// A picture whose alpha is its red channel.
 CxImage WithAlpha(CxImage image) {
     Bytes alpha;
     for (std::size_t i = 0; i < image.Pixels().Bytes().size(); i += 3)
@@ -36,36 +17,32 @@ CxImage WithAlpha(CxImage image) {
     return image;
 }
 
+// The pixels must be the wanted ones, and the alpha must have gone with them.
+void ExpectLike(const CxImage& image, bool bDone, const CPixels& wanted) {
+    ASSERT_TRUE(bDone);
+    ASSERT_EQ(Difference(image.Pixels(), wanted), "");
+    ASSERT_EQ(image.Alpha().size() * 3, image.Pixels().Bytes().size());
+    for (std::size_t i = 0; i < image.Alpha().size(); ++i)
+        ASSERT_EQ(image.Alpha()[i], image.Pixels().Bytes()[3 * i]);
+}
+
 void CheckTurns(const CxImage& source) {
-    const int w = source.GetWidth();
-    const int h = source.GetHeight();
+    const CPixels& pixels = source.Pixels();
     CxImage image = source;
-    ASSERT_TRUE(image.Mirror());
-    ExpectLike(image, Build(w, h, [&](int x, int y) { return source.GetPixelColor(w - 1 - x, y); }));
+    ExpectLike(image, image.Mirror(), NaiveFlip(pixels, false));
     image = source;
-    ASSERT_TRUE(image.Flip());
-    ExpectLike(image, Build(w, h, [&](int x, int y) { return source.GetPixelColor(x, h - 1 - y); }));
+    ExpectLike(image, image.Flip(), NaiveFlip(pixels, true));
     image = source;
-    ASSERT_TRUE(image.Rotate180());
-    ExpectLike(image, Build(w, h, [&](int x, int y) { return source.GetPixelColor(w - 1 - x, h - 1 - y); }));
-    // Clockwise: the left column becomes the top row, its lower end at the left.
+    ExpectLike(image, image.Rotate180(), NaiveFlip(NaiveFlip(pixels, true), false));
     image = source;
-    ASSERT_TRUE(image.Rotate(90.0));
-    ExpectLike(image, Build(h, w, [&](int x, int y) { return source.GetPixelColor(w - 1 - y, x); }));
+    ExpectLike(image, image.Rotate(90.0), NaiveTurn(pixels, true));
     image = source;
-    ASSERT_TRUE(image.Rotate(-90.0));
-    ExpectLike(image, Build(h, w, [&](int x, int y) { return source.GetPixelColor(y, h - 1 - x); }));
+    ExpectLike(image, image.Rotate(-90.0), NaiveTurn(pixels, false));
 }
 
 void CheckResample(const CxImage& source, int nWidth, int nHeight) {
     CxImage image = source;
-    ASSERT_TRUE(image.Resample(nWidth, nHeight));
-    const float fX = static_cast<float>(source.GetWidth()) / static_cast<float>(nWidth);
-    const float fY = static_cast<float>(source.GetHeight()) / static_cast<float>(nHeight);
-    ExpectLike(image, Build(nWidth, nHeight, [&](int x, int y) {
-                   return source.GetPixelColor(static_cast<int>(static_cast<float>(x) * fX),
-                                               static_cast<int>(static_cast<float>(y) * fY));
-               }));
+    ExpectLike(image, image.Resample(nWidth, nHeight), NaiveResample(source.Pixels(), nWidth, nHeight));
 }
 
 TEST(Geometry, TurnsAndScalesLikeTheNaiveForm) {
@@ -84,27 +61,28 @@ TEST(Geometry, TurnsAndScalesLikeTheNaiveForm) {
         CheckResample(source, side(90), side(90));
     }
     const CxImage source = WithAlpha(RandomPicture(random, 64, 48));
-    CheckResample(source, 128, 96);
-    CheckResample(source, 32, 24);
-    CheckResample(source, 1, 1);
+    for (const CSize size : {CSize{128, 96}, {32, 24}, {1, 1}}) CheckResample(source, size.cx, size.cy);
 }
 
-TEST(Geometry, ScalingCountsRowsFromTheBottom) {
-    // Three rows become two: from the bottom 0 * 1.5 and 1 * 1.5, so the top row is the one that goes.
-    CxImage image = Build(1, 3, [](int, int y) { return CColor{static_cast<std::uint8_t>(10 * y), 0, 0}; });
+TEST(Geometry, ValuesWorkedOutByHand) {
+    // Rows 0, 1, 2 from the bottom become two: 0 * 1.5 and 1 * 1.5, so the top row is the one that goes.
+    CxImage image(1, 3);
+    for (int y = 0; y < 3; ++y) image.SetPixelColor(0, y, {static_cast<std::uint8_t>(10 * y), 0, 0});
+    CxImage turned = image;
     ASSERT_TRUE(image.Resample(1, 2));
     EXPECT_EQ(image.GetPixelColor(0, 0).r, 0);
     EXPECT_EQ(image.GetPixelColor(0, 1).r, 10);
+    // Clockwise: the left column becomes the top row, its lower end at the left.
+    ASSERT_TRUE(turned.Rotate(90.0));
+    EXPECT_EQ(turned.GetPixelColor(0, 0).r, 0);
+    EXPECT_EQ(turned.GetPixelColor(2, 0).r, 20);
 }
 
 TEST(Geometry, WhatMakesNoSenseChangesNothing) {
     CxImage image = SmoothPicture(8, 5);
     const CxImage before = image;
-    EXPECT_FALSE(image.Rotate(45.0));
-    EXPECT_FALSE(image.Resample(0, 5));
-    EXPECT_FALSE(image.Resample(5, -1));
-    EXPECT_FALSE(image.Resample(4, 4, 0));
-    EXPECT_FALSE(image.ReplacePixels(SmoothPicture(5, 8).Pixels()));
+    EXPECT_FALSE(image.Rotate(45.0) || image.Resample(0, 5) || image.Resample(5, -1) ||
+                 image.Resample(4, 4, 0) || image.ReplacePixels(SmoothPicture(5, 8).Pixels()));
     EXPECT_TRUE(image.Pixels().SharesWith(before.Pixels()));
     image.SetPixelColor(8, 0, {255, 255, 255});
     image.SetPixelColor(0, -1, {255, 255, 255});

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 
 #include <jpeglib.h>
 
@@ -57,15 +59,10 @@ inline Bytes MakeJpeg(const CxImage& image, const CJpegKind& kind = {}) {
 // Puts an APP1 segment directly behind the start mark.
 inline Bytes WithSegment(const Bytes& file, const Bytes& segment) {
     const std::size_t nLength = segment.size() + 2;
-    Bytes result(nLength + 4);
-    result[0] = 0xFF;
-    result[1] = 0xD8;
-    result[2] = 0xFF;
-    result[3] = 0xE1;
-    result[4] = static_cast<std::uint8_t>(nLength >> 8);
-    result[5] = static_cast<std::uint8_t>(nLength);
-    std::copy(segment.begin(), segment.end(), result.begin() + 6);
-    result.insert(result.end(), file.begin() + 2, file.end());
+    Bytes result = {
+        0xFF, 0xD8, 0xFF, 0xE1, static_cast<std::uint8_t>(nLength >> 8), static_cast<std::uint8_t>(nLength)};
+    std::ranges::copy(segment, std::back_inserter(result));
+    std::ranges::copy(std::span(file).subspan(2), std::back_inserter(result));
     return result;
 }
 

@@ -14,33 +14,18 @@ class Jpeg : public CFolderTest {
     }
 };
 
-// What the mark says of the stored picture: where in the upright one its first row and its first column lie.
-struct CSides {
-    char cFirstRow;
-    char cFirstColumn;
-};
-constexpr CSides kSides[9] = {{},         {'t', 'l'}, {'t', 'r'}, {'b', 'r'}, {'b', 'l'},
-                              {'l', 't'}, {'r', 't'}, {'r', 'b'}, {'l', 'b'}};
-
+// The picture as a camera stores it that marks it so.
 CxImage StoredAs(const CxImage& upright, int nOrientation) {
-    const CSides sides = kSides[nOrientation];
-    const bool bExchanged = sides.cFirstRow == 'l' || sides.cFirstRow == 'r';
-    const int w = upright.GetWidth();
-    const int h = upright.GetHeight();
-    CxImage stored(bExchanged ? h : w, bExchanged ? w : h);
-    const CPixelView view = stored.MutableView();
-    const bool bFromRight = sides.cFirstRow == 'r' || sides.cFirstColumn == 'r';
-    const bool bFromBottom = sides.cFirstRow == 'b' || sides.cFirstColumn == 'b';
-    for (int r = 0; r < view.nHeight; ++r) {
-        for (int c = 0; c < view.nWidth; ++c) {
-            const int nAcross = bExchanged ? r : c;
-            const int nDown = bExchanged ? c : r;
-            view.Set(c, r,
-                     upright.Pixels().View().Get(bFromRight ? w - 1 - nAcross : nAcross,
-                                                 bFromBottom ? h - 1 - nDown : nDown));
-        }
+    CxImage image = upright;
+    if (nOrientation >= 5) {
+        EXPECT_TRUE(image.Rotate(nOrientation == 5 || nOrientation == 8 ? 90.0 : -90.0));
+    } else if (nOrientation >= 3) {
+        EXPECT_TRUE(image.Rotate180());
     }
-    return stored;
+    if (nOrientation == 2 || nOrientation == 4 || nOrientation == 5 || nOrientation == 7) {
+        EXPECT_TRUE(image.Mirror());
+    }
+    return image;
 }
 
 TEST_F(Jpeg, EveryOrientationStandsUpright) {
@@ -71,7 +56,7 @@ TEST_F(Jpeg, MalformedExifIsPassedOver) {
             Load(WithSegment(file, Bytes(sound.begin(), sound.begin() + static_cast<long>(nCut)))).GetSize(),
             picture.GetSize());
     }
-    for (const std::uint8_t nValue : {0, 9, 255}) {
+    for (const auto nValue : std::initializer_list<std::uint8_t>{0, 9, 255}) {
         EXPECT_EQ(Load(WithSegment(file, ExifSegment(nValue, false))).GetSize(), picture.GetSize());
     }
     Bytes farAway = sound;
@@ -175,7 +160,7 @@ TEST_F(Jpeg, ScaledSizesAreTheSmallestThatCover) {
 TEST_F(Jpeg, WrittenFilesHaveTheAgreedForm) {
     CxImage image = SmoothPicture(33, 17);
     ASSERT_TRUE(image.Save(Path("a.jpg"), ImageType::kJpeg));
-    const Bytes file = ReadBytes(Path("a.jpg"));
+    const Bytes file = BytesOf(Path("a.jpg"));
     // Start mark, sixteen bytes of JFIF 1.01 with 96 dots per inch and no thumbnail, then the tables at
     // byte 20.
     const Bytes head = {0xFF, 0xD8, 0xFF, 0xE0, 0,  16, 'J', 'F', 'I', 'F',  0,
@@ -192,7 +177,7 @@ TEST_F(Jpeg, WrittenFilesHaveTheAgreedForm) {
     image.SetYDPI(72);
     image.SetJpegQuality(50);
     ASSERT_TRUE(CxImage(image).Save(Path("b.jpg"), ImageType::kJpeg)) << "the settings go with a copy";
-    const Bytes other = ReadBytes(Path("b.jpg"));
+    const Bytes other = BytesOf(Path("b.jpg"));
     EXPECT_EQ(Bytes(other.begin() + 13, other.begin() + 18), (Bytes{1, 1, 44, 0, 72}));
     EXPECT_EQ(other[25], 16);
     image.SetJpegQuality(1000);

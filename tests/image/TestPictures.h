@@ -1,19 +1,18 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "image/Image.h"
 #include "image/ImageHead.h"
+#include "support/TempFolder.h"
 
 // What the tests of the picture container share: pictures, files, and the seed of a random run.
 
@@ -57,9 +56,9 @@ inline int LargestDifference(const CxImage& a, const CxImage& b) {
     return a.GetSize() == b.GetSize() ? LargestDifference(a.Pixels().Bytes(), b.Pixels().Bytes()) : 256;
 }
 
-inline Bytes ReadBytes(const std::string& strPath) {
-    std::ifstream in(strPath, std::ios::binary);
-    return Bytes((std::istreambuf_iterator<char>(in)), {});
+inline Bytes BytesOf(const std::string& strPath) {
+    const std::string strBytes = ReadBytes(strPath);
+    return {strBytes.begin(), strBytes.end()};
 }
 
 inline void WriteBytes(const std::string& strPath, std::span<const std::uint8_t> bytes) {
@@ -80,30 +79,11 @@ inline void WriteText(const std::string& strPath, std::string_view strText) {
     WriteBytes(strPath, {reinterpret_cast<const std::uint8_t*>(strText.data()), strText.size()});
 }
 
-// A test with a folder of its own, which is gone behind it.
 class CFolderTest : public testing::Test {
   protected:
-    CFolderTest() { std::filesystem::create_directories(m_folder); }
-    ~CFolderTest() override {
-        std::error_code error;
-        std::filesystem::remove_all(m_folder, error);
-    }
-
-    std::string Path(const std::string& strName) const { return (m_folder / strName).string(); }
-    std::vector<std::string> Listing() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(m_folder)) {
-            names.push_back(entry.path().filename().string());
-        }
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    std::string Path(const std::string& strName) const { return m_folder.Path(strName); }
+    std::set<std::string> Listing() const { return m_folder.Names(); }
 
   private:
-    static std::filesystem::path MakeName() {
-        const testing::TestInfo* const pInfo = testing::UnitTest::GetInstance()->current_test_info();
-        return std::filesystem::temp_directory_path() /
-               ("fotarium-" + std::string(pInfo->name()) + "-" + std::to_string(getpid()));
-    }
-    std::filesystem::path m_folder = MakeName();
+    CTempFolder m_folder;
 };

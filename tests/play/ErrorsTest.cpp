@@ -81,8 +81,6 @@ TEST_F(ScriptTest, NamesTheLineThatCannotBeDone) {
         EXPECT_EQ(result.strErr, entry.szErr);
     }
     EXPECT_EQ(Play("open none.png").strErr, "test:1: there is no file \"" + strFolder + "/none.png\"\n");
-    EXPECT_EQ(Play("answer open no/x.png\ncommand 1000").strErr,
-              "test:2: there is no folder for \"" + strFolder + "/no/x.png\"\n");
     EXPECT_EQ(Play("command 1027\ndump work no/a.ppm").strErr,
               "test:2: \"" + strFolder + "/no/a.ppm\" cannot be written\n");
     EXPECT_EQ(Play("state mode\nfly\nstate mode").strOut, "mode 0 THUM\n");

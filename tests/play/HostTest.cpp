@@ -228,15 +228,3 @@ TEST_F(HostTest, OpenDialogFollowsTheSelectionAndMovesThere) {
     EXPECT_EQ(m_platform.TakeAsked().at(1).request.strFilter, "*|*||");
     EXPECT_TRUE(Get().folders.SetCurrentFolder("/"));
 }
-
-// Text comes out the same on every machine, with each character where it stands.
-TEST_F(HostTest, TextMasks) {
-    const CTextMask mask = Get().text.Rasterize({"", 16}, "a字");
-    EXPECT_EQ(mask.nWidth, 8 + 16);
-    EXPECT_EQ(mask.nHeight, 16);
-    std::string strRow;
-    const auto itRow = mask.coverage.begin() + std::ptrdiff_t{8} * mask.nWidth;
-    for (auto it = itRow; it != itRow + mask.nWidth; ++it) strRow += *it != 0 ? '#' : '.';
-    EXPECT_EQ(strRow, "..####....############..");
-    EXPECT_EQ(Get().text.Rasterize({"", 16}, "").nHeight, 0);
-}

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "resources/samples/tool/Stage.h"
+#include "resources/samples/tool/Scene.h"
 
 namespace {
 
-CSurface Matt(const CSpot& spot, float fBody) {
-    CSurface surface;
+CMaterial Matt(const CSpot& spot, float fBody) {
+    CMaterial surface;
     surface.crBody = {fBody, fBody, fBody};
     surface.crMirror = {0, 0, 0};
     surface.normal = spot.normal;
@@ -15,8 +15,8 @@ CSurface Matt(const CSpot& spot, float fBody) {
 }
 
 // A matt floor seen straight from above, with no light but what a test adds.
-CStage FloorStage(float fBody) {
-    CStage stage;
+CScene FloorStage(float fBody) {
+    CScene stage;
     const int nFloor = stage.AddShader([fBody](const CSpot& spot) { return Matt(spot, fBody); });
     AddSheet(stage.mesh, nFloor, 1, 1, false, [](float u, float v) {
         return CVec3{-50 + 100 * u, 0, 50 - 100 * v};
@@ -27,7 +27,7 @@ CStage FloorStage(float fBody) {
     return stage;
 }
 
-float MeanLight(const CStage& stage, int nPaths) {
+float MeanLight(const CScene& stage, int nPaths) {
     const CFilm film = Photograph(stage, 8, 8, nPaths);
     float fSum = 0;
     for (const CVec3 cr : film.pixels) fSum += Luminance(cr);
@@ -35,15 +35,16 @@ float MeanLight(const CStage& stage, int nPaths) {
 }
 
 TEST(Photograph, AMattFloorGivesBackItsPartOfAnEvenSky) {
-    CStage stage = FloorStage(0.6F);
+    CScene stage = FloorStage(0.6F);
     stage.sky = [](CVec3, bool) { return CVec3{2, 2, 2}; };
     EXPECT_NEAR(MeanLight(stage, 256), 1.2F, 0.02F);
     stage.air = [](CVec3, CVec3, float fLength) {
         const float f = std::exp(-fLength);
-        return CStage::CAir{{f, f, f}, {0.5F, 0.5F, 0.5F}};
+        return CScene::CAir{{f, f, f}, {0.5F, 0.5F, 0.5F}};
     };
     // A metre of air before the floor and none towards the sky.
     EXPECT_NEAR(MeanLight(stage, 256), 0.5F + 1.2F * std::exp(-1.0F), 0.02F);
 }
 
+#include "resources/samples/tool/Scene.h"
 }  // namespace

@@ -91,7 +91,10 @@ TEST(Strips, TheLabelCanBeReadAndTheSampleShowsAPicture) {
                     nInk += std::abs(qGray(label.pixel(x, y)) - qGray(image.pixel(rcClear.left(), 40))) > 80;
             EXPECT_GT(nInk, 40) << nNumber;
             const int nColors = CountColors(Cut(image, CEffectCells::kSample, 1));
-            EXPECT_GT(nColors, i == kPureBlackWhite || i == kEngrave || i == kSketch ? 2 : 60) << nNumber;
+            const EEffect effect = EffectOf(i);
+            const bool bFew =
+                effect == EEffect::PureBlackWhite || effect == EEffect::Engrave || effect == EEffect::Sketch;
+            EXPECT_GT(nColors, bFew ? 2 : 60) << nNumber;
         }
         const QImage label = Cut(Picture(kFirstNormal + i, 1), rcLabel, 1);
         setLabels.insert(QByteArray(reinterpret_cast<const char*>(label.constBits()), label.sizeInBytes()));

@@ -16,7 +16,7 @@ namespace {
 class Workbench : public testing::Test {
   protected:
     // The words may name files of the folder as @name.
-    int Run(CWords arrWords) {
+    int Run(CWorkWords arrWords) {
         for (std::string& strWord : arrWords)
             if (strWord.starts_with('@')) strWord = m_folder.Path(strWord.substr(1));
         std::ostringstream out;
@@ -35,37 +35,36 @@ class Workbench : public testing::Test {
     std::string m_strError;
 };
 
-CPixels Expected(const CPixels& src, int nEffect, int nLevel, int nRefWidth, std::uint32_t nSeed) {
+CPixels Expected(const CPixels& src, EEffect effect, int nLevel, int nRefWidth, std::uint32_t nSeed) {
     CxImage image(src);
     CRandomSequence random;
     random.Seed(nSeed);
-    CImageEffect engine(random);
-    EXPECT_TRUE(engine.ApplyEffect(image, nEffect, nLevel, false, nRefWidth));
+    EXPECT_TRUE(ApplyEffect(image, effect, nLevel, nRefWidth, random));
     return image.Pixels();
 }
 
 TEST_F(Workbench, AppliesOneEffectToAFile) {
     ASSERT_TRUE(WritePpm(m_folder.Path("in.ppm"), m_src));
     ASSERT_EQ(Run({"effect", "1", "-60", "@in.ppm", "@out.ppm"}), kDone) << m_strError;
-    EXPECT_EQ(Written("out.ppm"), Expected(m_src, kContrast, -60, 40, 1));
+    EXPECT_EQ(Written("out.ppm"), Expected(m_src, EEffect::Contrast, -60, 40, 1));
     EXPECT_EQ(m_strOut + m_strError, "");
 
     ASSERT_EQ(Run({"effect", "23", "10", "@in.ppm", "@tile.ppm"}), kDone);
-    EXPECT_EQ(Written("tile.ppm"), Expected(m_src, kTile, 10, 40, 1));
+    EXPECT_EQ(Written("tile.ppm"), Expected(m_src, EEffect::Tile, 10, 40, 1));
     // Tiles in proportion to a full picture of that width, and other thicknesses of their joints.
     ASSERT_EQ(Run({"effect", "--seed", "7", "23", "10", "@in.ppm", "@tile.ppm", "--full-width", "800"}),
               kDone);
-    EXPECT_EQ(Written("tile.ppm"), Expected(m_src, kTile, 10, 800, 7));
+    EXPECT_EQ(Written("tile.ppm"), Expected(m_src, EEffect::Tile, 10, 800, 7));
 
     // A file may be replaced by its own result.
     ASSERT_EQ(Run({"effect", "4", "0", "@in.ppm", "@in.ppm"}), kDone);
-    EXPECT_EQ(Written("in.ppm"), Expected(m_src, kNegative, 0, 40, 1));
+    EXPECT_EQ(Written("in.ppm"), Expected(m_src, EEffect::Negative, 0, 40, 1));
 }
 
 TEST_F(Workbench, TellsAWrongCall) {
     ASSERT_TRUE(WritePpm(m_folder.Path("in.ppm"), m_src));
     const struct {
-        CWords arrWords;
+        CWorkWords arrWords;
         std::string strError;
     } arrCases[] = {
         {{}, "no verb; workbench --help lists them"},
@@ -158,7 +157,7 @@ TEST_F(Workbench, Program) {
     const std::string strCall = "'" FOTARIUM_WORKBENCH "' effect ";
     const std::string strFiles = " '" + m_folder.Path("in.ppm") + "' '" + m_folder.Path("out.ppm") + "'";
     EXPECT_EQ(WEXITSTATUS(std::system((strCall + "4 0" + strFiles).c_str())), kDone);
-    EXPECT_EQ(Written("out.ppm"), Expected(m_src, kNegative, 0, 40, 1));
+    EXPECT_EQ(Written("out.ppm"), Expected(m_src, EEffect::Negative, 0, 40, 1));
     EXPECT_EQ(WEXITSTATUS(std::system((strCall + "99 0" + strFiles + " 2>/dev/null").c_str())), kWrongCall);
 }
 

@@ -5,20 +5,20 @@
 namespace {
 
 constexpr CEffectBenchRow kRows[] = {
-    {"Negative", kNegative, 0, 1.5, true},
+    {"Negative", EEffect::Negative, 0, 1.5, true},
     // Half as much again: the memory written to is fetched first, besides the one read.
-    {"NegativeOfShared", kNegative, 0, 2.25},
-    {"Contrast", kContrast, 100, 3},
-    {"Cool", kCool, 100, 3},
-    {"Moonlight", kMoonlight, 50, 3},
-    {"Brightness", kBrightness, 100, 10},
-    {"BlackWhite", kBlackWhite, 0, 10},
-    {"OldPhoto", kOldPhoto, 0, 10},
-    {"Nostalgia", kNostalgia, 20, 10},
-    {"Haze1", kHaze1, 50, 10},
-    {"Chroma", kChroma, 100, 30},
-    {"ColourSaturation", kColourSaturation, 100, 30},
-    {"PureBlackWhite", kPureBlackWhite, 100, 40},
+    {"NegativeOfShared", EEffect::Negative, 0, 2.25},
+    {"Contrast", EEffect::Contrast, 100, 3},
+    {"Cool", EEffect::Cool, 100, 3},
+    {"Moonlight", EEffect::Moonlight, 50, 3},
+    {"Brightness", EEffect::Brightness, 100, 10},
+    {"BlackWhite", EEffect::BlackWhite, 0, 10},
+    {"OldPhoto", EEffect::OldPhoto, 0, 10},
+    {"Nostalgia", EEffect::Nostalgia, 20, 10},
+    {"Haze1", EEffect::Haze1, 50, 10},
+    {"Chroma", EEffect::Chroma, 100, 30},
+    {"ColourSaturation", EEffect::ColourSaturation, 100, 30},
+    {"PureBlackWhite", EEffect::PureBlackWhite, 100, 40},
 };
 
 [[maybe_unused]] const bool g_bRegistered = RegisterEffects(kRows);

@@ -66,7 +66,6 @@ void Run(benchmark::State& state, const CEffectBenchRow& row, bool bPlain) {
     std::optional<CPlainLoops> plain;
     if (bPlain) plain.emplace();
     CRandomSequence random;
-    CImageEffect engine(random);
     CxImage image = Picture();
     // Writing separates.
     if (row.bAlone && image.MutableBytes().empty()) return state.SkipWithError("no memory for the picture");
@@ -74,7 +73,7 @@ void Run(benchmark::State& state, const CEffectBenchRow& row, bool bPlain) {
     for (auto _ : state) {
         const double fStart = Now();
         if (!row.bAlone) image = Picture();
-        if (!engine.ApplyEffect(image, row.nEffect, row.nLevel, false, kWidth))
+        if (!ApplyEffect(image, row.effect, row.nLevel, kWidth, random))
             state.SkipWithError("no memory for the picture");
         benchmark::ClobberMemory();
         fLeast = std::min(fLeast, Now() - fStart);

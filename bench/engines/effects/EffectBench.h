@@ -7,7 +7,7 @@
 // One effect at one level, on twelve megapixels.
 struct CEffectBenchRow {
     const char* szName;
-    EEffect nEffect;
+    EEffect effect;
     int nLevel;
     double fAtMost;       // passes that it may take; three times that in its plain form
     bool bAlone = false;  // nobody shares the picture's pixels

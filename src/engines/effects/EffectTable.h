@@ -1,42 +1,53 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 // The thirty-one effects by their numbers, which are their places in the effect list.
-enum EEffect : int {
-    kBrightness = 0,
-    kContrast,
-    kChroma,
-    kSharpness,
-    kNegative,
-    kPureBlackWhite,
-    kBlackWhite,
-    kColourSaturation,
-    kOldPhoto,
-    kNoiseRemoval,
-    kBacklight,
-    kHomogenise,
-    kLowLightRepair,
-    kNostalgia,
-    kMoonlight,
-    kHaze1,
-    kCool,
-    kHaze2,
-    kFilm,
-    kArt,
-    kCrystalFrame,
-    kJigsaw,
-    kOilPainting,
-    kTile,
-    kLaminate,
-    kEngrave,
-    kConcaveMirror,
-    kSketch,
-    kRefraction2,
-    kRefraction1,
-    kWoodcut,
-    kEffectCount
+enum class EEffect : int {
+    Brightness = 0,
+    Contrast,
+    Chroma,
+    Sharpness,
+    Negative,
+    PureBlackWhite,
+    BlackWhite,
+    ColourSaturation,
+    OldPhoto,
+    NoiseRemoval,
+    Backlight,
+    Homogenise,
+    LowLightRepair,
+    Nostalgia,
+    Moonlight,
+    Haze1,
+    Cool,
+    Haze2,
+    Film,
+    Art,
+    CrystalFrame,
+    Jigsaw,
+    OilPainting,
+    Tile,
+    Laminate,
+    Engrave,
+    ConcaveMirror,
+    Sketch,
+    Refraction2,
+    Refraction1,
+    Woodcut,
 };
+inline constexpr int kEffectCount = 31;
+
+constexpr int NumberOf(EEffect effect) {
+    return static_cast<int>(effect);
+}
+// nNumber is one of 0 .. kEffectCount - 1.
+constexpr EEffect EffectOf(int nNumber) {
+    return static_cast<EEffect>(nNumber);
+}
+
+static_assert(NumberOf(EEffect::Woodcut) + 1 == kEffectCount);
 
 // What the list and the level slider need to know of an effect.
 struct CEffectRow {
@@ -47,7 +58,7 @@ struct CEffectRow {
     int nStart;  // the slider's position at level 0
 };
 
-inline constexpr CEffectRow NoLevel(const char* szLabel) {
+constexpr CEffectRow NoLevel(const char* szLabel) {
     return {szLabel, false, -100, 100, 100};
 }
 
@@ -84,3 +95,7 @@ inline constexpr std::array<CEffectRow, kEffectCount> kEffects = {{
     {"折射效果1", true, 0, 100, 100},
     NoLevel("版画效果"),
 }};
+
+constexpr const CEffectRow& RowOf(EEffect effect) {
+    return kEffects[static_cast<std::size_t>(NumberOf(effect))];
+}

@@ -24,14 +24,14 @@ constexpr std::array<CEffectFunction, kEffectCount> kFunctions = {
 };
 
 // True if the effect may write where it reads.
-constexpr bool WorksInPlace(int nEffect) {
-    return nEffect == kNegative;
+constexpr bool WorksInPlace(EEffect effect) {
+    return effect == EEffect::Negative;
 }
 
 // False if there was no memory for what the effect needs besides the picture.
-bool Run(int nEffect, const CEffectCall& call) {
+bool Run(EEffect effect, const CEffectCall& call) {
     try {
-        kFunctions[static_cast<std::size_t>(nEffect)](call);
+        kFunctions[static_cast<std::size_t>(effect)](call);
     } catch (const std::bad_alloc&) {
         return false;
     }
@@ -45,17 +45,16 @@ void CopyPicture(const CEffectCall& call) {
                 call.src.Stride() * static_cast<std::size_t>(call.src.nHeight));
 }
 
-bool CImageEffect::ApplyEffect(CxImage& image, int nEffect, int nLevel, bool bFull, int nRefWidth) {
-    if (!bFull) m_nRefWidth = nRefWidth;
-    if (!image.IsValid() || nEffect < 0 || nEffect >= kEffectCount) return true;
-    const int nWidth = m_nRefWidth > 0 ? m_nRefWidth : image.GetWidth();
+bool ApplyEffect(CxImage& image, EEffect effect, int nLevel, int nRefWidth, CRandomSequence& random) {
+    if (!image.IsValid() || effect < EEffect::Brightness || effect > EEffect::Woodcut) return true;
+    const int nWidth = nRefWidth > 0 ? nRefWidth : image.GetWidth();
     const CConstPixelView src = image.Pixels().View();
     // A picture that nobody shares needs no second memory, and only half the time.
-    if (WorksInPlace(nEffect) && !image.Pixels().IsShared())
-        return Run(nEffect,
-                   {src, {image.MutableBytes().data(), src.nWidth, src.nHeight}, nLevel, nWidth, m_random});
+    if (WorksInPlace(effect) && !image.Pixels().IsShared())
+        return Run(effect,
+                   {src, {image.MutableBytes().data(), src.nWidth, src.nHeight}, nLevel, nWidth, random});
     CPixels pixels;
     if (!pixels.CreateRaw(image.GetWidth(), image.GetHeight())) return false;
-    if (!Run(nEffect, {src, pixels.MutableView(), nLevel, nWidth, m_random})) return false;
+    if (!Run(effect, {src, pixels.MutableView(), nLevel, nWidth, random})) return false;
     return image.ReplacePixels(std::move(pixels));
 }

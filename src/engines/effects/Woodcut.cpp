@@ -29,9 +29,9 @@ void Woodcut(const CEffectCall& call) {
     const auto cut = UseAvx2() ? CutWide : CutPlain;
     const auto w = static_cast<std::size_t>(call.src.nWidth);
     const std::size_t nPixels = w * static_cast<std::size_t>(call.src.nHeight);
-    // Rows with the first pixel of the next one behind them.
-    CRowRing luma(2, call.src.nWidth + 1);
-    RgbToY(call.src.pBits, luma.Row(0), std::min(w + 1, nPixels));
+    // The first pixel of the next row stands behind each, in what the ring and the picture leave free there.
+    CRowRing luma(2, call.src.nWidth);
+    RgbToY(call.src.pBits, luma.Row(0), w + 1);
     for (int y = 0; y < call.src.nHeight; ++y) {
         const std::size_t nNext = w * (static_cast<std::size_t>(y) + 1);
         if (nNext < nPixels) {

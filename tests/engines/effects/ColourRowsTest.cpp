@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <array>
 #include <climits>
-#include <cstring>
 #include <optional>
 #include <random>
+#include <utility>
 #include <vector>
 
+#include "engines/effects/ByteMap.h"
+#include "engines/effects/Contrast.h"
 #include "image/ColorSpace.h"
 #include "image/CpuChoice.h"
 
@@ -29,106 +31,54 @@ class ColourRows : public testing::TestWithParam<bool> {
 INSTANTIATE_TEST_SUITE_P(Forms, ColourRows, testing::Bool(),
                          [](const auto& form) { return form.param ? "Plain" : "Wide"; });
 
-constexpr std::size_t kSheet = 65536;  // the colours with one value of the first channel
-
 using CFormula = CColor (*)(CColor);
 using CSplit = void (*)(const std::uint8_t*, std::uint8_t*, std::uint8_t*, std::uint8_t*, std::size_t);
 using CJoin = void (*)(const std::uint8_t*, const std::uint8_t*, const std::uint8_t*, std::uint8_t*,
                        std::size_t);
 
-CColor ColourOf(std::size_t nFirst, std::size_t i) {
-    return {static_cast<std::uint8_t>(nFirst), static_cast<std::uint8_t>(i / 256),
-            static_cast<std::uint8_t>(i % 256)};
+// Luma by one call, chroma by another.
+void RgbToYThenUv(const std::uint8_t* pRgb, std::uint8_t* pY, std::uint8_t* pU, std::uint8_t* pV,
+                  std::size_t n) {
+    RgbToY(pRgb, pY, n);
+    RgbToUv(pRgb, pY, pU, pV, n);
 }
 
-// All colours as pixels through pSplit, each held against the formula.
-void ExpectSplitAsFormula(CSplit pSplit, CFormula pFormula) {
-    std::vector<std::uint8_t> arrRgb(3 * kSheet);
-    std::array<std::vector<std::uint8_t>, 3> arrOut;
-    for (auto& out : arrOut) out.resize(kSheet);
-    std::size_t nWrong = 0;
-    for (std::size_t nFirst = 0; nFirst < 256; ++nFirst) {
+// One U and V for all pixels, those of the first.
+void TintToRgb(const std::uint8_t* pY, const std::uint8_t* pU, const std::uint8_t* pV, std::uint8_t* pRgb,
+               std::size_t n) {
+    YuvToRgb(pY, *pU, *pV, pRgb, n);
+}
+
+// Every colour there is through the loops, each held against the formula. A sheet holds the colours with one
+// value of the third and the second channel.
+TEST_P(ColourRows, AreTheFormulasForEveryColour) {
+    constexpr std::size_t kSheet = 256;
+    const std::pair<CSplit, CFormula> splits[] = {
+        {RgbToYuv, ColorRGBtoYUV}, {RgbToYThenUv, ColorRGBtoYUV}, {RgbToHsl, ColorRGBtoHSL}};
+    const std::pair<CJoin, CFormula> joins[] = {
+        {YuvToRgb, ColorYUVtoRGB}, {TintToRgb, ColorYUVtoRGB}, {HslToRgb, ColorHSLtoRGB}};
+    std::array<std::array<std::uint8_t, kSheet>, 3> in{};
+    std::array<std::array<std::uint8_t, kSheet>, 3> out{};
+    std::array<std::uint8_t, 3 * kSheet> rgbIn{};
+    std::array<std::uint8_t, 3 * kSheet> rgbOut{};
+    for (std::size_t i = 0; i < kSheet; ++i) in[0][i] = rgbIn[3 * i] = static_cast<std::uint8_t>(i);
+    for (std::size_t nSheet = 0; nSheet < 65536; ++nSheet) {
         for (std::size_t i = 0; i < kSheet; ++i) {
-            const CColor cr = ColourOf(nFirst, i);
-            arrRgb[3 * i] = cr.r;
-            arrRgb[3 * i + 1] = cr.g;
-            arrRgb[3 * i + 2] = cr.b;
+            in[1][i] = rgbIn[3 * i + 1] = static_cast<std::uint8_t>(nSheet / 256);
+            in[2][i] = rgbIn[3 * i + 2] = static_cast<std::uint8_t>(nSheet);
         }
-        pSplit(arrRgb.data(), arrOut[0].data(), arrOut[1].data(), arrOut[2].data(), kSheet);
-        for (std::size_t i = 0; i < kSheet; ++i) {
-            if (pFormula(ColourOf(nFirst, i)) == CColor{arrOut[0][i], arrOut[1][i], arrOut[2][i]}) continue;
-            if (nWrong++ == 0) ADD_FAILURE() << "first at " << nFirst << ", " << i / 256 << ", " << i % 256;
+        for (const auto& [split, formula] : splits) {
+            split(rgbIn.data(), out[0].data(), out[1].data(), out[2].data(), kSheet);
+            for (std::size_t i = 0; i < kSheet; ++i)
+                ASSERT_EQ(formula({in[0][i], in[1][i], in[2][i]}), (CColor{out[0][i], out[1][i], out[2][i]}))
+                    << nSheet << ", " << i;
         }
-    }
-    EXPECT_EQ(nWrong, 0U);
-}
-
-void ExpectJoinAsFormula(CJoin pJoin, CFormula pFormula) {
-    std::vector<std::uint8_t> arrRgb(3 * kSheet);
-    std::array<std::vector<std::uint8_t>, 3> arrIn;
-    for (auto& in : arrIn) in.resize(kSheet);
-    std::size_t nWrong = 0;
-    for (std::size_t nFirst = 0; nFirst < 256; ++nFirst) {
-        for (std::size_t i = 0; i < kSheet; ++i) {
-            const CColor cr = ColourOf(nFirst, i);
-            arrIn[0][i] = cr.r;
-            arrIn[1][i] = cr.g;
-            arrIn[2][i] = cr.b;
-        }
-        pJoin(arrIn[0].data(), arrIn[1].data(), arrIn[2].data(), arrRgb.data(), kSheet);
-        for (std::size_t i = 0; i < kSheet; ++i) {
-            const CColor crGot = {arrRgb[3 * i], arrRgb[3 * i + 1], arrRgb[3 * i + 2]};
-            if (pFormula(ColourOf(nFirst, i)) == crGot) continue;
-            if (nWrong++ == 0) ADD_FAILURE() << "first at " << nFirst << ", " << i / 256 << ", " << i % 256;
-        }
-    }
-    EXPECT_EQ(nWrong, 0U);
-}
-
-TEST_P(ColourRows, YuvOfEveryColour) {
-    ExpectSplitAsFormula(RgbToYuv, ColorRGBtoYUV);
-}
-
-TEST_P(ColourRows, RgbOfEveryYuv) {
-    ExpectJoinAsFormula(YuvToRgb, ColorYUVtoRGB);
-}
-
-TEST_P(ColourRows, HslOfEveryColour) {
-    ExpectSplitAsFormula(RgbToHsl, ColorRGBtoHSL);
-}
-
-TEST_P(ColourRows, RgbOfEveryHsl) {
-    ExpectJoinAsFormula(HslToRgb, ColorHSLtoRGB);
-}
-
-TEST_P(ColourRows, LumaOfEveryColour) {
-    const CSplit pLuma = [](const std::uint8_t* pRgb, std::uint8_t* pY, std::uint8_t*, std::uint8_t*,
-                            std::size_t n) { RgbToY(pRgb, pY, n); };
-    ExpectSplitAsFormula(pLuma, [](CColor rgb) { return CColor{ColorRGBtoYUV(rgb).r, 0, 0}; });
-}
-
-TEST_P(ColourRows, ChromaOfEveryColourWithItsLuma) {
-    const CSplit pChroma = [](const std::uint8_t* pRgb, std::uint8_t* pY, std::uint8_t* pU, std::uint8_t* pV,
-                              std::size_t n) {
-        for (std::size_t i = 0; i < n; ++i)
-            pY[i] = ColorRGBtoYUV({pRgb[3 * i], pRgb[3 * i + 1], pRgb[3 * i + 2]}).r;
-        RgbToUv(pRgb, pY, pU, pV, n);
-    };
-    ExpectSplitAsFormula(pChroma, ColorRGBtoYUV);
-}
-
-// The sheets hold every U, V for one Y; here every Y comes with one U, V.
-TEST_P(ColourRows, RgbOfEveryTint) {
-    std::array<std::uint8_t, 256> arrY{};
-    for (std::size_t i = 0; i < arrY.size(); ++i) arrY[i] = static_cast<std::uint8_t>(i);
-    std::array<std::uint8_t, 3 * 256> arrRgb{};
-    for (int nTint = 0; nTint < 65536; ++nTint) {
-        const auto u = static_cast<std::uint8_t>(nTint / 256);
-        const auto v = static_cast<std::uint8_t>(nTint % 256);
-        YuvToRgb(arrY.data(), u, v, arrRgb.data(), arrY.size());
-        for (std::size_t i = 0; i < arrY.size(); ++i) {
-            const CColor crGot = {arrRgb[3 * i], arrRgb[3 * i + 1], arrRgb[3 * i + 2]};
-            ASSERT_EQ(crGot, ColorYUVtoRGB({arrY[i], u, v})) << i << ", " << +u << ", " << +v;
+        for (const auto& [join, formula] : joins) {
+            join(in[0].data(), in[1].data(), in[2].data(), rgbOut.data(), kSheet);
+            for (std::size_t i = 0; i < kSheet; ++i)
+                ASSERT_EQ(formula({in[0][i], in[1][i], in[2][i]}),
+                          (CColor{rgbOut[3 * i], rgbOut[3 * i + 1], rgbOut[3 * i + 2]}))
+                    << nSheet << ", " << i;
         }
     }
 }
@@ -160,18 +110,20 @@ TEST_P(ColourRows, TouchExactlyTheRun) {
         Round(RgbToYuv, YuvToRgb, ColorRGBtoYUV, ColorYUVtoRGB);
         Round(RgbToHsl, HslToRgb, ColorRGBtoHSL, ColorHSLtoRGB);
 
-        RgbToY(arrIn.data(), arrMid[0].data() + 1, n);
-        RgbToUv(arrIn.data(), arrMid[0].data() + 1, arrMid[1].data() + 1, arrMid[2].data() + 1, n);
-        for (const auto& mid : arrMid) ASSERT_TRUE(mid.front() == kGuard && mid.back() == kGuard) << n;
-        YuvToRgb(arrMid[0].data() + 1, 113, 143, arrOut.data() + 1, n);
+        const CJoin pBack = [](const std::uint8_t* pY, const std::uint8_t*, const std::uint8_t*,
+                               std::uint8_t* pRgb, std::size_t nRun) { YuvToRgb(pY, 113, 143, pRgb, nRun); };
+        Round(RgbToYThenUv, pBack, ColorRGBtoYUV, [](CColor yuv) {
+            return ColorYUVtoRGB({yuv.r, 113, 143});
+        });
+
+        // Bytes through a map, and moved away from the middle.
+        std::array<std::uint8_t, 256> map{};
+        for (std::uint8_t& b : map) b = static_cast<std::uint8_t>(random());
+        CByteMap(map).Apply(arrIn.data(), arrOut.data() + 1, 3 * n);
         ASSERT_TRUE(arrOut.front() == kGuard && arrOut.back() == kGuard) << n;
-        for (std::size_t i = 0; i < n; ++i) {
-            const CColor yuv = ColorRGBtoYUV({arrIn[3 * i], arrIn[3 * i + 1], arrIn[3 * i + 2]});
-            ASSERT_EQ((CColor{arrMid[0][i + 1], arrMid[1][i + 1], arrMid[2][i + 1]}), yuv)
-                << i << " of " << n;
-            const CColor crGot = {arrOut[3 * i + 1], arrOut[3 * i + 2], arrOut[3 * i + 3]};
-            ASSERT_EQ(crGot, ColorYUVtoRGB({yuv.r, 113, 143})) << i << " of " << n;
-        }
+        for (std::size_t i = 0; i < 3 * n; ++i) ASSERT_EQ(arrOut[i + 1], map[arrIn[i]]) << i << " of " << n;
+        SpreadBytes(arrIn.data(), arrOut.data() + 1, 50, 3 * n);
+        ASSERT_TRUE(arrOut.front() == kGuard && arrOut.back() == kGuard) << n;
     }
 }
 

@@ -2,182 +2,99 @@
 
 #include <algorithm>
 #include <climits>
-#include <random>
 
-#include "engines/effects/Effects.h"
-#include "engines/effects/ImageEffect.h"
-#include "image/CpuChoice.h"
+#include "engines/effects/EffectForms.h"
+#include "image/BlockGate.h"
 #include "support/Pictures.h"
+#include "support/ShortMemory.h"
 
 namespace {
 
 CxImage NoiseImage(int nWidth, int nHeight, unsigned nSeed) {
-    std::mt19937 random(nSeed);
-    CxImage image(nWidth, nHeight);
-    for (std::uint8_t& n : image.MutableBytes()) n = static_cast<std::uint8_t>(random());
-    return image;
+    return CxImage(MakePicture({nWidth, nHeight}, EKind::Noise, nSeed));
 }
 
-CxImage Applied(CxImage image, int nEffect, int nLevel) {
-    CRandomSequence random;
-    CImageEffect engine(random);
-    EXPECT_TRUE(engine.ApplyEffect(image, nEffect, nLevel, false, image.GetWidth()));
-    return image;
+CPixels AfterEffect(CxImage image, EEffect effect, int nLevel, int nRefWidth, CRandomSequence& random) {
+    EXPECT_TRUE(ApplyEffect(image, effect, nLevel, nRefWidth, random));
+    return image.Pixels();
 }
 
-struct CNumbered {
-    int nNumber;
-    void (*apply)(const CEffectCall&);
-};
-constexpr CNumbered kNumbered[] = {
-    {0, Brightness},   {1, Contrast},       {2, Chroma},     {3, Sharpness},
-    {4, Negative},     {5, PureBlackWhite}, {6, BlackWhite}, {7, ColourSaturation},
-    {8, OldPhoto},     {9, NoiseRemoval},   {10, Backlight}, {12, LowLightRepair},
-    {13, Nostalgia},   {14, Moonlight},     {15, Haze1},     {16, Cool},
-    {17, Haze2},       {18, Film},          {19, Art},       {20, CrystalFrame},
-    {21, Jigsaw},      {22, OilPainting},   {23, Tile},      {24, Laminate},
-    {25, Engrave},     {26, ConcaveMirror}, {27, Sketch},    {28, Refraction2},
-    {29, Refraction1}, {30, Woodcut},
-};
-
-TEST(Engine, RunsTheEffectOfEachNumber) {
-    const CxImage src = NoiseImage(67, 53, 1);
-    for (const CNumbered& row : kNumbered) {
-        for (const int nLevel : {7, 20}) {
-            CPixels expected;
-            ASSERT_TRUE(expected.Create(67, 53));
-            CRandomSequence random;
-            row.apply({src.Pixels().View(), expected.MutableView(), nLevel, 67, random});
-            EXPECT_EQ(Applied(src, row.nNumber, nLevel).Pixels(), expected) << row.nNumber;
-            EXPECT_NE(expected, src.Pixels()) << row.nNumber;
-        }
-    }
-    CxImage equalised = src;
-    ASSERT_TRUE(equalised.HistogramEqualize());
-    EXPECT_EQ(Applied(src, 11, 0).Pixels(), equalised.Pixels());
-}
-
-TEST(Engine, LeavesThePictureForNumbersThatAreNoEffect) {
-    const CxImage src = NoiseImage(20, 20, 2);
-    for (const int nNumber : {-1, 31, INT_MIN, INT_MAX})
-        EXPECT_EQ(Applied(src, nNumber, 50).Pixels(), src.Pixels()) << nNumber;
-    CxImage empty;
-    CRandomSequence random;
-    EXPECT_TRUE(CImageEffect(random).ApplyEffect(empty, kNegative, 0, true, 0));
-    EXPECT_FALSE(empty.IsValid());
-}
-
-TEST(Engine, KeepsAlphaAndLeavesEveryCopyAlone) {
-    CxImage src = NoiseImage(40, 30, 3);
-    std::vector<std::uint8_t> alpha(40 * 30);
+TEST(Engine, RunsTheEffectOfEachNumberAndLeavesAlphaAndEveryCopyAlone) {
+    CxImage src = NoiseImage(67, 53, 1);
+    std::vector<std::uint8_t> alpha(67 * 53);
     for (std::size_t i = 0; i < alpha.size(); ++i) alpha[i] = static_cast<std::uint8_t>(i);
     ASSERT_TRUE(src.SetAlpha(alpha));
-    const std::vector<std::uint8_t> before(src.Pixels().Bytes().begin(), src.Pixels().Bytes().end());
-    for (int nNumber = -1; nNumber <= 31; ++nNumber) {
-        const CxImage result = Applied(src, nNumber, 10);
-        EXPECT_TRUE(std::ranges::equal(src.Pixels().Bytes(), before)) << nNumber;
-        EXPECT_TRUE(std::ranges::equal(result.Alpha(), alpha)) << nNumber;
-        EXPECT_EQ(result.GetSize(), src.GetSize()) << nNumber;
+    for (int nNumber = 0; nNumber < kEffectCount; ++nNumber) {
+        CRandomSequence random;
+        const CPixels expected =
+            EffectForms()[static_cast<std::size_t>(nNumber)].naive(src.Pixels(), 7, 67, random);
+        CxImage image = src;
+        random.Seed(1);
+        ASSERT_TRUE(ApplyEffect(image, EffectOf(nNumber), 7, 67, random));
+        EXPECT_EQ(image.Pixels(), expected) << nNumber;
+        EXPECT_NE(image.Pixels(), src.Pixels()) << nNumber;
+        EXPECT_EQ(src.Pixels(), NoiseImage(67, 53, 1).Pixels()) << nNumber;
+        EXPECT_TRUE(std::ranges::equal(image.Alpha(), alpha)) << nNumber;
     }
+    CRandomSequence random;
+    for (const int nNumber : {-1, 31, INT_MIN, INT_MAX})
+        EXPECT_EQ(AfterEffect(src, EffectOf(nNumber), 50, 67, random), src.Pixels()) << nNumber;
+    EXPECT_TRUE(AfterEffect(CxImage(), EEffect::Negative, 0, 0, random).IsEmpty());
 }
 
 TEST(Engine, InvertsAPictureThatNobodySharesWhereItStands) {
     const CxImage src = NoiseImage(37, 11, 4);
-    CxImage image = src;
-    std::ranges::copy(src.Pixels().Bytes(), image.MutableBytes().begin());
+    CxImage image = NoiseImage(37, 11, 4);
     const std::uint8_t* const pBits = image.Pixels().View().pBits;
-    ASSERT_NE(pBits, src.Pixels().View().pBits);
     CRandomSequence random;
-    ASSERT_TRUE(CImageEffect(random).ApplyEffect(image, kNegative, 0, true, 0));
+    ASSERT_TRUE(ApplyEffect(image, EEffect::Negative, 0, 0, random));
     EXPECT_EQ(image.Pixels().View().pBits, pBits);
-    EXPECT_EQ(image.Pixels(), Applied(src, kNegative, 0).Pixels());
-    EXPECT_NE(image.Pixels(), src.Pixels());
+    EXPECT_EQ(image.Pixels(), AfterEffect(src, EEffect::Negative, 0, 0, random));
 }
 
-TEST(Engine, KnowsTheFullWidthFromTheLastPreview) {
-    const CxImage src = NoiseImage(60, 50, 4);
+TEST(Engine, TakesSizesFromTheFullWidthAndElseFromThePicture) {
     CRandomSequence random;
-    CImageEffect engine(random);
-    CxImage preview = src;
-    EXPECT_TRUE(engine.ApplyEffect(preview, kLaminate, 4, false, 240));  // blocks of 10 pixels
-    CxImage full = src;
-    EXPECT_TRUE(engine.ApplyEffect(full, kLaminate, 4, true, 60));
-    EXPECT_EQ(full.Pixels(), preview.Pixels());
-    EXPECT_EQ(engine.RefWidth(), 240);
-    EXPECT_TRUE(engine.ApplyEffect(full, -1, 0, false, 90));
-    EXPECT_EQ(engine.RefWidth(), 90);
-
-    // Before any preview, and for a width that is none, the picture's own one stands in.
-    CxImage own = src;
-    EXPECT_TRUE(engine.ApplyEffect(own, kLaminate, 1, false, 60));
-    for (const int nRefWidth : {0, -5}) {
-        CxImage other = src;
-        EXPECT_TRUE(CImageEffect(random).ApplyEffect(other, kLaminate, 1, false, nRefWidth));
-        EXPECT_EQ(other.Pixels(), own.Pixels()) << nRefWidth;
-    }
+    const auto Laminated = [&](int nLevel, int nRefWidth) {
+        return AfterEffect(NoiseImage(60, 50, 4), EEffect::Laminate, nLevel, nRefWidth, random);
+    };
+    EXPECT_EQ(Laminated(4, 240), Laminated(1, 60)) << "blocks of 10 pixels";
+    EXPECT_NE(Laminated(1, 240), Laminated(1, 60));
+    for (const int nRefWidth : {0, -5}) EXPECT_EQ(Laminated(1, nRefWidth), Laminated(1, 60));
 }
 
-TEST(Engine, GoesOnInItsRandomNumbersUntilItIsSeeded) {
+TEST(Engine, GoesOnInItsRandomNumbersUntilTheyAreSeeded) {
     const CxImage src = NoiseImage(60, 50, 5);
-    for (const int nNumber : {kOilPainting, kTile}) {
+    for (const EEffect effect : {EEffect::OilPainting, EEffect::Tile}) {
         CRandomSequence random;
-        CImageEffect engine(random);
-        CxImage first = src;
-        CxImage second = src;
-        CxImage third = src;
-        ASSERT_TRUE(engine.ApplyEffect(first, nNumber, 5, false, 200));
-        ASSERT_TRUE(engine.ApplyEffect(second, nNumber, 5, true, 200));
+        const CPixels first = AfterEffect(src, effect, 5, 200, random);
+        EXPECT_NE(AfterEffect(src, effect, 5, 200, random), first);
         random.Seed(1);
-        ASSERT_TRUE(engine.ApplyEffect(third, nNumber, 5, true, 200));
-        EXPECT_NE(first.Pixels(), second.Pixels()) << nNumber;
-        EXPECT_EQ(first.Pixels(), third.Pixels()) << nNumber;
+        EXPECT_EQ(AfterEffect(src, effect, 5, 200, random), first);
     }
 }
 
-TEST(Engine, ChangesNothingAtLevelZeroButForTheWayThroughHue) {
-    const CxImage src = NoiseImage(64, 48, 6);
+// Each allocation of an effect fails in turn, then the pixels of the result.
+TEST(Engine, WithoutMemoryLeavesThePictureAndSaysSo) {
+    const CxImage src = NoiseImage(200, 150, 6);
+    CRandomSequence random;
     for (int nNumber = 0; nNumber < kEffectCount; ++nNumber) {
-        if (!kEffects[static_cast<std::size_t>(nNumber)].bHasLevel) continue;
-        CPixels expected = src.Pixels();
-        if (nNumber == kChroma)
-            for (int y = 0; y < 48; ++y)
-                for (int x = 0; x < 64; ++x)
-                    expected.MutableView().Set(x, y,
-                                               ColorHSLtoRGB(ColorRGBtoHSL(PixelAt(src.Pixels(), x, y))));
-        EXPECT_EQ(Applied(src, nNumber, 0).Pixels(), expected) << nNumber;
-    }
-}
-
-TEST(Engine, GivesTheSamePictureWithAndWithoutWideVectors) {
-    std::mt19937 random(7);
-    for (int nRound = 0; nRound < 12; ++nRound) {
-        const int nWidth = 1 + static_cast<int>(random() % 300);
-        const int nHeight = 1 + static_cast<int>(random() % 200);
-        const CxImage src = NoiseImage(nWidth, nHeight, static_cast<unsigned>(nRound));
-        for (int nNumber = 0; nNumber < kEffectCount; ++nNumber) {
-            const CEffectRow& row = kEffects[static_cast<std::size_t>(nNumber)];
-            for (const int nLevel : {row.nMin, row.nMax / 3, row.nMax, 2 * row.nMax + 1}) {
-                const CxImage wide = Applied(src, nNumber, nLevel);
-                const CPlainLoops plain;
-                ASSERT_EQ(Applied(src, nNumber, nLevel).Pixels(), wide.Pixels())
-                    << nNumber << " at " << nLevel << ", " << nWidth << " by " << nHeight << ", seed "
-                    << nRound;
+        const auto ExpectRefusal = [&](const CxImage& image, bool bDone, int n) {
+            EXPECT_FALSE(bDone) << nNumber << ", " << n;
+            EXPECT_TRUE(image.Pixels().SharesWith(src.Pixels())) << nNumber << ", " << n;
+        };
+        for (int n = 0;; ++n) {
+            CxImage image = src;
+            bool bDone = false;
+            {
+                const CShortMemory memory(n);
+                bDone = ApplyEffect(image, EffectOf(nNumber), 7, 200, random);
             }
+            if (bDone) break;
+            ExpectRefusal(image, bDone, n);
         }
-    }
-}
-
-TEST(Engine, GivesColoursOfSixteenBitsWhereItWorksInThem) {
-    const CxImage src = NoiseImage(200, 150, 8);
-    for (const int nNumber : {kFilm, kCrystalFrame, kEngrave, kConcaveMirror}) {
-        int nBits = 0;
-        const CxImage result = Applied(src, nNumber, 0);
-        for (int y = 0; y < 150; ++y)
-            for (int x = 0; x < 200; ++x) {
-                const CColor cr = PixelAt(result.Pixels(), x, y);
-                nBits |= (cr.r & 7) | (cr.g & 3) | (cr.b & 7);
-            }
-        EXPECT_EQ(nBits, 0) << nNumber;
+        CxImage image = src;
+        const CBlockGate gate(1);
+        ExpectRefusal(image, ApplyEffect(image, EffectOf(nNumber), 7, 200, random), -1);
     }
 }
 

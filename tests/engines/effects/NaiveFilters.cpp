@@ -1,7 +1,7 @@
-#include "engines/effects/NaiveFilters.h"
-
 #include <algorithm>
 #include <cstdlib>
+
+#include "engines/effects/NaiveForms.h"
 
 namespace {
 

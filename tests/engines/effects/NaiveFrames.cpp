@@ -1,9 +1,8 @@
-#include "engines/effects/NaiveFrames.h"
-
 #include <vector>
 
 #include "engines/effects/FrameTables.h"
-#include "engines/effects/NaiveFilters.h"
+#include "engines/effects/NaiveForms.h"
+#include "engines/effects/VignetteMask.h"
 #include "support/Pictures.h"
 
 namespace {
@@ -191,7 +190,13 @@ CPixels NaiveFilm(const CPixels& src) {
     return dst.ToPixels();
 }
 
-CPixels NaiveArt(const CPixels& src, const CPixels& mask) {
+CPixels NaiveArt(const CPixels& src) {
+    CPixels mask = CPixels::MakeFilled(CVignetteMask::kWidth, CVignetteMask::kHeight, {});
+    for (int y = 0; y < mask.Height(); ++y)
+        for (int x = 0; x < mask.Width(); ++x) {
+            const std::uint8_t n = VignetteMask().Row(y)[static_cast<std::size_t>(x)];
+            mask.MutableView().Set(x, y, {n, n, n});
+        }
     const CPixels stretched = NaiveResample(mask, src.Width(), src.Height());
     CNaivePlanes p(src);
     for (int y = 0; y < p.nHeight; ++y)
@@ -240,7 +245,7 @@ CPixels NaiveJigsaw(const CPixels& src) {
     return p.ToPixels();
 }
 
-CPixels NaiveOilPainting(const CPixels& src, int nLevel, CRandomSequence& random) {
+CPixels NaiveOilPainting(const CPixels& src, int nLevel, int, CRandomSequence& random) {
     if (nLevel == 0 || src.Width() < 10 || src.Height() < 10) return src;
     CNaivePlanes p(src);
     const std::vector<std::uint8_t> d = p.y;
@@ -269,7 +274,8 @@ CPixels NaiveTile(const CPixels& src, int nLevel, int nRefWidth, CRandomSequence
     std::int64_t g = static_cast<std::int64_t>(w) * nLevel * 20 / nRefWidth;
     const auto nCompared = static_cast<std::int16_t>(g);
     if (!(nCompared < w && nCompared < h)) g = w <= h ? w - 1 : h - 1;
-    if (w < 2 || h < 2 || g <= 0) return src;
+    // No level below 0 exists.
+    if (w < 2 || h < 2 || g <= 0 || nLevel < 0) return src;
     CNaivePlanes p(src);
     const auto Whiten = [&p](std::int64_t n) {
         if (n >= Cells(p)) return;
@@ -289,7 +295,7 @@ CPixels NaiveTile(const CPixels& src, int nLevel, int nRefWidth, CRandomSequence
     return p.ToPixels();
 }
 
-CPixels NaiveLaminate(const CPixels& src, int nLevel, int nRefWidth) {
+CPixels NaiveLaminate(const CPixels& src, int nLevel, int nRefWidth, CRandomSequence&) {
     const int w = src.Width();
     const int h = src.Height();
     std::int64_t nSide = static_cast<std::int64_t>(w) * nLevel * 10 / nRefWidth;

@@ -1,4 +1,4 @@
-#include "engines/effects/NaiveTones.h"
+#include "engines/effects/NaiveForms.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -60,7 +60,7 @@ CPixels NaiveChroma(const CPixels& src, int nLevel) {
     });
 }
 
-CPixels NaiveNegative(const CPixels& src, int) {
+CPixels NaiveNegative(const CPixels& src) {
     return ForEachPixel(src, [](CColor cr) {
         return CColor{Byte(255 - cr.r), Byte(255 - cr.g), Byte(255 - cr.b)};
     });
@@ -84,7 +84,7 @@ CPixels NaivePureBlackWhite(const CPixels& src, int nLevel) {
     return dst;
 }
 
-CPixels NaiveBlackWhite(const CPixels& src, int) {
+CPixels NaiveBlackWhite(const CPixels& src) {
     return ThroughYuv(src, [](CColor yuv) { return CColor{yuv.r, 128, 128}; });
 }
 
@@ -95,8 +95,14 @@ CPixels NaiveColourSaturation(const CPixels& src, int nLevel) {
     });
 }
 
-CPixels NaiveOldPhoto(const CPixels& src, int) {
+CPixels NaiveOldPhoto(const CPixels& src) {
     return ThroughYuv(src, [](CColor yuv) { return CColor{yuv.r, 113, 143}; });
+}
+
+// The picture container has a form of its own.
+CPixels NaiveHomogenise(const CPixels& src) {
+    CxImage image(src);
+    return image.HistogramEqualize() ? image.Pixels() : CPixels();
 }
 
 CPixels NaiveNostalgia(const CPixels& src, int nLevel) {

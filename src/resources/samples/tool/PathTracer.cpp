@@ -1,6 +1,6 @@
 #include "Bvh.h"
 #include "Denoise.h"
-#include "Stage.h"
+#include "Scene.h"
 
 namespace {
 
@@ -48,7 +48,7 @@ CVec3 Fresnel(CVec3 crMirror, float fCos) {
 // Body and gloss of an opaque surface, seen from `out`.
 class CLobes {
   public:
-    CLobes(const CSurface& surface, CVec3 out) : m_surface(surface), m_out(out), m_fAlpha(Alpha(surface)) {
+    CLobes(const CMaterial& surface, CVec3 out) : m_surface(surface), m_out(out), m_fAlpha(Alpha(surface)) {
         const float fMirror = Luminance(Fresnel(surface.crMirror, std::max(Dot(surface.normal, out), 0.0F)));
         const float fBody = Luminance(surface.crBody);
         m_fGlossChance = std::clamp(fMirror / (fMirror + fBody + 1e-6F), 0.1F, 0.9F);
@@ -84,11 +84,11 @@ class CLobes {
     }
 
   private:
-    static float Alpha(const CSurface& surface) {
+    static float Alpha(const CMaterial& surface) {
         return std::max(surface.fRoughness * surface.fRoughness, 0.003F);
     }
 
-    const CSurface& m_surface;
+    const CMaterial& m_surface;
     CVec3 m_out;
     float m_fAlpha;
     float m_fGlossChance;
@@ -96,7 +96,7 @@ class CLobes {
 
 class CTracer {
   public:
-    explicit CTracer(const CStage& stage) : m_stage(stage), m_bvh(stage.mesh) {}
+    explicit CTracer(const CScene& stage) : m_stage(stage), m_bvh(stage.mesh) {}
 
     CVec3 Trace(const CRay& ray, CRandom& random, CClues& clues, std::size_t nPixel, float fPart) const {
         CPath path{.ray = ray, .light = {}};
@@ -111,7 +111,7 @@ class CTracer {
             }
             Breathe(path, hit.t);
             hit.spot.bClose = path.nBodyBounces == 0;
-            const CSurface surface = m_stage.shaders[hit.nMaterial](hit.spot);
+            const CMaterial surface = m_stage.shaders[hit.nMaterial](hit.spot);
             const bool bClear = m_stage.clear[hit.nMaterial];
             path.light += path.weight * surface.crEmitted;
             if (!path.bCluesTaken && (!bClear || nBounce > 3)) {
@@ -151,7 +151,7 @@ class CTracer {
 
     void Breathe(CPath& path, float fLength) const {
         if (!m_stage.air) return;
-        const CStage::CAir air = m_stage.air(path.ray.origin, path.ray.dir, fLength);
+        const CScene::CAir air = m_stage.air(path.ray.origin, path.ray.dir, fLength);
         path.light += path.weight * air.crAdded;
         path.weight *= air.through;
     }
@@ -203,7 +203,7 @@ class CTracer {
             CHit hit;
             if (!Find(ray, hit, fEnd)) return through;
             if (!m_stage.clear[hit.nMaterial]) return {};
-            const CSurface surface = m_stage.shaders[hit.nMaterial](hit.spot);
+            const CMaterial surface = m_stage.shaders[hit.nMaterial](hit.spot);
             const float fCos = std::fabs(Dot(ray.dir, hit.spot.normal));
             through *= surface.crThrough * (CVec3{1, 1, 1} - Fresnel({0.04F, 0.04F, 0.04F}, fCos));
             ray.origin = Off(hit, -1);
@@ -231,7 +231,7 @@ class CTracer {
                           {kFireflyLimit, kFireflyLimit, kFireflyLimit});
     }
 
-    bool Scatter(CPath& path, const CHit& hit, const CSurface& surface, CRandom& random) const {
+    bool Scatter(CPath& path, const CHit& hit, const CMaterial& surface, CRandom& random) const {
         const CLobes lobes(surface, -path.ray.dir);
         AskLamp(path, hit, lobes, random);
         if (++path.nBodyBounces > kMaxBodyBounces) return false;
@@ -250,7 +250,7 @@ class CTracer {
         return true;
     }
 
-    static bool PassClear(CPath& path, const CHit& hit, const CSurface& surface, CRandom& random) {
+    static bool PassClear(CPath& path, const CHit& hit, const CMaterial& surface, CRandom& random) {
         const float fRatio = hit.bFront ? 1 / surface.fIndex : surface.fIndex;
         const float fCos = std::min(-Dot(path.ray.dir, surface.normal), 1.0F);
         const float fSin2 = fRatio * fRatio * (1 - fCos * fCos);
@@ -272,7 +272,7 @@ class CTracer {
         return true;
     }
 
-    const CStage& m_stage;
+    const CScene& m_stage;
     CBvh m_bvh;
 };
 
@@ -295,7 +295,7 @@ CRay CCamera::Through(float x, float y, CVec2 lens) const {
     return {from, Normalize(sharp - from)};
 }
 
-CFilm Photograph(const CStage& stage, int nWidth, int nHeight, int nPaths) {
+CFilm Photograph(const CScene& stage, int nWidth, int nHeight, int nPaths) {
     const CTracer tracer(stage);
     CFilm film(nWidth, nHeight);
     CClues clues(nWidth, nHeight);

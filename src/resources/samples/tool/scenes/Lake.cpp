@@ -3,7 +3,7 @@
 
 #include "LakeShore.h"
 #include "Pictures.h"
-#include "Stage.h"
+#include "Scene.h"
 
 namespace {
 
@@ -38,7 +38,7 @@ CVec3 Sky(CVec3 dir, bool bClose) {
     return cr * 1.05F;
 }
 
-CStage::CAir Haze(CVec3, CVec3 dir, float fLength) {
+CScene::CAir Haze(CVec3, CVec3 dir, float fLength) {
     // Thin morning air: blue goes first.
     const float f = fLength * 0.0034F;
     const CVec3 through{std::exp(-f * 0.62F), std::exp(-f * 0.85F), std::exp(-f * 1.15F)};
@@ -47,10 +47,10 @@ CStage::CAir Haze(CVec3, CVec3 dir, float fLength) {
     return {through, glow * (CVec3{1, 1, 1} - through)};
 }
 
-CSurface Ground(const CSpot& spot) {
+CMaterial Ground(const CSpot& spot) {
     const CVec3 p = spot.position;
     const CVec2 at{p.x, p.z};
-    CSurface surface;
+    CMaterial surface;
     surface.fRoughness = 0.95F;
     surface.crMirror = {0.01F, 0.01F, 0.01F};
     const float fFar = Smooth(18, 60, -p.z);
@@ -74,8 +74,8 @@ CSurface Ground(const CSpot& spot) {
     return surface;
 }
 
-CSurface Water(const CSpot& spot) {
-    CSurface surface;
+CMaterial Water(const CSpot& spot) {
+    CMaterial surface;
     const CVec3 p = spot.position;
     surface.crBody = Mix(CVec3{0.012F, 0.045F, 0.05F}, CVec3{0.05F, 0.09F, 0.07F}, Smooth(14, 2, -p.z));
     surface.crMirror = {0.021F, 0.021F, 0.021F};
@@ -94,7 +94,7 @@ CSurface Water(const CSpot& spot) {
 }  // namespace
 
 CFilm TakeLake(int nWidth, int nHeight, int nFineness) {
-    CStage stage;
+    CScene stage;
     const int nGround = stage.AddShader(Ground);
     // Rows of the land get wider apart with the distance, as the picture needs it.
     const auto land = [&](float fNear, float fFar, int nRows) {

@@ -19,7 +19,7 @@ constexpr CPeak kPeaks[] = {{{-27, 116}, 39, 44}, {{3, 122}, 30, 36},  {{33, 126
 
 CShader Bark(unsigned nHex) {
     return [cr = Srgb(nHex)](const CSpot& spot) {
-        CSurface surface;
+        CMaterial surface;
         const CVec3 p = spot.rest;
         surface.crBody = cr * (0.8F + 0.5F * Fbm(CVec3{p.x * 22, p.y * 4, p.z * 22}, 3));
         surface.normal = spot.normal;
@@ -31,7 +31,7 @@ CShader Bark(unsigned nHex) {
 
 CShader Needles(unsigned nDark, unsigned nLight) {
     return [dark = Srgb(nDark), light = Srgb(nLight)](const CSpot& spot) {
-        CSurface surface;
+        CMaterial surface;
         const CVec3 p = spot.position;
         surface.crBody =
             Mix(dark, light, Clamp01(0.5F + Fbm(p * 1.3F, 3) + 0.5F * Noise(CVec2{p.x * 0.3F, p.z * 0.3F})));
@@ -43,7 +43,7 @@ CShader Needles(unsigned nDark, unsigned nLight) {
 }
 
 // A spruce as seen from afar: a spire whose skirt is ragged.
-void AddFarTree(CStage& stage, int nMaterial, CVec3 foot, float fHeight, int nAround, int nTiers,
+void AddFarTree(CScene& stage, int nMaterial, CVec3 foot, float fHeight, int nAround, int nTiers,
                 std::uint32_t nSeed) {
     const float fWide = fHeight * (0.15F + 0.07F * static_cast<float>(nSeed & 255U) / 255);
     const float fLean = 0.05F * (static_cast<float>(nSeed >> 8 & 255U) / 255 - 0.5F);
@@ -60,7 +60,7 @@ void AddFarTree(CStage& stage, int nMaterial, CVec3 foot, float fHeight, int nAr
 }
 
 // A spruce close by: whorls of boughs that droop, each with twigs to both sides.
-void AddNearTree(CStage& stage, int nBark, int nNeedles, CVec3 foot, float fHeight, std::uint32_t nSeed) {
+void AddNearTree(CScene& stage, int nBark, int nNeedles, CVec3 foot, float fHeight, std::uint32_t nSeed) {
     CRandom random(nSeed, 5);
     const std::size_t nFirst = stage.mesh.corners.size();
     AddTurned(stage.mesh, nBark, {{0.026F, 0}, {0.02F, 0.1F}, {0.015F, 0.4F}, {0.007F, 0.8F}, {0.001F, 1}},
@@ -110,8 +110,8 @@ CVec3 SkinPoint(float u, float v, float fShrink) {
     return {-fBeam * std::cos(a) * (0.75F + 0.25F * (1 - fDepth)), Mix(fTop, fKeel, fDepth), -s * 1.3F};
 }
 
-CSurface Plank(const CSpot& spot) {
-    CSurface surface;
+CMaterial Plank(const CSpot& spot) {
+    CMaterial surface;
     const CVec3 p = spot.position;
     const float fOwn = std::floor(p.z / 0.19F);
     const float fGrain = Fbm(CVec2{p.x * 2.2F + fOwn * 3.7F, p.z * 34}, 4);
@@ -149,7 +149,7 @@ float LandHeight(float x, float d) {
     return std::max(f, -1.5F + 2.1F * fBank + 0.07F * Fbm(at * 2.2F, 4) * fBank);
 }
 
-void AddWoods(CStage& stage) {
+void AddWoods(CScene& stage) {
     const int nFar = stage.AddShader(Needles(0x18301f, 0x3f5a2a));
     const int nGold = stage.AddShader(Needles(0x7a5a18, 0xb8862a));
     for (int i = 0; i < 15000; ++i) {
@@ -170,9 +170,9 @@ void AddWoods(CStage& stage) {
     AddNearTree(stage, nBark, nNear, {-4.4F, LandHeight(-4.4F, 10.6F) - 0.1F, -10.6F}, 4.6F, 13);
 }
 
-void AddReeds(CStage& stage) {
+void AddReeds(CScene& stage) {
     const int nReed = stage.AddShader([](const CSpot& spot) {
-        CSurface surface;
+        CMaterial surface;
         surface.crBody = Mix(Srgb(0x4f6a2a), Srgb(0xb09a50),
                              Clamp01(0.4F + 0.5F * Noise(spot.position * 3) + 0.25F * spot.position.y));
         surface.normal = spot.normal;
@@ -198,7 +198,7 @@ void AddReeds(CStage& stage) {
     }
 }
 
-void AddJetty(CStage& stage) {
+void AddJetty(CScene& stage) {
     const int nPlank = stage.AddShader(Plank);
     const int nPost = stage.AddShader(Bark(0x5d4c3c));
     const std::size_t nFirst = stage.mesh.corners.size();
@@ -224,9 +224,9 @@ void AddJetty(CStage& stage) {
     stage.mesh.Move(nFirst, [](CVec3 p) { return TurnY(p, 0.2F) + CVec3{3.1F, 0, -4.0F}; });
 }
 
-void AddBoat(CStage& stage) {
+void AddBoat(CScene& stage) {
     const int nHull = stage.AddShader([](const CSpot& spot) {
-        CSurface surface;
+        CMaterial surface;
         const CVec3 p = spot.rest;
         const float fStrake = std::fabs(std::fmod(p.y * 9 + 9, 1.0F) - 0.5F);
         surface.crBody = Mix(Srgb(0xb03a2a), Srgb(0x8a2a20), Fbm(p * 6, 4) + 0.4F);

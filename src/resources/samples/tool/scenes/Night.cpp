@@ -4,7 +4,7 @@
 
 #include "NightTown.h"
 #include "Pictures.h"
-#include "Stage.h"
+#include "Scene.h"
 
 namespace {
 
@@ -23,8 +23,8 @@ CVec3 NightSky(CVec3 dir, bool) {
     return cr + CVec3{2.2F, 1.95F, 1.5F} * fDisk;
 }
 
-CSurface River(const CSpot& spot) {
-    CSurface surface;
+CMaterial River(const CSpot& spot) {
+    CMaterial surface;
     surface.crBody = {0, 0, 0};
     surface.crEmitted = {0.002F, 0.004F, 0.009F};
     surface.crMirror = {0.035F, 0.035F, 0.035F};
@@ -38,12 +38,12 @@ CSurface River(const CSpot& spot) {
 }
 
 // Silk on ribs, lit from within.
-CSurface Silk(const CSpot& spot) {
+CMaterial Silk(const CSpot& spot) {
     const CVec3 p = spot.rest;
     const float a = std::atan2(p.z, p.x) / (2 * kPi) * 20;
     const float fRib = std::fabs(a - std::floor(a) - 0.5F);
     const float fGlow = std::exp(-p.y * p.y * 2.6F) * (0.45F + 0.55F * Smooth(0.5F, 0.38F, fRib));
-    CSurface surface;
+    CMaterial surface;
     surface.crBody = Srgb(0x8a1410) * 0.5F;
     surface.crEmitted = CVec3{0.85F, 0.05F, 0.022F} * (fGlow * (0.93F + 0.16F * Fbm(p * 6, 3))) +
                         CVec3{1.0F, 0.33F, 0.07F} * (0.42F * std::pow(fGlow, 4.0F));
@@ -57,8 +57,8 @@ CSurface Silk(const CSpot& spot) {
     return surface;
 }
 
-CSurface Gilt(const CSpot& spot) {
-    CSurface surface;
+CMaterial Gilt(const CSpot& spot) {
+    CMaterial surface;
     surface.crBody = Srgb(0x7a4a10) * 0.5F;
     surface.crMirror = Srgb(0xd09a40) * 0.5F;
     surface.crEmitted = CVec3{0.09F, 0.045F, 0.01F};
@@ -67,8 +67,8 @@ CSurface Gilt(const CSpot& spot) {
     return surface;
 }
 
-CSurface Thread(const CSpot& spot) {
-    CSurface surface;
+CMaterial Thread(const CSpot& spot) {
+    CMaterial surface;
     surface.crBody = Srgb(0x8a1612) * 0.6F;
     surface.crEmitted = CVec3{0.26F, 0.025F, 0.012F} *
                         (0.6F + 0.5F * Noise(CVec3{spot.rest.x * 70, spot.rest.y * 2, spot.rest.z * 70}));
@@ -76,7 +76,7 @@ CSurface Thread(const CSpot& spot) {
     return surface;
 }
 
-void AddLantern(CStage& stage, CVec3 ptAt, float fScale, const std::array<int, 3>& materials) {
+void AddLantern(CScene& stage, CVec3 ptAt, float fScale, const std::array<int, 3>& materials) {
     CMesh& mesh = stage.mesh;
     const std::size_t nFirst = mesh.corners.size();
     AddTurned(mesh, materials[0],
@@ -121,7 +121,7 @@ void AddLantern(CStage& stage, CVec3 ptAt, float fScale, const std::array<int, 3
     mesh.Move(nFirst, [&](CVec3 p) { return ptAt + p * fScale; });
 }
 
-void AddLanterns(CStage& stage) {
+void AddLanterns(CScene& stage) {
     const std::array<int, 3> materials{stage.AddShader(Silk), stage.AddShader(Gilt), stage.AddShader(Thread)};
     AddLantern(stage, {-1.15F, 4.98F, -4.0F}, 0.3F, materials);
     AddLantern(stage, {-1.72F, 5.62F, -5.0F}, 0.26F, materials);
@@ -193,11 +193,11 @@ void AddLampDisks(CFilm& film, const CCamera& camera, const std::vector<CTownLam
 
 // Where the lanterns cover what lies behind them, 0..1 in x.
 CFilm LanternCover(const CCamera& camera, int nWidth, int nHeight) {
-    CStage stage;
+    CScene stage;
     AddLanterns(stage);
     for (CShader& shader : stage.shaders) {
         shader = [](const CSpot& spot) {
-            CSurface surface;
+            CMaterial surface;
             surface.crBody = {};
             surface.crMirror = {};
             surface.crEmitted = {1, 1, 1};
@@ -213,7 +213,7 @@ CFilm LanternCover(const CCamera& camera, int nWidth, int nHeight) {
 }  // namespace
 
 CFilm TakeNight(int nWidth, int nHeight, int nFineness) {
-    CStage stage;
+    CScene stage;
     AddSheet(stage.mesh, stage.AddShader(River), 1, 1, false, [](float u, float v) {
         return CVec3{-200 + 400 * u, 0, 10 - 74 * v};
     });

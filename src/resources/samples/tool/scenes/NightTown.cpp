@@ -7,8 +7,8 @@ namespace {
 constexpr float kQuay = -64;  // z of the wall along the far bank
 
 // A surface that only shines: by night what is not lit is not worth asking.
-CSurface Shining(const CSpot& spot, CVec3 cr) {
-    CSurface surface;
+CMaterial Shining(const CSpot& spot, CVec3 cr) {
+    CMaterial surface;
     surface.crBody = {};
     surface.crMirror = {};
     surface.crEmitted = cr;
@@ -47,7 +47,7 @@ CShader Tower(int nSeed, float fTop, CVec3 crCrown) {
     };
 }
 
-void AddTowers(CStage& stage) {
+void AddTowers(CScene& stage) {
     static constexpr std::array<CVec3, 5> kCrowns{{{0.9F, 0.35F, 0.12F},
                                                    {0.15F, 0.45F, 1.1F},
                                                    {0.9F, 0.15F, 0.35F},
@@ -72,7 +72,7 @@ void AddTowers(CStage& stage) {
 }
 
 // Seven storeys of a pagoda on its hill, washed with warm light from below.
-void AddPagoda(CStage& stage, CVec3 foot) {
+void AddPagoda(CScene& stage, CVec3 foot) {
     const int nHill = stage.AddShader([](const CSpot& spot) {
         const float f = Fbm(spot.position * 0.9F, 4);
         return Shining(
@@ -129,7 +129,7 @@ void AddPagoda(CStage& stage, CVec3 foot) {
 }
 
 // A stone bridge of five arches over the river's arm on the right.
-void AddBridge(CStage& stage, std::vector<CTownLamp>& lamps) {
+void AddBridge(CScene& stage, std::vector<CTownLamp>& lamps) {
     const auto deck = [](float x) { return 2.6F + 2.2F * std::exp(-std::pow((x - 20) / 17, 2.0F)); };
     const int nStone = stage.AddShader([](const CSpot& spot) {
         const CVec3 p = spot.position;
@@ -157,7 +157,7 @@ void AddBridge(CStage& stage, std::vector<CTownLamp>& lamps) {
 
 }  // namespace
 
-std::vector<CTownLamp> AddTown(CStage& stage) {
+std::vector<CTownLamp> AddTown(CScene& stage) {
     std::vector<CTownLamp> lamps;
     AddTowers(stage);
     const int nQuay = stage.AddShader([](const CSpot& spot) {

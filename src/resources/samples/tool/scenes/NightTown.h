@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "Stage.h"
+#include "Scene.h"
 
 struct CTownLamp {
     CVec3 at;
@@ -12,4 +12,4 @@ struct CTownLamp {
 
 // The far bank with its houses, towers, pagoda and bridge; returns its single lamps, which are no part of the
 // mesh.
-std::vector<CTownLamp> AddTown(CStage& stage);
+std::vector<CTownLamp> AddTown(CScene& stage);

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "Pictures.h"
-#include "Stage.h"
+#include "Scene.h"
 #include "TextSheet.h"
 
 namespace {
@@ -50,7 +50,7 @@ float PageHeight(float x, float z) {
 CShader Paper(const CTextSheet& sheet) {
     return [&sheet](const CSpot& spot) {
         const CVec3 p = spot.rest;
-        CSurface surface;
+        CMaterial surface;
         const float u = p.x / kPageWidth;
         const float v = 0.5F + p.z / kPageDepth;
         const float fInk = sheet.InkAt(u, v) * (0.93F + 0.14F * Noise(CVec2{p.x * 40, p.z * 40}));
@@ -72,8 +72,8 @@ CShader Paper(const CTextSheet& sheet) {
     };
 }
 
-CSurface PageEdges(const CSpot& spot) {
-    CSurface surface;
+CMaterial PageEdges(const CSpot& spot) {
+    CMaterial surface;
     const CVec3 p = spot.position;
     const float fLeaf = Noise(CVec3{p.x * 2, p.y * 130, p.z * 2}) + 0.6F * Noise(CVec3{p.x, p.y * 310, p.z});
     surface.crBody = Srgb(0xd8c7a4) * (0.75F + 0.22F * fLeaf);
@@ -82,8 +82,8 @@ CSurface PageEdges(const CSpot& spot) {
     return surface;
 }
 
-CSurface Desk(const CSpot& spot) {
-    CSurface surface;
+CMaterial Desk(const CSpot& spot) {
+    CMaterial surface;
     const CVec3 p = TurnY(spot.position, 0.2F);
     const float fWarp = Fbm(CVec2{p.x * 0.9F, p.z * 0.25F}, 4) * 1.6F;
     const float fRings = 0.5F + 0.5F * std::sin((p.x + fWarp) * 19 + 2 * Fbm(CVec2{p.x * 9, p.z * 0.7F}, 3));
@@ -94,8 +94,8 @@ CSurface Desk(const CSpot& spot) {
     return surface;
 }
 
-CSurface Ginkgo(const CSpot& spot) {
-    CSurface surface;
+CMaterial Ginkgo(const CSpot& spot) {
+    CMaterial surface;
     const float a = spot.rest.x;
     const float r = spot.rest.y;
     const float fVeins = std::sin(a * 260) * 0.5F + std::sin(a * 410 + 1) * 0.3F;
@@ -108,7 +108,7 @@ CSurface Ginkgo(const CSpot& spot) {
     return surface;
 }
 
-void AddBook(CStage& stage, int nPaper) {
+void AddBook(CScene& stage, int nPaper) {
     AddSheet(stage.mesh, nPaper, 160, 120, false, [](float u, float v) {
         return CVec3{u * kPageWidth, 0, (0.5F - v) * kPageDepth};
     });
@@ -132,7 +132,7 @@ void AddBook(CStage& stage, int nPaper) {
     });
 }
 
-void AddLeaf(CStage& stage) {
+void AddLeaf(CScene& stage) {
     const int nLeaf = stage.AddShader(Ginkgo);
     const std::size_t nFirst = stage.mesh.corners.size();
     AddSheet(stage.mesh, nLeaf, 160, 40, false, [](float u, float v) { return CVec3{1 - 2 * u, v, 0}; });
@@ -151,7 +151,7 @@ void AddLeaf(CStage& stage) {
     CMesh& mesh = stage.mesh;
     for (std::size_t i = nFirst; i < mesh.corners.size(); ++i) mesh.corners[i].normal = {0, 1, 0};
     const int nStem = stage.AddShader([](const CSpot& spot) {
-        CSurface surface;
+        CMaterial surface;
         surface.crBody = Srgb(0xb7a63c);
         surface.normal = spot.normal;
         return surface;
@@ -165,9 +165,9 @@ void AddLeaf(CStage& stage) {
     });
 }
 
-void AddPencil(CStage& stage) {
+void AddPencil(CScene& stage) {
     const int nLacquer = stage.AddShader([](const CSpot& spot) {
-        CSurface surface;
+        CMaterial surface;
         const float y = spot.rest.y;
         const bool bBand = y > 1.62F && y < 1.66F;
         surface.crBody = y < 0.055F ? Srgb(0x2a2a2c)
@@ -194,7 +194,7 @@ void AddPencil(CStage& stage) {
 }  // namespace
 
 CFilm TakePage(int nWidth, int nHeight, int nFineness) {
-    CStage stage;
+    CScene stage;
     const CTextSheet sheet = PrintPage();
     const int nPaper = stage.AddShader(Paper(sheet));
     AddSheet(stage.mesh, stage.AddShader(Desk), 1, 1, false, [](float u, float v) {

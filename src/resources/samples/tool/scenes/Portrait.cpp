@@ -1,7 +1,7 @@
 // A painted clay figure of a girl, three quarters turned, in soft light before a garden out of focus.
 
 #include "Pictures.h"
-#include "Stage.h"
+#include "Scene.h"
 
 namespace {
 
@@ -64,7 +64,7 @@ CVec3 BlendPaint(CVec3 cr, unsigned nHex, float fAmount) {
     return Mix(cr, Srgb(nHex), Clamp01(fAmount));
 }
 
-CSurface Skin(const CSpot& spot) {
+CMaterial Skin(const CSpot& spot) {
     const CVec3 p = spot.rest;
     const CVec3 m = Mirrored(p);
     CVec3 cr = Srgb(0xf6cdb6);
@@ -111,7 +111,7 @@ CSurface Skin(const CSpot& spot) {
         cr = BlendPaint(cr, 0x9c0f14, 0.95F * (1 - Smooth(fPetal - 0.006F, fPetal + 0.004F, Length(q))));
         cr = BlendPaint(cr, 0xe2b13c, 1 - Smooth(0.014F, 0.02F, Length(q)));
     }
-    CSurface surface;
+    CMaterial surface;
     surface.crBody = cr * (0.98F + 0.05F * Fbm(p * 9, 4));
     surface.normal = Bend(spot, p, 0.012F, 0.004F, [](CVec3 at) { return Fbm(at * 9, 3); });
     surface.fRoughness = 0.4F;
@@ -119,7 +119,7 @@ CSurface Skin(const CSpot& spot) {
     return surface;
 }
 
-CSurface Hair(const CSpot& spot) {
+CMaterial Hair(const CSpot& spot) {
     const CVec3 p = spot.rest;
     const CVec3 m = Mirrored(p);
     const CVec3 bun = m - CVec3{0.66F, 1.08F, -0.2F};
@@ -138,7 +138,7 @@ CSurface Hair(const CSpot& spot) {
         return Noise(CVec3{fCross * 2.2F, n.x * 1.4F, 3}) + 0.7F * Noise(CVec3{fCross * 6, n.x * 2.2F, 9}) +
                0.3F * Noise(CVec3{fCross * 15, n.x * 3, 1});
     };
-    CSurface surface;
+    CMaterial surface;
     surface.crBody = Mix(Srgb(0x14100f), Srgb(0x3a2a22), 0.4F + 0.35F * strands(p));
     surface.normal = Bend(spot, p, 0.005F, 0.011F, strands);
     surface.fRoughness = 0.34F;
@@ -146,9 +146,9 @@ CSurface Hair(const CSpot& spot) {
     return surface;
 }
 
-CSurface Robe(const CSpot& spot) {
+CMaterial Robe(const CSpot& spot) {
     const CVec3 p = spot.rest;
-    CSurface surface;
+    CMaterial surface;
     const float fWeave = std::sin(p.x * 150) * std::sin(p.y * 150);
     // Blossoms in staggered rows about the body.
     const float fRow = std::floor(p.y * 1.9F);
@@ -166,7 +166,7 @@ CSurface Robe(const CSpot& spot) {
 
 CShader Paint(unsigned nHex, float fRoughness, float fMetal) {
     return [cr = Srgb(nHex), fRoughness, fMetal](const CSpot& spot) {
-        CSurface surface;
+        CMaterial surface;
         surface.crBody = cr * (1 - fMetal);
         surface.crMirror = Mix(CVec3{0.04F, 0.04F, 0.04F}, cr, fMetal);
         surface.normal = spot.normal;
@@ -188,7 +188,7 @@ float RobeDistance(CVec3 p) {
 }
 
 // Beads and trims, added in the head's space.
-void AddJewels(CStage& stage) {
+void AddJewels(CScene& stage) {
     const int nGold = stage.AddShader(Paint(0xe2b050, 0.25F, 0.9F));
     const int nRed = stage.AddShader(Paint(0xb5202a, 0.25F, 0));
     const int nPearl = stage.AddShader(Paint(0xf0e8dc, 0.18F, 0));
@@ -252,7 +252,7 @@ CVec3 Garden(CVec3 dir, bool bClose) {
 }  // namespace
 
 CFilm TakePortrait(int nWidth, int nHeight, int nFineness) {
-    CStage stage;
+    CScene stage;
     AddField(stage.mesh, stage.AddShader(Skin), FaceDistance, {-1.05F, -1.9F, -1.1F}, {1.05F, 1.2F, 1.15F},
              0.016F);
     AddField(stage.mesh, stage.AddShader(Hair), HairDistance, {-1.2F, -0.75F, -1.25F}, {1.2F, 1.55F, 1.05F},

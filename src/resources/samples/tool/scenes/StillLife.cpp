@@ -1,7 +1,7 @@
 // Fruit in a blue and white bowl, a bottle and a cloth on a table, in the light of a window on the left.
 
 #include "Pictures.h"
-#include "Stage.h"
+#include "Scene.h"
 
 namespace {
 
@@ -9,14 +9,14 @@ float Stripe(float f, float fCentre, float fHalf) {
     return 1 - Smooth(fHalf * 0.8F, fHalf * 1.2F, std::fabs(f - fCentre));
 }
 
-CSurface Table(const CSpot& spot) {
+CMaterial Table(const CSpot& spot) {
     const CVec3 p = spot.position;
     const float fBoard = std::floor(p.z / 0.62F);
     const float fEdge = std::fabs(p.z / 0.62F - fBoard - 0.5F);
     const CVec2 grain{p.x * 0.55F + fBoard * 17.3F, p.z * 7 + Fbm(CVec2{p.x * 0.8F, p.z * 1.5F}, 3) * 2.4F};
     const float fRings = 0.5F + 0.5F * std::sin(grain.y * 5 + Fbm(grain, 4) * 7);
     const float fFibre = Fbm(CVec2{p.x * 3, p.z * 90}, 3);
-    CSurface surface;
+    CMaterial surface;
     surface.crBody =
         Mix(Srgb(0x6b4226), Srgb(0x8e5f38), fRings * 0.6F + fFibre * 0.5F + 0.1F * std::sin(fBoard * 5));
     surface.crBody = surface.crBody * (1 - 0.75F * Smooth(0.485F, 0.5F, fEdge));
@@ -25,8 +25,8 @@ CSurface Table(const CSpot& spot) {
     return surface;
 }
 
-CSurface Wall(const CSpot& spot) {
-    CSurface surface;
+CMaterial Wall(const CSpot& spot) {
+    CMaterial surface;
     const CVec3 p = spot.position;
     const float fPatch = Fbm(p * 0.7F, 5) + 0.4F * Fbm(p * 3.1F, 4);
     surface.crBody = Mix(Srgb(0x7d8578), Srgb(0x9aa08d), 0.5F + fPatch);
@@ -36,8 +36,8 @@ CSurface Wall(const CSpot& spot) {
     return surface;
 }
 
-CSurface Linen(const CSpot& spot) {
-    CSurface surface;
+CMaterial Linen(const CSpot& spot) {
+    CMaterial surface;
     const CVec3 p = spot.rest;
     const float fWeave = std::sin(p.x * 210) * std::sin(p.z * 210) + Noise(CVec2{p.x * 60, p.z * 9}) * 0.7F +
                          Noise(CVec2{p.x * 9, p.z * 60}) * 0.7F;
@@ -52,7 +52,7 @@ CSurface Linen(const CSpot& spot) {
 }
 
 // Cobalt under a clear glaze: lines at rim and foot and a scroll of leaves between them.
-CSurface Porcelain(const CSpot& spot) {
+CMaterial Porcelain(const CSpot& spot) {
     const CVec3 p = spot.rest;
     const float r = std::sqrt(p.x * p.x + p.z * p.z);
     const float fAround = std::atan2(p.z, p.x) / (2 * kPi) * 10;
@@ -75,7 +75,7 @@ CSurface Porcelain(const CSpot& spot) {
     }
     fBlue *= 0.72F + 0.5F * Fbm(p * 5, 3);
     if (r < 0.2F && fUp < 0.3F) fBlue = 0;
-    CSurface surface;
+    CMaterial surface;
     surface.crBody = Mix(Srgb(0xe6e8e4), Srgb(0x1f3f94), Clamp01(fBlue));
     surface.normal = spot.normal;
     surface.fRoughness = 0.16F;
@@ -83,12 +83,12 @@ CSurface Porcelain(const CSpot& spot) {
     return surface;
 }
 
-CSurface Apple(const CSpot& spot) {
+CMaterial Apple(const CSpot& spot) {
     const CVec3 p = spot.rest;
     const float a = std::atan2(p.z, p.x);
     const float fStreak = Fbm(CVec3{std::cos(a) * 7, p.y * 1.1F, std::sin(a) * 7}, 4);
     const float fRed = Smooth(-0.45F, 0.35F, fStreak + 0.75F * (p.x * 0.9F + p.z * 0.3F) + 0.1F);
-    CSurface surface;
+    CMaterial surface;
     surface.crBody = Mix(Srgb(0xd6b548), Srgb(0xa81c1a), fRed);
     surface.crBody = Mix(surface.crBody, Srgb(0x8f9440),
                          0.8F * (1 - Smooth(0.05F, 0.3F, std::sqrt(p.x * p.x + p.z * p.z))));
@@ -99,8 +99,8 @@ CSurface Apple(const CSpot& spot) {
     return surface;
 }
 
-CSurface Orange(const CSpot& spot) {
-    CSurface surface;
+CMaterial Orange(const CSpot& spot) {
+    CMaterial surface;
     const auto pores = [](CVec3 q) {
         return Smooth(0, 0.45F, Cellular(q * 19).fFirst) + 0.5F * Noise(q * 8);
     };
@@ -111,10 +111,10 @@ CSurface Orange(const CSpot& spot) {
     return surface;
 }
 
-CSurface Pear(const CSpot& spot) {
+CMaterial Pear(const CSpot& spot) {
     const CVec3 p = spot.rest;
     const CCellular dots = Cellular(p * 15);
-    CSurface surface;
+    CMaterial surface;
     surface.crBody = Mix(Srgb(0xa9a93c), Srgb(0xc9b74b), 0.5F + Fbm(p * 2.5F, 4));
     surface.crBody = Mix(surface.crBody, Srgb(0xb5612c),
                          0.75F * Smooth(0.1F, 0.6F, p.x * 0.8F + p.z * 0.4F + 0.4F * Fbm(p * 3, 3)));
@@ -124,8 +124,8 @@ CSurface Pear(const CSpot& spot) {
     return surface;
 }
 
-CSurface Grape(const CSpot& spot) {
-    CSurface surface;
+CMaterial Grape(const CSpot& spot) {
+    CMaterial surface;
     const float fBloom = Smooth(-0.3F, 0.5F, Fbm(spot.position * 8, 4));
     surface.crBody = Mix(Srgb(0x3a1030), Srgb(0x6d5f88), 0.5F * fBloom);
     surface.normal = spot.normal;
@@ -135,7 +135,7 @@ CSurface Grape(const CSpot& spot) {
 
 CShader Plain(unsigned nColor, float fRoughness) {
     return [cr = Srgb(nColor), fRoughness](const CSpot& spot) {
-        CSurface surface;
+        CMaterial surface;
         surface.crBody = cr * (0.85F + 0.3F * Fbm(spot.rest * 9, 3));
         surface.normal = spot.normal;
         surface.fRoughness = fRoughness;
@@ -143,8 +143,8 @@ CShader Plain(unsigned nColor, float fRoughness) {
     };
 }
 
-CSurface BottleGlass(const CSpot& spot) {
-    CSurface surface;
+CMaterial BottleGlass(const CSpot& spot) {
+    CMaterial surface;
     surface.crThrough = {0.62F, 0.84F, 0.55F};
     surface.normal = spot.normal;
     return surface;
@@ -152,7 +152,7 @@ CSurface BottleGlass(const CSpot& spot) {
 
 class CArrangement {
   public:
-    explicit CArrangement(CStage& stage) : m_stage(stage) {
+    explicit CArrangement(CScene& stage) : m_stage(stage) {
         m_nApple = stage.AddShader(Apple);
         m_nOrange = stage.AddShader(Orange);
         m_nPear = stage.AddShader(Pear);
@@ -252,7 +252,7 @@ class CArrangement {
                           [&](CVec3 p) { return ptAt + TurnY(TurnZ(p - ptPivot, fTilt), fTurn) * fScale; });
     }
 
-    CStage& m_stage;
+    CScene& m_stage;
     int m_nApple;
     int m_nOrange;
     int m_nPear;
@@ -260,7 +260,7 @@ class CArrangement {
     int m_nStem;
 };
 
-void AddBottle(CStage& stage) {
+void AddBottle(CScene& stage) {
     const std::size_t nFirst = stage.mesh.corners.size();
     const int nGlass = stage.AddShader(BottleGlass, true);
     AddTurned(
@@ -277,7 +277,7 @@ void AddBottle(CStage& stage) {
               40, nullptr);
     const int nOil = stage.AddShader(
         [](const CSpot& spot) {
-            CSurface surface;
+            CMaterial surface;
             surface.crThrough = {0.86F, 0.72F, 0.16F};
             surface.fIndex = 1.35F;
             surface.normal = spot.normal;
@@ -298,7 +298,7 @@ void AddBottle(CStage& stage) {
     stage.mesh.Move(nFirst, [](CVec3 p) { return p * 0.92F + CVec3{-1.5F, 0, -0.6F}; });
 }
 
-void AddBowl(CStage& stage) {
+void AddBowl(CScene& stage) {
     const std::size_t nFirst = stage.mesh.corners.size();
     AddTurned(stage.mesh, stage.AddShader(Porcelain),
               {{0, 0.05F},
@@ -321,7 +321,7 @@ void AddBowl(CStage& stage) {
     stage.mesh.Move(nFirst, [](CVec3 p) { return p * 1.05F + CVec3{0.35F, 0.03F, -0.35F}; });
 }
 
-void AddCloth(CStage& stage) {
+void AddCloth(CScene& stage) {
     const std::size_t nFirst = stage.mesh.corners.size();
     AddSheet(stage.mesh, stage.AddShader(Linen), 420, 420, false, [](float u, float v) {
         return CVec3{2 * u - 1, 0, 1 - 2 * v};
@@ -346,7 +346,7 @@ void AddCloth(CStage& stage) {
 }  // namespace
 
 CFilm TakeStillLife(int nWidth, int nHeight, int nFineness) {
-    CStage stage;
+    CScene stage;
     AddBox(stage.mesh, stage.AddShader(Table), {0, -0.2F, 0}, {6, 0.2F, 2.4F}, 0);
     AddSheet(stage.mesh, stage.AddShader(Wall), 1, 1, false, [](float u, float v) {
         return CVec3{-8 + 16 * u, -2 + 9 * v, -2.5F};

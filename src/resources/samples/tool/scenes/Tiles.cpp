@@ -3,7 +3,7 @@
 #include <array>
 
 #include "Pictures.h"
-#include "Stage.h"
+#include "Scene.h"
 
 namespace {
 
@@ -89,7 +89,7 @@ void PaintCorner(CVec2 q, CPaint& paint) {
     }
 }
 
-CSurface Glaze(const CSpot& spot) {
+CMaterial Glaze(const CSpot& spot) {
     const CVec3 p = spot.rest;
     const int nColumn = static_cast<int>(std::floor(p.x / kTile));
     const int nRow = static_cast<int>(std::floor(p.y / kTile));
@@ -107,7 +107,7 @@ CSurface Glaze(const CSpot& spot) {
     PaintRosette(q, paint);
     PaintCorner(q, paint);
     const float fPool = 0.8F + 0.5F * Fbm(CVec3{p.x * 6, p.y * 6, fOwn * 20}, 4);
-    CSurface surface;
+    CMaterial surface;
     surface.crBody =
         Mix(Srgb(0xe9e4d6), Srgb(0xdcd6c2), fOwn) * (0.97F + 0.08F * Fbm(CVec2{p.x * 3, p.y * 3}, 3));
     surface.crBody = Mix(surface.crBody, Srgb(0x8fb0d0), Clamp01(0.55F * paint.fLight * fPool));
@@ -126,8 +126,8 @@ CSurface Glaze(const CSpot& spot) {
     return surface;
 }
 
-CSurface Grout(const CSpot& spot) {
-    CSurface surface;
+CMaterial Grout(const CSpot& spot) {
+    CMaterial surface;
     const CVec3 p = spot.position;
     surface.crBody = Mix(Srgb(0x9a9184), Srgb(0x6e665b), 0.5F + Fbm(p * 9, 4));
     surface.normal = Bend(spot, p, 0.004F, 0.01F, [](CVec3 q) { return Fbm(q * 40, 3); });
@@ -135,7 +135,7 @@ CSurface Grout(const CSpot& spot) {
     return surface;
 }
 
-void AddTiles(CStage& stage) {
+void AddTiles(CScene& stage) {
     const int nGlaze = stage.AddShader(Glaze);
     for (int j = -3; j < 3; ++j) {
         for (int i = -4; i < 4; ++i) {
@@ -173,9 +173,9 @@ void AddTiles(CStage& stage) {
 }
 
 // A branch between the lamp and the wall, out of the picture: only its shadow is seen.
-void AddBranch(CStage& stage) {
+void AddBranch(CScene& stage) {
     const int nLeaf = stage.AddShader([](const CSpot& spot) {
-        CSurface surface;
+        CMaterial surface;
         surface.crBody = Srgb(0x3f6a35);
         surface.normal = spot.normal;
         return surface;
@@ -203,7 +203,7 @@ void AddBranch(CStage& stage) {
 }  // namespace
 
 CFilm TakeTiles(int nWidth, int nHeight, int nFineness) {
-    CStage stage;
+    CScene stage;
     AddTiles(stage);
     AddBranch(stage);
     stage.lamps.push_back(LampAt(kLamp, {0, 0, 0}, 0.2F, 0.2F, CVec3{1, 0.88F, 0.7F} * 9600));

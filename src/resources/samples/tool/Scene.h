@@ -17,7 +17,7 @@ struct CSpot {
     bool bClose =
         false;  // seen by the lens or in a mirror: small bumps show; else they need not be worked out
 };
-struct CSurface {
+struct CMaterial {
     CVec3 crBody{0.5F, 0.5F, 0.5F};  // diffuse reflectance
     CVec3 normal;                    // with bumps
     CVec3 crEmitted;
@@ -26,7 +26,7 @@ struct CSurface {
     CVec3 crThrough{1, 1, 1};             // of glass: tint of what goes through one face
     float fIndex = 1.5F;                  // of glass: of refraction
 };
-using CShader = std::function<CSurface(const CSpot&)>;
+using CShader = std::function<CMaterial(const CSpot&)>;
 
 // A rectangle that shines to its front: corner, two edges; the front is Cross(edgeU, edgeV).
 struct CLamp {
@@ -51,7 +51,7 @@ struct CCamera {
     CRay Through(float x, float y, CVec2 lens) const;
 };
 
-struct CStage {
+struct CScene {
     CMesh mesh;
     std::vector<CShader> shaders;
     std::vector<bool> clear;  // for each shader: whether it is of glass
@@ -75,7 +75,7 @@ struct CStage {
 };
 
 // The stage photographed with nPaths light paths a pixel, cleaned of the noise that they leave.
-CFilm Photograph(const CStage& stage, int nWidth, int nHeight, int nPaths);
+CFilm Photograph(const CScene& stage, int nWidth, int nHeight, int nPaths);
 
 // The spot's normal bent by the slope of a height field around `p`; `fStep` is the distance of the samples.
 CVec3 Bend(const CSpot& spot, CVec3 p, float fStep, float fHeight, const std::function<float(CVec3)>& height);

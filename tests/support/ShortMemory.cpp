@@ -1,0 +1,35 @@
+#include "support/ShortMemory.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+// Allocations until one fails; none fails while it is negative.
+int g_nUntilFailure = -1;
+
+}  // namespace
+
+CShortMemory::CShortMemory(int nUntilFailure) {
+    g_nUntilFailure = nUntilFailure;
+}
+CShortMemory::~CShortMemory() {
+    g_nUntilFailure = -1;
+}
+
+// Those of the whole test program. They stand in a file without tests, so that no allocation of a test is
+// compiled together with one half of a pair.
+// NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): this is where memory comes from.
+void* operator new(std::size_t nSize) {
+    if (g_nUntilFailure >= 0 && g_nUntilFailure-- == 0) throw std::bad_alloc();
+    void* const p = std::malloc(nSize == 0 ? 1 : nSize);
+    if (p == nullptr) throw std::bad_alloc();
+    return p;
+}
+void operator delete(void* p) noexcept {
+    std::free(p);
+}
+void operator delete(void* p, std::size_t /*nSize*/) noexcept {
+    std::free(p);
+}
+// NOLINTEND(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)

@@ -17,7 +17,7 @@ struct CEditNow {
     CPixels committed;
     bool bFloating = false;
     bool bMarked = false;
-    int nTool = 0;
+    ETool tool = ETool::SelectRect;
     bool operator==(const CEditNow&) const = default;
 };
 
@@ -72,7 +72,7 @@ class NoMemoryTest : public PaintWorkshop {
     }
     // DRAW with a step behind it and a float up, or with what was copied for it still marked.
     void Mark() {
-        Tool(1);
+        Tool(ETool::SelectRect);
         Drag({5, 5}, {205, 185});
     }
     void Float() {
@@ -189,7 +189,7 @@ TEST_F(NoMemoryTest, CommandsOfDraw) {
     Mark();
     TryCommand(kCmdCopy);
     TryCommand(kCmdPaste);
-    TryCommand(FindToolButton(5));
+    TryCommand(FindToolButton(ETool::Pen));
     Mark();
     TryCommand(kCmdCut);
     Mark();

@@ -13,5 +13,5 @@ struct CImageHead {
 };
 
 // Reads the head of a file as the format `type`, whatever its name or content says. A file that is cut behind
-// its head has one all the same; a picture too large to be held has none.
+// its head may have one all the same; a picture too large to be held has none.
 [[nodiscard]] CImageHead ReadImageHead(const std::string& strPath, ImageType type);

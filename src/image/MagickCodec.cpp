@@ -116,16 +116,19 @@ std::optional<CMagickPicture> Decode(std::span<const std::uint8_t> file, const C
     return TakePixels(image, OwnDepth(file, format.type, image));
 }
 
-// Of a file whose pixels have not been decoded; then the library does not say of some that they are grey.
+// Of a file whose pixels have not been decoded; then the library does not say of two formats what they are.
 int DepthOfHead(std::span<const std::uint8_t> file, ImageType type, const Magick::Image& image) {
     if (type == ImageType::kWbmp) return 1;
-    const bool bGrey =
-        type == ImageType::kPgx || (type == ImageType::kPnm && (file[1] == '2' || file[1] == '5'));
-    const int nDepth = OwnDepth(file, type, image);
-    return bGrey ? std::min(nDepth, 8) : nDepth;
+    return type == ImageType::kPgx ? 8 : OwnDepth(file, type, image);
 }
 
 CImageHead ReadHead(std::span<const std::uint8_t> file, const CFormat& format) {
+    // The library loses some memory whenever it looks at the head alone of this one, whose pixels stand bare.
+    if (format.type == ImageType::kPnm) {
+        const std::optional<CMagickPicture> picture = Decode(file, format);
+        if (!picture) return {};
+        return {{picture->pixels.Width(), picture->pixels.Height()}, picture->nBpp};
+    }
     Magick::Image image;
     SetUpReading(image, format);
     image.ping(Magick::Blob(file.data(), file.size()));

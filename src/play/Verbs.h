@@ -35,13 +35,13 @@ struct CStage : CMachine {
 // One verb of the scripts. Its handler gets the words behind the verb, as many as nMin to nMax say, and
 // returns why the line cannot be done, or an empty text. A verb has one of the two handlers.
 struct CVerb {
-    const char* szName;
-    const char* szWords;  // what stands behind the name, for the help
-    int nMin;
-    int nMax;
-    std::string (*pHandler)(CStage& stage, const CWords& arrWords);
-    const char* szHelp;
-    const char* szExample;
+    const char* szName = "";
+    const char* szWords = "";  // what stands behind the name, for the help
+    int nMin = 0;
+    int nMax = 0;
+    std::string (*pHandler)(CStage& stage, const CWords& arrWords) = nullptr;
+    const char* szHelp = "";
+    const char* szExample = "";
     // Can also be done before the program has started.
     std::string (*pSetUp)(CMachine& machine, const CWords& arrWords) = nullptr;
 };

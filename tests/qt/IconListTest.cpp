@@ -54,8 +54,8 @@ class CTestSink : public CIconListSink {
 };
 
 std::vector<std::string> Names(int nCount) {
-    std::vector<std::string> arrNames;
-    for (int i = 0; i < nCount; ++i) arrNames.push_back(QString("p%1.jpg").arg(i).toStdString());
+    std::vector<std::string> arrNames(static_cast<std::size_t>(nCount));
+    for (int i = 0; std::string & strName : arrNames) strName = QString("p%1.jpg").arg(i++).toStdString();
     return arrNames;
 }
 

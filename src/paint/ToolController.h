@@ -35,7 +35,6 @@ class CToolController {
     CToolController& operator=(const CToolController&) = delete;
 
     const CToolState& State() const { return m_env.tools; }
-    const CToolOptions& Options() const { return m_options; }
     // The panel that was brought up last: the number, less one, of the tool that was selected last by its
     // button. A switch of the mode does not touch it.
     int Panel() const { return m_nPanel; }

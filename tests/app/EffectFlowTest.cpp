@@ -80,15 +80,6 @@ TEST_F(EffectFlowTest, ThePreviewsSize) {
     EXPECT_EQ(CSize({Preview().Width(), Preview().Height()}), (CSize{158, 1}));
 }
 
-TEST_F(EffectFlowTest, TheLevelOfAPosition) {
-    struct CCase {
-        int nMin, nMax, nPos, nLevel;
-    };
-    for (const CCase& c : {CCase{-100, 100, -100, 100}, CCase{-100, 100, 100, -100}, CCase{-10, 10, 3, -3},
-                           CCase{0, 15, 15, 0}, CCase{0, 15, 0, 15}, CCase{0, 100, 30, 70}})
-        EXPECT_EQ(CEffectFlow::LevelOf(c.nMin, c.nMax, c.nPos), c.nLevel);
-}
-
 TEST_F(EffectFlowTest, AChoiceSetsUpEverything) {
     OpenNumbered(300, 200);
     const CSnapshot before = Snapshot();
@@ -290,17 +281,6 @@ TEST_F(EffectFlowTest, AModeSwitchDropsThePreview) {
         Choose(EEffect::Art);
         EXPECT_TRUE(m_dialog.Effects().IsPending());
     }
-}
-
-TEST_F(EffectFlowTest, AnotherChoiceStartsFromThePictureAgain) {
-    OpenNumbered(300, 200);
-    Choose(EEffect::Brightness);
-    Slide(-90);
-    Choose(EEffect::Contrast);
-    EXPECT_EQ(m_dialog.Effects().Level(), 0);
-    EXPECT_EQ(Controls().Text(kEffectLevel), "0");
-    EXPECT_EQ(Preview(), Engine(SmallWork({158, 105}), EEffect::Contrast, 0, false));
-    ExpectLit(NumberOf(EEffect::Contrast));
 }
 
 TEST_F(EffectFlowTest, CtrlZUndoesUnderAPreview) {

@@ -1,7 +1,5 @@
 // Flips, turns, sizes and zoom, as a person works them.
 
-#include <functional>
-
 #include "app/Workshop.h"
 
 namespace {
@@ -13,58 +11,9 @@ class GeometryTest : public Workshop {
     CPixels Work() const { return Images().m_imgWork.Pixels(); }
     CPixels Display() const { return Images().m_imgDisplay.Pixels(); }
     CSize DisplaySize() const { return Images().DisplaySize(); }
-    void SetSize(CSize size) {
-        m_platform.AnswerSize(size);
-        Click(kCmdSize);
-    }
-    // The display is the working image at the display size.
-    void ExpectDisplay(CSize size) {
-        EXPECT_EQ(DisplaySize(), size);
-        EXPECT_EQ(Display(), NaiveResample(Work(), size.cx, size.cy));
-    }
 };
 
 }  // namespace
-
-TEST_F(GeometryTest, EveryPixelOfAFlipAndATurnIsWhereItBelongsAndComesBack) {
-    const std::pair<int, std::function<CPixels(const CPixels&)>> kCommands[] = {
-        {kCmdFlipVertical, [](const CPixels& pixels) { return NaiveFlip(pixels, true); }},
-        {kCmdFlipHorizontal, [](const CPixels& pixels) { return NaiveFlip(pixels, false); }},
-        {kCmdTurnLeft, [](const CPixels& pixels) { return NaiveTurn(pixels, false); }},
-        {kCmdTurnRight, [](const CPixels& pixels) { return NaiveTurn(pixels, true); }},
-    };
-    for (const CSize size : {CSize{60, 40}, CSize{23, 71}, CSize{1, 1}}) {
-        for (const auto& [nCommand, fnNaive] : kCommands) {
-            for (const EMode nMode : {EMode::Effect, EMode::Stick, EMode::Draw}) {
-                SCOPED_TRACE(testing::Message() << size.cx << " command " << nCommand << " mode " << nMode);
-                OpenNumbered(size.cx, size.cy);
-                // The display size goes its own way.
-                if (size.cx > 1) SetSize({300, 200});
-                const CSize sizeBefore = DisplaySize();
-                const int nUndos = Undos();
-                GoTo(nMode);
-                const CPixels before = Work();
-                Click(nCommand);
-                const CPixels after = fnNaive(before);
-                EXPECT_EQ(Work(), after);
-                const bool bTurn = nCommand == kCmdTurnLeft || nCommand == kCmdTurnRight;
-                const CSize sizeAfter = bTurn ? CSize{sizeBefore.cy, sizeBefore.cx} : sizeBefore;
-                ExpectDisplay(sizeAfter);
-                if (nMode == EMode::Draw) {
-                    EXPECT_EQ(m_dialog.Draw().Paper().Committed().Pixels(), after);
-                }
-                EXPECT_EQ(Undos(), nUndos + 1);
-                Click(kCmdUndo);
-                EXPECT_EQ(Work(), before);
-                EXPECT_EQ(DisplaySize(), sizeBefore);
-                Click(kCmdRedo);
-                EXPECT_EQ(Work(), after);
-                EXPECT_EQ(DisplaySize(), sizeAfter);
-                EXPECT_EQ(Images().m_imgOpened.Pixels(), NumberedPixels(size.cx, size.cy));
-            }
-        }
-    }
-}
 
 TEST_F(GeometryTest, UnderThePhoneSizeRuleFlipsRunAndTheRestIsRefused) {
     OpenNumbered(60, 40);
@@ -101,37 +50,4 @@ TEST_F(GeometryTest, UnderThePhoneSizeRuleFlipsRunAndTheRestIsRefused) {
     Click(kCmdFlipHorizontal);
     EXPECT_EQ(Work(), NaiveFlip(before, false));
     EXPECT_EQ(m_dialog.Draw().Paper().Committed().Pixels(), Work());
-}
-
-TEST_F(GeometryTest, AnItemOfThePictureMenuDoesWhatItsButtonDoes) {
-    const std::pair<int, int> kItems[] = {
-        {kMenuSize, kCmdSize},
-        {kMenuFlipVertical, kCmdFlipVertical},
-        {kMenuFlipHorizontal, kCmdFlipHorizontal},
-        {kMenuTurnLeft, kCmdTurnLeft},
-        {kMenuTurnRight, kCmdTurnRight},
-        {kMenuLarge, kCmdLarge},
-        {kMenuActual, kCmdActual},
-        {kMenuSmall, kCmdSmall},
-    };
-    for (const auto& [nItem, nCommand] : kItems) {
-        for (const EMode nMode : {EMode::Effect, EMode::Stick}) {
-            CSnapshot snapshots[2];
-            for (const bool bMenu : {false, true}) {
-                OpenNumbered(60, 40);
-                SetSize({90, 80});
-                GoTo(nMode);
-                if (nCommand == kCmdSize) m_platform.AnswerSize({30, 31});
-                if (bMenu) m_platform.AnswerMenu(nItem);
-                if (bMenu)
-                    EXPECT_EQ(m_host.MouseOnView(kCanvas, EMouseAction::Press, EMouseButton::Right, {5, 5}),
-                              "");
-                else
-                    Click(nCommand);
-                snapshots[bMenu ? 1 : 0] = Snapshot();
-            }
-            EXPECT_EQ(snapshots[0].nUndo, 2);
-            EXPECT_TRUE(snapshots[0] == snapshots[1]) << nItem << " in mode " << nMode;
-        }
-    }
 }

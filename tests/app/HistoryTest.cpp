@@ -36,15 +36,6 @@ TEST_F(HistoryTest, UndoAndRedoGoThroughEveryMode) {
     EXPECT_EQ(Controls().Focus(), kEffectList);
 }
 
-TEST_F(HistoryTest, ResetUnderThePhonesSizeShowsThePhonesSize) {
-    GoTo(EMode::Stick);
-    Click(kRadioPhoneSize);
-    Click(kCmdReset);
-    EXPECT_TRUE(Images().IsPhoneSize() && Controls().IsChecked(kRadioPhoneSize));
-    EXPECT_EQ(Images().m_imgDisplay.GetSize(), (CSize{176, 144}));
-    EXPECT_EQ(Images().DisplaySize(), (CSize{60, 40}));
-}
-
 // A side beyond 16 bits does not fit into an entry; the step back still ends in a picture that can be seen.
 TEST_F(HistoryTest, StepsBackWithAVeryLongPicture) {
     Open(SavePicture("long.jpg", NumberedImage(40000, 2)));

@@ -26,23 +26,6 @@ class InputTest : public Workshop {
 
 }  // namespace
 
-TEST_F(InputTest, EscapeAndEnterDoNothing) {
-    for (const bool bPicture : {false, true}) {
-        if (bPicture) OpenNumbered(20, 20);
-        for (const EMode nMode : kAllModes) {
-            GoTo(nMode);
-            const CSnapshot before = Snapshot();
-            for (const int nKey : {kKeyEscape, kKeyEnter}) {
-                EXPECT_TRUE(m_dialog.OnKey({nKey, false, false}));
-                EXPECT_TRUE(m_dialog.OnKey({nKey, true, true}));
-                EXPECT_EQ(m_host.Key({nKey, false, false}), "");
-            }
-            EXPECT_FALSE(m_dialog.HasEnded());
-            EXPECT_TRUE(Snapshot() == before);
-        }
-    }
-}
-
 TEST_F(InputTest, CtrlKeysNeedAPictureAndTheCtrlKey) {
     for (const int nKey : std::vector<int>{'C', 'V', 'X', 'Y', 'Z'}) EXPECT_FALSE(CtrlKey(nKey));
     OpenNumbered(20, 20);
@@ -62,27 +45,6 @@ TEST_F(InputTest, CtrlKeysNeedAPictureAndTheCtrlKey) {
         const CMessageBox copy{kTextNothingToCopy, kTitleNotice, EBoxIcon::Exclamation, EBoxButtons::Ok};
         const CMessageBox cut{kTextNothingToCut, kTitleNotice, EBoxIcon::Exclamation, EBoxButtons::Ok};
         ExpectBoxes(nMode == EMode::Draw ? std::vector{copy, copy, cut} : std::vector<CMessageBox>{});
-    }
-}
-
-// The keys look at the counts and not at the buttons.
-TEST_F(InputTest, CtrlZAndCtrlYGoByTheCounts) {
-    OpenNumbered(20, 20);
-    Edit(1);
-    for (const EMode nMode : kAllModes) {
-        SCOPED_TRACE(nMode);
-        GoTo(nMode);
-        Controls().Enable(kCmdUndo, false);
-        EXPECT_TRUE(CtrlKey('Z'));
-        EXPECT_EQ(std::pair(Undos(), Redos()), std::pair(0, 1));
-        EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(20, 20));
-        EXPECT_FALSE(CtrlKey('Z'));
-        Controls().Enable(kCmdRedo, false);
-        EXPECT_TRUE(CtrlKey('Y'));
-        EXPECT_EQ(std::pair(Undos(), Redos()), std::pair(1, 0));
-        EXPECT_EQ(WorkColor().r, 1);
-        EXPECT_FALSE(CtrlKey('Y'));
-        EXPECT_EQ(State().m_nMode, nMode);
     }
 }
 

@@ -140,20 +140,6 @@ TEST_F(ModeTest, AnyModeFollowsAnyWithAPicture) {
     EXPECT_EQ(Images().m_imgWork.Pixels(), NumberedPixels(60, 40));
 }
 
-TEST_F(ModeTest, SliderAndLevelRestOnEntryToEffect) {
-    OpenNumbered(20, 20);
-    Controls().SetPosition(kEffectSlider, 3);
-    Controls().SetText(kEffectLevel, "97");
-    GoTo(EMode::Stick);
-    EXPECT_EQ(Controls().Text(kEffectLevel), "     ");
-    GoTo(EMode::Effect);
-    const CControl& slider = *Controls().Find(kEffectSlider);
-    EXPECT_EQ((std::vector{slider.nMin, slider.nMax, slider.nPos}), (std::vector{-100, 100, 100}));
-    EXPECT_FALSE(slider.bEnabled || slider.bShown);
-    EXPECT_TRUE(m_dialog.Effects().HasNoLevel());
-    EXPECT_FALSE(m_dialog.Effects().IsPending());
-}
-
 // The display image in each mode: ruled size, fitted, or the full working image.
 TEST_F(ModeTest, DisplayImageFollowsTheMode) {
     OpenNumbered(700, 500);
@@ -179,14 +165,4 @@ TEST_F(ModeTest, DisplayImageFollowsTheMode) {
         if (!bPhone) Click(kRadioPhoneSize);
     }
     EXPECT_EQ(Images().m_imgOpened.Pixels(), work);
-}
-
-TEST_F(ModeTest, DrawBeginsWithTheMagnifierAtOneToOne) {
-    OpenNumbered(20, 20);
-    for (const EMode nMode : {EMode::Thum, EMode::Effect, EMode::Font, EMode::Stick}) {
-        GoTo(nMode);
-        GoTo(EMode::Draw);
-        EXPECT_EQ(m_dialog.Tools().CurrentTool(), ETool::Magnifier);
-        EXPECT_EQ(m_dialog.Tools().State().m_nZoom, 1);
-    }
 }

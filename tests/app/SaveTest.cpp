@@ -138,16 +138,6 @@ TEST_F(SaveTest, EachModeWritesWhatItShows) {
     EXPECT_EQ(m_dialog.Draw().Paper().Committed().Pixels(), work);
 }
 
-TEST_F(SaveTest, UnderThePhonesSizeTheFileHasThatSize) {
-    GoTo(EMode::Stick);
-    Click(kRadioPhoneSize);
-    for (const EMode nMode : {EMode::Stick, EMode::Effect}) {
-        GoTo(nMode);
-        SaveAs(m_folder.Path("phone.bmp"));
-        EXPECT_EQ(Load("phone.bmp").Pixels(), NaiveResample(Images().m_imgWork.Pixels(), 176, 144));
-    }
-}
-
 TEST_F(SaveTest, OverTheOpenedFileItself) {
     SaveAs(m_folder.Path("numbered.png"));
     EXPECT_EQ(Load("numbered.png").Pixels(), Images().m_imgWork.Pixels());

@@ -1,9 +1,9 @@
 #include <map>
 #include <optional>
-#include <set>
 
 #include "app/Workshop.h"
 #include "resources/HintTable.h"
+#include "resources/MainDialog.h"
 
 namespace {
 
@@ -76,21 +76,6 @@ constexpr CLook kLooks[] = {{EMode::Thum, 486, 522, 503},
                             {EMode::Stick, 489, 286, 506},
                             {EMode::Draw, 490, 343, 507}};
 
-struct CHintRow {
-    int nId;
-    int nBitmap;
-    CPoint pt;
-};
-constexpr CHintRow kHints[] = {
-    {1000, 336, {48, 61}},   {1027, 335, {93, 61}},   {1002, 447, {122, 61}},  {1003, 338, {159, 61}},
-    {1004, 329, {211, 61}},  {1005, 339, {248, 61}},  {1006, 340, {285, 61}},  {1007, 332, {333, 61}},
-    {1008, 330, {370, 61}},  {1009, 407, {407, 61}},  {1010, 331, {444, 61}},  {1011, 394, {492, 61}},
-    {1012, 449, {552, 61}},  {1013, 452, {589, 61}},  {1018, 341, {637, 61}},  {1019, 446, {674, 61}},
-    {1016, 450, {722, 61}},  {1031, 328, {759, 61}},  {1017, 451, {796, 61}},  {1030, 448, {853, 61}},
-    {1023, 444, {902, 61}},  {1024, 333, {911, 61}},  {1163, 322, {36, 110}},  {1165, 314, {94, 110}},
-    {1167, 327, {153, 110}}, {1166, 317, {210, 110}}, {1164, 326, {268, 110}},
-};
-
 }  // namespace
 
 TEST_F(SkinTest, EachModePaintsBackgroundTabRowAndPanel) {
@@ -114,29 +99,30 @@ TEST_F(SkinTest, EachModePaintsBackgroundTabRowAndPanel) {
     }
 }
 
-TEST_F(SkinTest, EveryControlOfTheTableBringsUpItsHint) {
-    std::set<int> setIds;
-    for (const CHintRow& row : kHints) {
-        SCOPED_TRACE(row.nId);
-        setIds.insert(row.nId);
-        const bool bTab = row.pt.y == 110;
-        GoTo(row.nId == kTabThum ? EMode::Effect : EMode::Thum);
-        m_dialog.Controls().Enable(row.nId, true);
+TEST_F(SkinTest, EachKeyAndTabBringsUpItsHint) {
+    int nHints = 0;
+    for (const CControlTemplate& control : kMainDialog.arrControls) {
+        const CHint* const pHint = FindHint(control.nId);
+        if (pHint == nullptr) continue;
+        SCOPED_TRACE(control.nId);
+        ++nHints;
+        const bool bTab = control.nId >= kTabThum && control.nId <= kTabStick;
+        GoTo(control.nId == kTabThum ? EMode::Effect : EMode::Thum);
+        m_dialog.Controls().Enable(control.nId, true);
         m_dialog.Controls().SetFocus(kTabStick);
-        HoverOver(row.nId);
-        EXPECT_EQ(SeenAt(row.pt.x, row.pt.y), row.nBitmap);
-        EXPECT_EQ(SeenAt(row.pt.x + 35, row.pt.y + 15), row.nBitmap);
+        HoverOver(control.nId);
+        EXPECT_EQ(SeenAt(pHint->x, bTab ? 110 : 61), pHint->nBitmap);
+        EXPECT_EQ(SeenAt(pHint->x + 35, bTab ? 125 : 76), pHint->nBitmap);
         // The strips around it are clean.
         EXPECT_EQ(SeenAt(20, 62), 440);
         EXPECT_EQ(SeenAt(990, 76), 440);
-        EXPECT_EQ(SeenAt(320, 126), row.nId == kTabThum ? 504 : 503);
+        EXPECT_EQ(SeenAt(320, 126), control.nId == kTabThum ? 504 : 503);
         // All keys of the top bar take the focus but the one that takes pictures; tabs do not.
-        const bool bFocus = !bTab && row.nId != kCmdTake;
-        EXPECT_EQ(m_dialog.Controls().Focus(), bFocus ? row.nId : kTabStick);
+        const bool bFocus = !bTab && control.nId != kCmdTake;
+        EXPECT_EQ(m_dialog.Controls().Focus(), bFocus ? control.nId : kTabStick);
         EXPECT_TRUE(m_platform.Timers().IsRunning(m_dialog, bTab ? 1 : 0));
     }
-    for (int nId = 1000; nId <= 1260; ++nId)
-        EXPECT_EQ(FindHint(nId) != nullptr, setIds.count(nId) > 0) << nId;
+    EXPECT_EQ(nHints, 27);
 }
 
 TEST_F(SkinTest, ADisabledKeyTellsItsHintButTakesNoFocus) {

@@ -20,16 +20,6 @@ TEST(Color, EveryColourConvertsAsItDid) {
     EXPECT_EQ(SumOf(CxImage::HSLtoRGB), 14245918036059119471U);
 }
 
-TEST(Color, ValuesWorkedOutByHand) {
-    EXPECT_EQ(CxImage::RGBtoYUV({255, 0, 0}), (CColor{76, 85, 255}));
-    EXPECT_EQ(CxImage::YUVtoRGB({100, 128, 128}), (CColor{100, 100, 100}));
-    EXPECT_EQ(CxImage::RGBtoHSL({255, 0, 0}), (CColor{0, 255, 128}));
-    EXPECT_EQ(CxImage::RGBtoHSL({0, 0, 255}), (CColor{170, 255, 128}));
-    EXPECT_EQ(CxImage::RGBtoHSL({77, 77, 77}), (CColor{170, 0, 77}));
-    // A red with a little blue: the hue lies below 0 and wraps.
-    EXPECT_EQ(CxImage::RGBtoHSL({200, 0, 20}), (CColor{252, 255, 100}));
-}
-
 TEST(Color, EqualisationSpreadsTheLuminances) {
     const unsigned nSeed = TestSeed();
     SCOPED_TRACE(nSeed);

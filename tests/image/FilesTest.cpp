@@ -50,25 +50,17 @@ TEST_F(Files, TheNameAloneTellsTheType) {
     EXPECT_EQ(GetFileExtension("C:\\a.b\\photo"), "b\\photo");
 }
 
-TEST_F(Files, WhatIsNoPictureIsNotValid) {
-    WriteText(Path("empty.jpg"), "");
+TEST_F(Files, WhatIsNoPictureOrClaimsTooMuchIsNotValid) {
     ASSERT_TRUE(SmoothPicture(9, 9).Save(Path("png.jpg"), ImageType::kPng));
-    ASSERT_TRUE(SmoothPicture(9, 9).Save(Path("jpg.png"), ImageType::kJpeg));
     ASSERT_EQ(mkfifo(Path("pipe.jpg").c_str(), 0600), 0);
-    for (const std::string& strName : Listing()) EXPECT_FALSE(Opens(Path(strName))) << strName;
-    EXPECT_FALSE(Opens(Path("missing.jpg")));
-    EXPECT_FALSE(Opens(Path(std::string("png.jpg") + '\0' + ".jpg")));
-    EXPECT_FALSE(LoadPicture(Path("png.jpg"), ImageType::kUnknown).IsValid());
-}
-
-TEST_F(Files, HugeClaimsOfOtherFormatsAreRefused) {
     WriteText(Path("a.ppm"), "P6 65500 65500 255\n" + std::string(3000, 'x'));
     Bytes bmp = {'B', 'M', 0, 0,    0,    0, 0, 0,    0,    0, 54, 0, 0, 0, 40,
                  0,   0,   0, 0xDC, 0xFF, 0, 0, 0xDC, 0xFF, 0, 0,  1, 0, 24};
     bmp.resize(54 + 3000);
     WriteBytes(Path("a.bmp"), bmp);
-    EXPECT_FALSE(Opens(Path("a.ppm")));
-    EXPECT_FALSE(Opens(Path("a.bmp")));
+    for (const std::string& strName : Listing()) EXPECT_FALSE(Opens(Path(strName))) << strName;
+    EXPECT_FALSE(Opens(Path("missing.jpg")));
+    EXPECT_FALSE(Opens(Path(std::string("png.jpg") + '\0' + ".jpg")));
 }
 
 TEST_F(Files, NamesMayHoldAnything) {

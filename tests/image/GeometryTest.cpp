@@ -90,6 +90,7 @@ TEST(Geometry, WhatMakesNoSenseChangesNothing) {
     EXPECT_EQ(image.GetPixelColor(8, 0), CColor{});
     EXPECT_EQ(image.GetPixelColor(0, 5), CColor{});
 
+    EXPECT_FALSE(image.SetAlpha(Bytes(5)));
     CxImage empty;
     EXPECT_FALSE(empty.Rotate(90.0) || empty.Rotate180() || empty.Flip() || empty.Mirror() ||
                  empty.Resample(3, 3) || empty.HistogramEqualize());

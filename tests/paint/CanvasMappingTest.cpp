@@ -44,13 +44,6 @@ TEST_F(CanvasMapping, ScrollingAndZoomAreCutOneByOne) {
     EXPECT_EQ(PictureOf({0, 0}), (CPoint{1, 2}));
     EXPECT_EQ(PictureOf({1, 3}), (CPoint{1, 3}));
     EXPECT_EQ(PictureOf({2, 3}), (CPoint{2, 3}));
-    // Another zoom leaves the scroll position where it was, as far as it goes.
-    Zoom(6);
-    EXPECT_EQ(m_canvas.ScrollPosition(), (CPoint{6, 9}));
-    m_canvas.ScrollTo({1700, 1200});
-    Zoom(1);
-    EXPECT_EQ(m_canvas.ScrollPosition(), (CPoint{0, 0}));
-    EXPECT_EQ(m_draw.Origin(), (CPoint{129, 121}));
 }
 
 // A new picture at a higher zoom keeps the zoom but has the scroll sizes of the picture as it is.

@@ -1,5 +1,6 @@
 // Ten thousand random events and commands on the canvas.
 
+#include <algorithm>
 #include <random>
 
 #include "paint/DrawBench.h"
@@ -22,75 +23,49 @@ class CanvasWalk : public DrawBench {
 
     void Act() {
         const EMouseButton button = Pick(4) ? kLeft : kRight;
-        switch (Pick(24)) {
-            case 0:
-            case 1:
-            case 2:
-                return Mouse(EMouseAction::Press, PickPoint(), button);
-            case 3:
-            case 4:
-            case 5:
-                return Mouse(EMouseAction::Release, PickPoint(), button);
-            case 6:
-                return Mouse(EMouseAction::DoubleClick, PickPoint(), button);
-            case 7:
-                return SelectTool(ETool{1 + Pick(16)});
-            case 8:
-                m_tools.m_crForeground = PickColour();
-                m_tools.m_crBackground = PickColour();
-                m_tools.m_nLineWidth = 1 + Pick(5);
-                m_tools.m_nFillMode = EFillMode{Pick(3)};
-                m_tools.m_nBrushShape = Pick(12);
-                m_tools.m_nSpraySize = Pick(3);
-                m_tools.m_nEraserSize = Pick(4);
-                return;
-            case 9:
-                if (Pick(4) == 0) Zoom(std::array{1, 2, 4, 6}[static_cast<std::size_t>(Pick(4))]);
-                return;
-            case 10:
-                return m_canvas.ScrollTo({Pick(500), Pick(500)});
-            case 11:
-                if (m_bTimer) m_canvas.OnTimer(CPaintEnvironment::kSprayTimer);
-                return;
-            case 12:
-                return Command();
-            default:
-                return Mouse(EMouseAction::Move, PickPoint());
-        }
+        const int nAct = Pick(24);
+        if (nAct < 3) return Mouse(EMouseAction::Press, PickPoint(), button);
+        if (nAct < 6) return Mouse(EMouseAction::Release, PickPoint(), button);
+        if (nAct == 6) return Mouse(EMouseAction::DoubleClick, PickPoint(), button);
+        if (nAct == 7) return SelectTool(ETool{1 + Pick(16)});
+        if (nAct == 8) return PickSettings();
+        if (nAct == 9 && Pick(4) == 0) return Zoom(std::max(1, 2 * Pick(4)));
+        if (nAct == 10) return m_canvas.ScrollTo({Pick(500), Pick(500)});
+        if (nAct == 11 && m_bTimer) return Tick();
+        if (nAct == 12) return Command();
+        Mouse(EMouseAction::Move, PickPoint());
     }
 
+    void PickSettings() {
+        m_tools.m_crForeground = PickColour();
+        m_tools.m_crBackground = PickColour();
+        m_tools.m_nLineWidth = 1 + Pick(5);
+        m_tools.m_nFillMode = EFillMode{Pick(3)};
+        m_tools.m_nBrushShape = Pick(12);
+        m_tools.m_nSpraySize = Pick(3);
+        m_tools.m_nEraserSize = Pick(4);
+    }
+
+    // The ones that leave little behind are rare.
     void Command() {
-        switch (Pick(9)) {
-            case 0:
-                return m_commands.OnCopy();
-            case 1:
-                return m_commands.OnCut();
-            case 2:
-                return m_commands.OnPaste();
-            case 3:
-                if (Pick(4) == 0) m_commands.OnCrop();
-                return;
-            case 4:
-                return Undo();
-            case 5:
-                return Redo();
-            case 6:
-                if (Pick(10) == 0) Reset();
-                return;
-            case 7:
-                if (Pick(5) == 0) Open(NumberedImage(1 + Pick(120), 1 + Pick(90)));
-                return;
-            default:
-                // Another mode and back, as the switch does it.
-                m_draw.DropFloat();
-                m_draw.FetchCanvas();
-                m_canvas.SetGuest(nullptr);
-                m_canvas.OnInitialUpdate();
-                Mouse(EMouseAction::Move, PickPoint());
-                m_canvas.SetGuest(&m_draw);
-                m_draw.LoadCanvas();
-                SelectTool(ETool::Magnifier);
-        }
+        const int nCommand = Pick(40);
+        if (nCommand == 0) return Reset();
+        if (nCommand == 1) return m_commands.OnCrop();
+        if (nCommand == 2) return Open(NumberedImage(1 + Pick(120), 1 + Pick(90)));
+        if (nCommand < 8) return m_commands.OnCopy();
+        if (nCommand < 14) return m_commands.OnCut();
+        if (nCommand < 20) return m_commands.OnPaste();
+        if (nCommand < 26) return Undo();
+        if (nCommand < 32) return Redo();
+        // Another mode and back, as the switch does it.
+        m_draw.DropFloat();
+        m_draw.FetchCanvas();
+        m_canvas.SetGuest(nullptr);
+        m_canvas.OnInitialUpdate();
+        Mouse(EMouseAction::Move, PickPoint());
+        m_canvas.SetGuest(&m_draw);
+        m_draw.LoadCanvas();
+        SelectTool(ETool::Magnifier);
     }
 
     // What holds whenever no event is being handled.

@@ -128,6 +128,10 @@ class DrawBench : public testing::Test,
         SelectTool(ETool::SelectRect);
         Drag({{rc.left, rc.top}, {rc.right, rc.bottom}});
     }
+    void MarkAndCopy(CRect rc) {
+        Mark(rc);
+        m_commands.OnCopy();
+    }
     // A triangle with its corner at the upper left.
     void MarkTriangle(CPoint pt, int nSide) {
         SelectTool(ETool::SelectPolygon);
@@ -156,18 +160,21 @@ class DrawBench : public testing::Test,
         EXPECT_TRUE(m_clip && image.CreateFromHANDLE(*m_clip));
         return image.Pixels();
     }
-    // The picture as a stroke, or what was on it before, has to leave it; with that pen.
-    static CSurface Page(const CPen& pen = {}) {
+    // The picture as a stroke, or what was on it before, has to leave it; with that pen and brush.
+    static CSurface Page(const CPen& pen = {}, const CBrush& brush = CBrush::Hollow()) {
         CSurface page(FlatImage(60, 50, kWhite).Pixels());
         page.SelectPen(pen);
+        page.SelectBrush(brush);
         return page;
     }
-    static void Line(CSurface& surface, CPoint ptFrom, CPoint ptTo) {
-        surface.MoveTo(ptFrom);
-        surface.LineTo(ptTo);
+    static void Line(CSurface& surface, const std::vector<CPoint>& points) {
+        for (std::size_t i = 1; i < points.size(); ++i) {
+            surface.MoveTo(points[i - 1]);
+            surface.LineTo(points[i]);
+        }
     }
     // The stroke is on both stores, and one step of Undo takes back all of it and nothing else.
-    void ExpectStroke(const CPixels& after, const CPixels& before) {
+    void ExpectStroke(const CPixels& after, const CPixels& before = Page().Pixels()) {
         EXPECT_TRUE(Committed() == after);
         EXPECT_TRUE(Scratch() == after);
         ASSERT_EQ(m_arrSteps.size(), 1U);

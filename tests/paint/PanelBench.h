@@ -51,7 +51,6 @@ class PanelBench : public testing::Test,
     CToolController m_controller;
     // What the canvas is in.
     bool m_bShapeOpen = false;
-    bool m_bFloating = false;
     std::optional<CColor> m_answer;
     std::vector<CColor> m_arrAsked;
     std::vector<CTextFont> m_arrFonts;
@@ -69,14 +68,9 @@ class PanelBench : public testing::Test,
     }
     void Revert() override { Call("revert"); }
     void ForgetSelection() override { Call("forget"); }
-    bool IsFloating() const override { return m_bFloating; }
+    bool IsFloating() const override { return false; }
     bool PrepareDrop() override { return true; }
-    void DropFloat() override {
-        if (!m_bFloating) return;
-        m_bFloating = false;
-        m_tools.m_nTool = m_tools.m_nResumeTool;
-        Call("drop");
-    }
+    void DropFloat() override {}
     void ApplyZoom() override { Call(("zoom" + std::to_string(m_tools.m_nZoom)).c_str()); }
 
     CClientArea& Client() override { return m_client; }

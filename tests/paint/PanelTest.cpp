@@ -7,87 +7,43 @@ namespace {
 
 constexpr CColor kBlack{0, 0, 0};
 constexpr CColor kWhite{255, 255, 255};
+constexpr CColor kGrey{128, 128, 128};
 constexpr CColor kGround{0x90, 0x97, 0x97};
 constexpr CColor kBlue127{0, 0, 127};
 constexpr CColor kBlue128{0, 0, 128};
 
 class PanelTest : public PanelBench {
   protected:
+    // An option as it stands there, and its field and itself when it is chosen.
+    struct CLook {
+        CRect rcNormal, rcField, rcChosen;
+    };
+
     // The wanted panel, on a page as large as the window.
     PanelTest() : m_page(1014, 710) {}
 
     void Fill(CRect rc, CColor color) { m_page.FillRect(rc, color); }
     void BeginPage() { Fill(kPanel, kGround); }
-    void EndPage() {
-        Fill({168, 344, 243, 345}, {128, 128, 128});
-        Fill({168, 344, 169, 421}, {128, 128, 128});
+    // The panel is as it stands on the page, each pixel of which may be two by two on the screen.
+    void ExpectPage(int nDensity = 1) {
+        Fill({168, 344, 243, 345}, kGrey);
+        Fill({168, 344, 169, 421}, kGrey);
         Fill({168, 420, 243, 421}, kWhite);
         Fill({242, 344, 243, 421}, kWhite);
-    }
-    // The panel is as it stands on the page.
-    void ExpectPage() {
-        EndPage();
-        for (int y = kPanel.top; y < kPanel.bottom; ++y)
-            for (int x = kPanel.left; x < kPanel.right; ++x)
-                ASSERT_EQ(At(x, y).ToRef(), m_page.GetPixel(x, y).ToRef()) << x << "," << y;
-    }
-    // On a dense screen each pixel of the page is two by two.
-    void ExpectDensePage() {
-        EndPage();
-        for (int y = 2 * kPanel.top; y < 2 * kPanel.bottom; ++y)
-            for (int x = 2 * kPanel.left; x < 2 * kPanel.right; ++x)
-                ASSERT_EQ(At(x, y).ToRef(), m_page.GetPixel(x / 2, y / 2).ToRef()) << x << "," << y;
+        for (int y = nDensity * kPanel.top; y < nDensity * kPanel.bottom; ++y)
+            for (int x = nDensity * kPanel.left; x < nDensity * kPanel.right; ++x)
+                ASSERT_EQ(At(x, y), m_page.GetPixel(x / nDensity, y / nDensity)) << x << "," << y;
     }
     // Brings up the tool's panel and selects the option by a press at that place of the panel.
     void Choose(ETool tool, int x, int y) {
         m_controller.OnToolButton(tool);
         ASSERT_TRUE(PressPanel(x, y));
     }
-
-    // The pages.
-    void DrawEraser(int nSelected) {
+    void DrawBars(std::span<const CLook> looks, const CLook& chosen) {
         BeginPage();
-        Fill({203, 352, 207, 356}, kBlack);
-        Fill({201, 365, 209, 373}, kBlack);
-        Fill({200, 381, 210, 391}, kBlack);
-        Fill({199, 399, 211, 411}, kBlack);
-        constexpr CRect kBars[] = {
-            {198, 349, 212, 359}, {198, 359, 212, 374}, {198, 376, 212, 391}, {198, 395, 212, 410}};
-        constexpr CRect kSquares[] = {
-            {203, 352, 207, 356}, {202, 363, 208, 369}, {201, 379, 209, 387}, {200, 397, 210, 407}};
-        Fill(kBars[nSelected], kBlue127);
-        Fill(kSquares[nSelected], kWhite);
-    }
-    void DrawLines(int nSelected) {
-        BeginPage();
-        constexpr CRect kBlackBars[] = {{174, 354, 237, 356},
-                                        {174, 367, 237, 370},
-                                        {174, 379, 237, 384},
-                                        {174, 392, 237, 398},
-                                        {174, 404, 237, 412}};
-        constexpr CRect kWhiteBars[] = {{174, 354, 237, 356},
-                                        {174, 367, 237, 369},
-                                        {174, 379, 237, 383},
-                                        {174, 392, 237, 396},
-                                        {174, 404, 237, 410}};
-        for (const CRect& rc : kBlackBars) Fill(rc, kBlack);
-        Fill({171, 349 + 13 * nSelected, 240, 362 + 13 * nSelected}, kBlue127);
-        Fill(kWhiteBars[nSelected], kWhite);
-    }
-    void DrawFills(int nSelected) {
-        BeginPage();
-        const CColor grey{128, 128, 128};
-        const auto box = [&](int nTop, CColor crOutline, CColor crInside) {
-            Fill({176, nTop, 235, nTop + 12}, crOutline);
-            Fill({177, nTop + 1, 234, nTop + 11}, crInside);
-        };
-        box(356, kBlack, {192, 192, 192});
-        box(378, kBlack, grey);
-        box(400, grey, grey);
-        Fill({171, 351 + 22 * nSelected, 240, 373 + 22 * nSelected}, kBlue128);
-        if (nSelected == 0) box(356, kWhite, kBlue128);
-        if (nSelected == 1) box(378, kWhite, grey);
-        if (nSelected == 2) box(400, grey, grey);
+        for (const CLook& look : looks) Fill(look.rcNormal, kBlack);
+        Fill(chosen.rcField, kBlue127);
+        Fill(chosen.rcChosen, kWhite);
     }
 
     CSurface m_page;
@@ -96,43 +52,61 @@ class PanelTest : public PanelBench {
 }  // namespace
 
 TEST_F(PanelTest, ToolsWithoutOptionsShowAnEmptyPanel) {
-    for (const ETool tool : {ETool::SelectRect, ETool::SelectPolygon, ETool::SelectFree, ETool::Picker,
-                             ETool::Pen, ETool::Fill}) {
+    BeginPage();
+    for (const CToolRow& row : kTools) {
+        if (row.HasOptions()) continue;
         m_controller.OnToolButton(ETool::Brush);
-        m_controller.OnToolButton(tool);
-        BeginPage();
+        m_controller.OnToolButton(row.tool);
         ExpectPage();
     }
 }
 
-TEST_F(PanelTest, EraserSquares) {
-    constexpr int kRows[] = {6, 20, 40, 60};
-    for (int i = 0; i < 4; ++i) {
-        SCOPED_TRACE(i);
-        Choose(ETool::Eraser, 30, kRows[i]);
-        DrawEraser(i);
-        ExpectPage();
-    }
-}
-
-TEST_F(PanelTest, LineBars) {
-    for (const ETool tool : {ETool::Line, ETool::Curve})
-        for (int i = 0; i < 5; ++i) {
-            SCOPED_TRACE(i);
-            Choose(tool, 30, 6 + 13 * i);
-            DrawLines(i);
-            ExpectPage();
+TEST_F(PanelTest, EraserSquaresAndLineBars) {
+    constexpr CLook kSquares[] = {{{203, 352, 207, 356}, {198, 349, 212, 359}, {203, 352, 207, 356}},
+                                  {{201, 365, 209, 373}, {198, 359, 212, 374}, {202, 363, 208, 369}},
+                                  {{200, 381, 210, 391}, {198, 376, 212, 391}, {201, 379, 209, 387}},
+                                  {{199, 399, 211, 411}, {198, 395, 212, 410}, {200, 397, 210, 407}}};
+    constexpr CLook kBars[] = {{{174, 354, 237, 356}, {171, 349, 240, 362}, {174, 354, 237, 356}},
+                               {{174, 367, 237, 370}, {171, 362, 240, 375}, {174, 367, 237, 369}},
+                               {{174, 379, 237, 384}, {171, 375, 240, 388}, {174, 379, 237, 383}},
+                               {{174, 392, 237, 398}, {171, 388, 240, 401}, {174, 392, 237, 396}},
+                               {{174, 404, 237, 412}, {171, 401, 240, 414}, {174, 404, 237, 410}}};
+    const auto expectEach = [&](ETool tool, std::span<const CLook> looks) {
+        for (const CLook& look : looks) {
+            Choose(tool, 30, look.rcField.top + 2 - kPanel.top);
+            DrawBars(looks, look);
+            ExpectPage(m_client.Density());
         }
+    };
+    for (const int nDensity : {1, 2}) {
+        SCOPED_TRACE(nDensity);
+        SetDensity(nDensity);
+        expectEach(ETool::Eraser, kSquares);
+        expectEach(ETool::Line, kBars);
+        expectEach(ETool::Curve, kBars);
+    }
 }
 
 TEST_F(PanelTest, FillBoxes) {
-    for (const ETool tool : {ETool::Rectangle, ETool::Polygon, ETool::Ellipse, ETool::RoundRect})
-        for (int i = 0; i < 3; ++i) {
-            SCOPED_TRACE(i);
-            Choose(tool, 30, 8 + 22 * i);
-            DrawFills(i);
-            ExpectPage();
-        }
+    const auto box = [&](int nTop, CColor crOutline, CColor crInside) {
+        Fill({176, nTop, 235, nTop + 12}, crOutline);
+        Fill({177, nTop + 1, 234, nTop + 11}, crInside);
+    };
+    for (const int nDensity : {1, 2}) {
+        SetDensity(nDensity);
+        for (const ETool tool : {ETool::Rectangle, ETool::Polygon, ETool::Ellipse, ETool::RoundRect})
+            for (int i = 0; i < 3; ++i) {
+                SCOPED_TRACE(i);
+                Choose(tool, 30, 8 + 22 * i);
+                BeginPage();
+                box(356, kBlack, {192, 192, 192});
+                box(378, kBlack, kGrey);
+                box(400, kGrey, kGrey);
+                Fill({171, 351 + 22 * i, 240, 373 + 22 * i}, kBlue128);
+                box(356 + 22 * i, i == 2 ? kGrey : kWhite, i == 0 ? kBlue128 : kGrey);
+                ExpectPage(nDensity);
+            }
+    }
 }
 
 // The texts are told by their blocks: 15 pixels wide and high with these fonts.
@@ -195,19 +169,6 @@ TEST_F(PanelTest, SprayClouds) {
         Fill(CRect::FromPlace(171, kTops[i], 70, 21), ColorOfBitmap(kChosen[i]));
         ExpectPage();
     }
-}
-
-TEST_F(PanelTest, OnADenseScreenAllIsTwiceAsLarge) {
-    SetDensity(2);
-    Choose(ETool::Eraser, 30, 60);
-    DrawEraser(3);
-    ExpectDensePage();
-    Choose(ETool::Curve, 30, 6 + 13 * 2);
-    DrawLines(2);
-    ExpectDensePage();
-    Choose(ETool::Polygon, 30, 8 + 22);
-    DrawFills(1);
-    ExpectDensePage();
 }
 
 // What has no straight edges comes finer there, and does not leave its place.

@@ -10,8 +10,9 @@ namespace {
 
 // The stores and the screen in their plainest form: everything is copied whole.
 struct CPlain {
-    CSurface commit, scratch;
-    CPixels screen;
+    CSurface commit{NumberedPixels(40, 30)};
+    CSurface scratch{NumberedPixels(40, 30)};
+    CPixels screen = NumberedPixels(40, 30);
 };
 
 }  // namespace
@@ -25,14 +26,13 @@ TEST(Paper, CopiesWhatDiffersAndNoMore) {
     const auto pick = [&](int nBelow) { return std::uniform_int_distribution<int>(0, nBelow - 1)(random); };
     CPaper paper;
     paper.Load(NumberedPixels(40, 30));
-    CPlain plain{CSurface(NumberedPixels(40, 30)), CSurface(NumberedPixels(40, 30)), {}};
+    CPlain plain;
     CSurface screen(40, 30);
     const auto flush = [&] {
         const CRect rc = paper.TakeUnseen();
         screen.DrawPart(paper.Shown().Pixels(), rc, rc.left, rc.top);
     };
     flush();
-    plain.screen = plain.scratch.Pixels();
     for (int n = 0; n < 5000; ++n) {
         const CRect rc = CRect::FromPlace(pick(50) - 10, pick(40) - 10, 1 + pick(9), 1 + pick(9));
         const CColor color = CColor::FromRef(static_cast<std::uint32_t>(pick(1 << 24)));
@@ -66,6 +66,7 @@ TEST(Paper, CopiesWhatDiffersAndNoMore) {
                 break;
             default:
                 ASSERT_TRUE(paper.Separate());
+                ASSERT_FALSE(paper.Scratch().Pixels().SharesWith(paper.Committed().Pixels()));
                 continue;
         }
         ASSERT_TRUE(paper.Committed().Pixels() == plain.commit.Pixels()) << n;
@@ -75,35 +76,4 @@ TEST(Paper, CopiesWhatDiffersAndNoMore) {
         flush();
         ASSERT_TRUE(screen.Pixels() == plain.screen) << n;
     }
-}
-
-// The boxes are as small as what was drawn.
-TEST(Paper, TellsTheScreenOfTheStrokeOnly) {
-    CPaper paper;
-    paper.Load(FlatImage(400, 300, {255, 255, 255}).Pixels());
-    EXPECT_EQ(paper.TakeUnseen(), (CRect{0, 0, 400, 300}));
-    EXPECT_EQ(paper.TakeUnseen(), CRect{});
-    paper.Scratch().FillRect({10, 20, 14, 26}, {});
-    EXPECT_EQ(paper.TakeUnseen(), CRect{});  // nobody has shown it
-    paper.ShowScratch();
-    EXPECT_EQ(paper.TakeUnseen(), (CRect{10, 20, 14, 26}));
-    paper.Commit();
-    EXPECT_EQ(paper.TakeUnseen(), CRect{});  // it is on the screen already
-    paper.Revert();
-    EXPECT_EQ(paper.TakeUnseen(), CRect{});
-}
-
-// Stores share their picture until the first stroke; what others keep of it never changes.
-TEST(Paper, LeavesThePictureThatItCameFromAlone) {
-    const CPixels picture = NumberedPixels(40, 30);
-    CPaper paper;
-    paper.Load(picture);
-    EXPECT_TRUE(paper.Committed().Pixels().SharesWith(picture));
-    EXPECT_TRUE(paper.Scratch().Pixels().SharesWith(picture));
-    ASSERT_TRUE(paper.Separate());
-    EXPECT_FALSE(paper.Committed().Pixels().SharesWith(picture));
-    EXPECT_FALSE(paper.Scratch().Pixels().SharesWith(paper.Committed().Pixels()));
-    paper.Scratch().FillRect({0, 0, 9, 9}, {1, 2, 3});
-    paper.Commit();
-    EXPECT_EQ(picture, NumberedPixels(40, 30));
 }

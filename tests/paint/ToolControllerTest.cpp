@@ -1,22 +1,12 @@
-// Which steps the tool buttons, the options and the wells take, in which order, and what they remember.
+// What the options and the wells set and remember; the tool buttons are pressed through the window.
 
 #include "paint/PanelBench.h"
+#include "resources/Texts.h"
 
 namespace {
 
 class ToolController : public PanelBench {
   protected:
-    // Selects the last option of the panel that is up; all kinds have one at this place.
-    struct CLast {
-        ETool tool;
-        CPoint ptLast;
-        int nOption;
-    };
-    static constexpr CLast kLast[] = {
-        {ETool::Brush, {60, 60}, 11},    {ETool::Airbrush, {30, 60}, 2}, {ETool::Eraser, {30, 60}, 3},
-        {ETool::Magnifier, {30, 60}, 3}, {ETool::Line, {30, 65}, 4},     {ETool::Rectangle, {30, 60}, 2},
-        {ETool::Polygon, {30, 60}, 2},   {ETool::Ellipse, {30, 60}, 2},  {ETool::RoundRect, {30, 60}, 2}};
-
     int SettingOf(ETool tool) const {
         if (tool == ETool::Brush) return m_tools.m_nBrushShape;
         if (tool == ETool::Airbrush) return m_tools.m_nSpraySize;
@@ -29,74 +19,33 @@ class ToolController : public PanelBench {
 
 }  // namespace
 
-TEST_F(ToolController, AButtonTakesItsStepsInOrder) {
-    m_controller.OnToolButton(ETool::Pen);
-    EXPECT_EQ(TakeCalls(), "off abandon help105 revert forget");
-    EXPECT_EQ(m_tools.m_nTool, ETool::Pen);
-    EXPECT_EQ(m_tools.m_nResumeTool, ETool::Pen);
-    EXPECT_EQ(m_controller.Panel(), 4);
-    // An open shape is wiped before anything else, a float is merged behind the choice of the tool.
-    m_bShapeOpen = true;
-    m_controller.OnToolButton(ETool::Magnifier);
-    EXPECT_EQ(TakeCalls(), "off abandon revert help110 revert forget zoom1");
-    m_bFloating = true;
-    m_tools.m_nTool = ETool::Float;
-    m_controller.OnToolButton(ETool::Curve);
-    EXPECT_EQ(TakeCalls(), "off abandon help112 revert forget drop");
-    EXPECT_EQ(m_tools.m_nTool, ETool::Curve);
-    // Without a picture the canvas is left alone.
-    m_state.m_bImageOpen = false;
-    m_controller.OnToolButton(ETool::Brush);
-    EXPECT_EQ(TakeCalls(), "off abandon help106");
-}
-
+// Line and Curve are one choice, the filling is kept per tool.
 TEST_F(ToolController, AnOptionSetsItsToolAndComesBackWithIt) {
-    for (const CLast& last : kLast) {
-        SCOPED_TRACE(NumberOf(last.tool));
-        m_controller.OnToolButton(last.tool);
-        EXPECT_EQ(SettingOf(last.tool), 0);
+    std::map<ETool, int> mapWanted;
+    int yPress = 35;
+    for (const CToolRow& row : kTools) {
+        if (!row.HasOptions()) continue;
+        SCOPED_TRACE(row.nButton);
+        m_controller.OnToolButton(row.tool);
+        EXPECT_EQ(SettingOf(row.tool), row.tool == ETool::Curve ? mapWanted[ETool::Line] : 0);
         TakeCalls();
-        EXPECT_TRUE(PressPanel(last.ptLast.x, last.ptLast.y));
-        EXPECT_EQ(TakeCalls(), last.tool == ETool::Magnifier ? "revert forget zoom6" : "revert forget");
-        EXPECT_EQ(SettingOf(last.tool), last.nOption);
+        yPress = 95 - yPress;
+        EXPECT_TRUE(PressPanel(40, yPress));
+        EXPECT_EQ(TakeCalls(), row.tool == ETool::Magnifier ? "revert forget zoom2" : "revert forget");
+        mapWanted[row.tool] = SettingOf(row.tool);
+        EXPECT_NE(mapWanted[row.tool], 0);
     }
-    for (const CLast& last : kLast) {
-        m_controller.OnToolButton(ETool::Pen);
-        m_tools.m_nFillMode = EFillMode::None;
-        m_tools.m_nBrushShape = m_tools.m_nSpraySize = m_tools.m_nEraserSize = 0;
-        m_controller.OnToolButton(last.tool);
-        EXPECT_EQ(SettingOf(last.tool), last.nOption) << NumberOf(last.tool);
+    EXPECT_NE(mapWanted[ETool::Line], mapWanted[ETool::Curve]);
+    EXPECT_NE(mapWanted[ETool::Rectangle], mapWanted[ETool::Polygon]);
+    mapWanted[ETool::Line] = mapWanted[ETool::Curve];
+    m_tools = {};
+    for (const auto& [tool, nWanted] : mapWanted) {
+        m_controller.OnToolButton(tool);
+        EXPECT_EQ(SettingOf(tool), nWanted) << NumberOf(tool);
     }
-    // A zoom stays with the other tools.
-    EXPECT_EQ(m_tools.m_nZoom, 6);
-}
-
-TEST_F(ToolController, LineAndCurveAreOneChoice) {
-    m_controller.OnToolButton(ETool::Line);
-    PressPanel(30, 32);
-    EXPECT_EQ(m_tools.m_nLineWidth, 3);
-    m_controller.OnToolButton(ETool::Curve);
-    EXPECT_EQ(m_tools.m_nLineWidth, 3);
-    PressPanel(30, 65);
-    EXPECT_EQ(std::pair(m_controller.Options().m_nOptLine, m_controller.Options().m_nOptCurve),
-              std::pair(4, 4));
-    // The figures keep the width.
-    m_controller.OnToolButton(ETool::Ellipse);
-    EXPECT_EQ(m_tools.m_nLineWidth, 5);
-    m_controller.OnToolButton(ETool::Line);
-    EXPECT_EQ(m_tools.m_nLineWidth, 5);
-}
-
-TEST_F(ToolController, TheFillingIsKeptPerTool) {
-    m_controller.OnToolButton(ETool::Rectangle);
-    PressPanel(30, 60);
-    m_controller.OnToolButton(ETool::Ellipse);
-    EXPECT_EQ(m_tools.m_nFillMode, EFillMode::None);
-    PressPanel(30, 35);
-    m_controller.OnToolButton(ETool::Rectangle);
-    EXPECT_EQ(m_tools.m_nFillMode, EFillMode::Same);
-    m_controller.OnToolButton(ETool::Ellipse);
-    EXPECT_EQ(m_tools.m_nFillMode, EFillMode::Other);
+    // A zoom stays with the other tools, the figures have the width of the lines.
+    EXPECT_EQ(m_tools.m_nZoom, 2);
+    EXPECT_EQ(m_tools.m_nLineWidth - 1, mapWanted[ETool::Line]);
 }
 
 TEST_F(ToolController, APressBesideAllOptionsKeepsTheOptionAndEntersTheTool) {
@@ -144,68 +93,20 @@ TEST_F(ToolController, EveryRowOfAPanelHitsItsOption) {
     rows(ETool::Brush, "0:0 4:1 21:4 38:7 55:10 ");
 }
 
-// A mode switch has entered the magnifier; the paint that follows settles the tool by the panel.
-TEST_F(ToolController, APaintSettlesTheTool) {
-    for (int nTool = 1; nTool <= 16; ++nTool) {
-        SCOPED_TRACE(nTool);
-        m_controller.OnToolButton(ETool{nTool});
-        const CPixels panel = m_client.Surface().Pixels();
-        m_controller.ResetZoom();
-        m_controller.EnterMagnifier();
-        m_client.FillRect(kPanel, {1, 2, 3});
-        TakeCalls();
-        m_controller.OnWindowPainted();
-        const bool bOptions = nTool == 6 || nTool >= 8;
-        EXPECT_EQ(m_tools.m_nTool, bOptions ? ETool{nTool} : ETool::Magnifier);
-        EXPECT_EQ(m_controller.Panel(), nTool - 1);
-        // The magnifier is current already, and what it has marked stays marked.
-        EXPECT_EQ(TakeCalls(), bOptions && nTool != 10
-                                   ? "off abandon help" + std::to_string(100 + nTool) + " revert forget"
-                                   : "");
-        // All that was there has come back.
-        for (int y = kPanel.top; y < kPanel.bottom; ++y)
-            for (int x = kPanel.left; x < kPanel.right; ++x)
-                ASSERT_EQ(At(x, y), PixelAt(panel, x, y)) << x << "," << y;
-        if (!bOptions) {
-            EXPECT_FALSE(PressPanel(30, 30));
-        }
-    }
-}
-
-TEST_F(ToolController, ColoursComeFromTheDialog) {
-    const CPoint ptFore{215, 495};
-    const CPoint ptBack{250, 530};
+// Where a double click counts, and for which colour; the rest is pressed through the window.
+TEST_F(ToolController, OnlyTheBedOfTheWellsAsksForAColour) {
     const CPoint ptBeside{212, 532};  // beside both wells, inside their bed
-    m_answer = CColor{1, 2, 3};
-    DoubleClick(ptBack, EMouseButton::Left);
-    EXPECT_EQ(m_tools.m_crForeground, (CColor{1, 2, 3}));
-    EXPECT_EQ(m_tools.m_crBackground, (CColor{255, 255, 255}));
-    EXPECT_EQ(TakeCalls(), "repaint");
-    m_answer = CColor{4, 5, 6};
-    DoubleClick(ptFore, EMouseButton::Right);
-    EXPECT_EQ(m_tools.m_crBackground, (CColor{4, 5, 6}));
     m_answer = CColor{7, 8, 9};
     DoubleClick(ptBeside, EMouseButton::Right);
     EXPECT_EQ(m_tools.m_crBackground, (CColor{7, 8, 9}));
-    m_answer = CColor{10, 11, 12};
-    m_controller.OnPaintColor();
-    EXPECT_EQ(m_tools.m_crForeground, (CColor{10, 11, 12}));
-    TakeCalls();
-    // Cancelled, and beside the bed: nothing changes.
-    m_answer.reset();
-    DoubleClick(ptFore, EMouseButton::Left);
-    m_controller.OnPaintColor();
-    EXPECT_EQ(m_arrAsked, std::vector<CColor>(6, {100, 100, 100}));
-    m_answer = CColor{13, 14, 15};
+    EXPECT_EQ(TakeCalls(), "repaint");
     for (const CPoint pt : {CPoint{209, 500}, {256, 500}, {230, 488}, {230, 535}})
         DoubleClick(pt, EMouseButton::Left);
-    EXPECT_EQ(m_arrAsked.size(), 6U);
-    EXPECT_EQ(m_tools.m_crForeground, (CColor{10, 11, 12}));
+    EXPECT_EQ(m_arrAsked.size(), 1U);
     EXPECT_EQ(TakeCalls(), "");
-    // The wells show what is chosen.
-    m_controller.OnWindowPainted();
-    EXPECT_EQ(At(230, 510), (CColor{10, 11, 12}));
-    EXPECT_EQ(At(248, 528), (CColor{7, 8, 9}));
+    EXPECT_EQ(m_controller.HelpAt({230, 510}), kHelpForeground);
+    EXPECT_EQ(m_controller.HelpAt({250, 530}), kHelpBackground);
+    EXPECT_EQ(m_controller.HelpAt(ptBeside), 0);
 }
 
 TEST_F(ToolController, ThePickerShowsItsFindAtOnce) {
@@ -215,10 +116,4 @@ TEST_F(ToolController, ThePickerShowsItsFindAtOnce) {
     m_controller.PickColor(false, {6, 5, 4});
     EXPECT_EQ(At(248, 528), (CColor{6, 5, 4}));
     EXPECT_EQ(At(230, 510), (CColor{9, 8, 7}));
-    EXPECT_EQ(m_tools.m_crForeground, (CColor{9, 8, 7}));
-    EXPECT_EQ(m_tools.m_crBackground, (CColor{6, 5, 4}));
-    EXPECT_EQ(TakeCalls(), "");
-    EXPECT_EQ(m_controller.HelpAt({230, 510}), 118);
-    EXPECT_EQ(m_controller.HelpAt({250, 530}), 119);
-    EXPECT_EQ(m_controller.HelpAt({212, 532}), 0);
 }

@@ -10,13 +10,17 @@ class ProgramTest : public ScriptTest {
         const int nStatus = std::system(strLine.c_str());
         return WIFEXITED(nStatus) ? WEXITSTATUS(nStatus) : -1;
     }
+    // A script of this folder can be done and prints what stands beside it.
+    static void ExpectPlays(const std::string& strName) {
+        const std::string strScript = FOTARIUM_SOURCE_DIR "/tests/play/" + strName;
+        EXPECT_EQ(Run("--strict '" + strScript + ".play'"), 0) << ReadBytes("err.txt");
+        EXPECT_EQ(ReadBytes("out.txt"), ReadBytes(strScript + ".expected"));
+        EXPECT_EQ(ReadBytes("err.txt"), "");
+    }
 };
 
 TEST_F(ProgramTest, PlaysTheWalk) {
-    const std::string strWalk = FOTARIUM_SOURCE_DIR "/tests/play/walk";
-    EXPECT_EQ(Run("--strict '" + strWalk + ".play'"), 0) << ReadBytes("err.txt");
-    EXPECT_EQ(ReadBytes("out.txt"), ReadBytes(strWalk + ".expected"));
-    EXPECT_EQ(ReadBytes("err.txt"), "");
+    ExpectPlays("walk");
     // The skin is found beside the program: the ground of the window is painted.
     const CPixels window = PixelsOf("window.ppm");
     ASSERT_FALSE(window.IsEmpty());
@@ -32,10 +36,7 @@ TEST_F(ProgramTest, PlaysTheBrowse) {
         if (entry.path().extension() == ".jpg")
             std::filesystem::copy(entry.path(), "photos/ZEFA肖像" / entry.path().filename());
     std::filesystem::copy("photos/ZEFA肖像/夜色.jpg", "photos/ZEFA肖像/旧/NIGHT.JPG");
-    const std::string strBrowse = FOTARIUM_SOURCE_DIR "/tests/play/browse";
-    EXPECT_EQ(Run("--strict '" + strBrowse + ".play'"), 0) << ReadBytes("err.txt");
-    EXPECT_EQ(ReadBytes("out.txt"), ReadBytes(strBrowse + ".expected"));
-    EXPECT_EQ(ReadBytes("err.txt"), "");
+    ExpectPlays("browse");
     EXPECT_TRUE(std::filesystem::exists("bin/花砖.jpg"));
     EXPECT_TRUE(std::filesystem::exists("bin/旧/NIGHT.JPG"));
     // Turned to the right: what was the bottom left corner is the top left one.
@@ -51,13 +52,10 @@ TEST_F(ProgramTest, PlaysTheBrowse) {
 
 // Every paint tool, the selections and the clipboard, against pictures that were looked at.
 TEST_F(ProgramTest, PlaysThePaint) {
-    const std::string strPaint = FOTARIUM_SOURCE_DIR "/tests/play/";
     ASSERT_TRUE(FlatImage(160, 120, {255, 255, 255}).Save("white.png", ImageType::kPng));
-    EXPECT_EQ(Run("--strict '" + strPaint + "paint.play'"), 0) << ReadBytes("err.txt");
-    EXPECT_EQ(ReadBytes("out.txt"), ReadBytes(strPaint + "paint.expected"));
-    EXPECT_EQ(ReadBytes("err.txt"), "");
+    ExpectPlays("paint");
     for (const char* szName : {"painted", "floating", "cropped"}) {
-        const CPixels expected = PixelsOf(strPaint + szName + ".png");
+        const CPixels expected = PixelsOf(std::string(FOTARIUM_SOURCE_DIR "/tests/play/") + szName + ".png");
         ASSERT_FALSE(expected.IsEmpty());
         EXPECT_EQ(Difference(PixelsOf(std::string(szName) + ".ppm"), expected), "") << szName;
     }

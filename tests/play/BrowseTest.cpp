@@ -112,29 +112,18 @@ TEST_F(BrowseTest, NamesTheLineThatCannotBeDone) {
     const std::string strFolder = std::filesystem::current_path().string();
     const std::pair<const char*, std::string> arrCases[] = {
         {"drive 5 c", "\"5\" is no letter of a drive"},
-        {"drive", "it is drive LETTER [PATH]"},
         {"drive E none", "there is no folder \"" + strFolder + "/none\""},
-        {"bin c/../d/ZEFA肖像/a.jpg", "there is no folder \"" + strFolder + "/d/ZEFA肖像/a.jpg\""},
         {"tree shake D:", "\"shake\" is no thing to do in the tree"},
         {"tree open old", "\"old\" is no path that begins with a drive"},
         {"tree open \"\"", "\"\" is no path that begins with a drive"},
-        {"tree open E:/x", "the tree has no \"E:/x\""},
         {"tree select D:/none/old", "the tree has no \"D:/none/old\""},
         {"tree open D:", "\"磁盘 (D:)\" is open already"},
-        {"tree close C:", "\"磁盘 (C:)\" is not open"},
         {"tree open D:/音乐", "\"音乐\" has nothing to open"},
         {"list click b.jpg", "the list has no \"b.jpg\""},
         {"list click a.jpg alt", "\"alt\" is no key beside shift and ctrl"},
-        {"list select a.jpg b.jpg", "the list has no \"b.jpg\""},
-        {"list double", "there is no such thing to do in the list"},
-        {"list key f13", "\"f13\" is no key"},
-        {"list key delete ctrl", "\"ctrl\" is no key beside shift"},
         {"list shake a.jpg", "there is no such thing to do in the list"},
         {"mode 3\nlist click a.jpg", "control 1117 is hidden"},
-        {"mode 3\ntree select C:", "control 1033 is hidden"},
         {"answer delete maybe", "there is no such answer"},
-        {"answer size keep depth 5", "there is no such answer"},
-        {"answer size 1 2 3", "there is no such answer"},
     };
     for (const auto& [szScript, strWhy] : arrCases) {
         const CResult result = Play("drive C c\ndrive D d\n" + std::string(szScript));

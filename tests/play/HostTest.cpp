@@ -9,18 +9,12 @@
 
 namespace {
 
-constexpr int kCheck = 10, kFirst = 11, kSecond = 12, kLine = 13, kView = 14, kList = 15, kEdit = 16,
-              kPlace = 17, kSlider = 18;
+constexpr int kCheck = 10, kLine = 13, kView = 14, kPlace = 17;
 constexpr std::array kControls = {
     CControlTemplate{kCheck, EControlKind::Check, CRect::FromPlace(0, 0, 10, 10)},
-    CControlTemplate{kFirst, EControlKind::Radio, CRect::FromPlace(0, 10, 10, 10)},
-    CControlTemplate{kSecond, EControlKind::Radio, CRect::FromPlace(0, 20, 10, 10)},
     CControlTemplate{kLine, EControlKind::Static, CRect::FromPlace(0, 30, 50, 10)},
     CControlTemplate{kView, EControlKind::View, CRect::FromPlace(50, 50, 40, 40)},
-    CControlTemplate{kList, EControlKind::PictureList, CRect::FromPlace(0, 50, 20, 20)},
-    CControlTemplate{kEdit, EControlKind::Edit, CRect::FromPlace(0, 70, 20, 10), "", true, true, 3},
     CControlTemplate{kPlace, EControlKind::Place, CRect::FromPlace(20, 50, 10, 10)},
-    CControlTemplate{kSlider, EControlKind::Slider, CRect::FromPlace(20, 60, 10, 10)},
 };
 constexpr CDialogTemplate kTemplate = {900, "", {100, 100}, EDialogFrame::Plain, kControls};
 
@@ -47,9 +41,6 @@ class CLogDialog : public CFileDialogPanel {
     void OnInitDialog() override { m_strLog += "init;"; }
     void OnDestroy() override { m_strLog += "destroy;"; }
     void OnCommand(int nId) override { m_strLog += "command " + std::to_string(nId) + ";"; }
-    void OnNotify(int nId, ENotice notice) override {
-        m_strLog += "notice " + std::to_string(nId) + ":" + std::to_string(static_cast<int>(notice)) + ";";
-    }
     void OnMouse(const CMouseEvent& event) override { m_strLog += "mouse " + Tell(event) + ";"; }
     void OnHover(int nId, bool bLeft) override {
         m_strLog += "hover " + std::to_string(nId) + (bLeft ? " down;" : ";");
@@ -87,28 +78,6 @@ class HostTest : public testing::Test {
 };
 
 }  // namespace
-
-TEST_F(HostTest, ClicksAsTheUserDoes) {
-    EXPECT_EQ(m_host->Click(kSecond), "");
-    EXPECT_TRUE(m_dialog.Controls().IsChecked(kSecond));
-    EXPECT_EQ(m_dialog.Controls().Focus(), kSecond);
-    EXPECT_EQ(m_host->Click(kFirst), "");
-    EXPECT_FALSE(m_dialog.Controls().IsChecked(kSecond));
-    EXPECT_EQ(m_dialog.TakeLog(), "command 12;command 11;");
-
-    m_dialog.Controls().SetItems(kList, {{"a"}, {"b"}});
-    EXPECT_EQ(m_host->SelectRow(kList, 1), "");
-    EXPECT_EQ(m_host->SelectRow(kList, 1), "");
-    EXPECT_EQ(m_host->Type(kEdit, "héllo"), "");
-    EXPECT_EQ(m_dialog.Controls().Text(kEdit), "hél");
-    EXPECT_EQ(m_host->MoveSlider(kSlider, 40), "");
-    EXPECT_NE(m_host->MoveSlider(kSlider, 101), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "notice 15:0;notice 15:4;notice 15:4;notice 16:1;notice 16:2;notice 18:3;");
-
-    m_dialog.Controls().Enable(kCheck, false);
-    EXPECT_NE(m_host->Click(kCheck), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "");
-}
 
 // The mouse is over a control before the event comes, and what is held stays held until it is let go.
 TEST_F(HostTest, RoutesTheMouse) {
@@ -195,20 +164,13 @@ TEST_F(HostTest, Timers) {
     }
 }
 
-TEST_F(HostTest, BoxesTakeTheirAnswersOrTheirDefaults) {
-    using enum EBoxAnswer;
-    CMessageBoxes& boxes = Get().boxes;
-    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::Ok}), Ok);
-    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::OkCancel}), Cancel);
-    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::YesNo}), No);
-    EXPECT_EQ(m_platform.TakeProblems().size(), 3U);
-    for (const EBoxAnswer answer : {Ok, Yes, Cancel}) m_platform.Answer(answer);
-    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::OkCancel}), Ok);
-    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::YesNo}), Yes);
-    EXPECT_TRUE(m_platform.TakeProblems().empty());
-    EXPECT_EQ(boxes.Show({"", "", EBoxIcon::None, EBoxButtons::YesNo}), No);
-    EXPECT_EQ(m_platform.TakeProblems().at(0).kind, EProblem::Impossible);
-    EXPECT_EQ(m_platform.TakeBoxes().size(), 6U);
+TEST_F(HostTest, NamesPathsByTheNearestDrive) {
+    m_platform.AddDrive('D', "/a");
+    m_platform.AddDrive('C', "/a/b/");
+    m_platform.AddDrive('D', "/");
+    EXPECT_EQ(m_platform.OnDrive("/a/b/c/d.jpg"), "C:/c/d.jpg");
+    EXPECT_EQ(m_platform.OnDrive("/a/b"), "C:");
+    EXPECT_EQ(m_platform.OnDrive("/a/bc/"), "D:/a/bc/");
 }
 
 TEST_F(HostTest, OpenDialogFollowsTheSelectionAndMovesThere) {

@@ -16,7 +16,7 @@ TEST_F(ScriptTest, HistoryByButtonMenuAndKey) {
     EXPECT_EQ(Print("command 1027\nmode 4\ncheck 1188\nstate undo\nstate sizerule\nstate image\n"
                     "show 1187\nshow 1188\nmode 2\ncommand 1004\nstate redo\nstate sizerule\n"
                     "command 32783\nstate undo\nkey Ctrl+Z\nstate undo\nkey ctrl+y\nstate undo\n"
-                    "key enter\nkey esc\nstate mode"),
+                    "key enter\r\nkey esc\n \t\nstate mode # and so on\r\n"),
               "undo 1\nsizerule phone\nimage 1 176 144\n"
               "show 1187 shown enabled unchecked \"\"\nshow 1188 shown enabled checked \"\"\n"
               "redo 1\nsizerule image\nundo 1\nundo 0\nundo 1\nmode 2 EFFECT\n");
@@ -38,11 +38,6 @@ TEST_F(ScriptTest, CanvasAndWindowDumps) {
     Print("open a.png\nscroll 250 260\ndump canvas canvas.ppm\ndump window window.ppm");
     EXPECT_EQ(PixelAt(PixelsOf("canvas.ppm"), 3, 4), PixelAt(NumberedPixels(900, 800), 253, 264));
     EXPECT_EQ(PixelAt(PixelsOf("window.ppm"), 325 + 3, 130 + 4), PixelAt(NumberedPixels(900, 800), 253, 264));
-}
-
-TEST_F(ScriptTest, CommentsBlanksAndLineEnds) {
-    EXPECT_EQ(Print("# all of it\n\n   \t\n  state mode # and so on\r\nstate \"undo\"\r\n"),
-              "mode 0 THUM\nundo 0\n");
 }
 
 // Airbrush and effects draw from one sequence.

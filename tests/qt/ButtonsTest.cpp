@@ -35,9 +35,9 @@ QRgb PixelAt(const CShownDialog& shown, int nId) {
 
 TEST(Buttons, ClickAndSpaceReachTheDialogOnce) {
     CShownDialog shown(kDialog);
-    QTest::mouseClick(shown.Widget(10), Qt::LeftButton);
+    shown.Click(10);
     QTest::keyClick(shown.Widget(10), Qt::Key_Space);
-    QTest::mouseClick(shown.Widget(12), Qt::LeftButton);
+    shown.Click(12);
     EXPECT_EQ(shown.dialog.m_arrCommands, (std::vector{10, 10, 12}));
     // Released beside the button: no click. So is a press with the other button.
     Press(*shown.view, shown.Centre(10));
@@ -48,26 +48,23 @@ TEST(Buttons, ClickAndSpaceReachTheDialogOnce) {
 
 TEST(Buttons, ADisabledOneIsDeafButIsHoveredOver) {
     CShownDialog shown(kDialog);
-    Press(*shown.view, shown.Centre(11));
-    Release(*shown.view, shown.Centre(11));
+    Tap(*shown.view, shown.Centre(11));
     EXPECT_TRUE(shown.dialog.m_arrCommands.empty());
     EXPECT_TRUE(shown.dialog.m_arrMouse.empty()) << "a press on a disabled key is none beside the controls";
     Move(*shown.view, shown.Centre(11));
     Move(*shown.view, {5, 100});
-    EXPECT_EQ(shown.dialog.m_arrHovers, (std::vector<std::pair<int, bool>>{{11, false}, {0, false}}));
+    EXPECT_EQ(shown.dialog.m_arrHovers, (CHovers{{11, false}, {0, false}}));
 }
 
 TEST(Buttons, ThePictureFollowsTheState) {
     CTestBitmaps skin;
-    skin.Add("KEYU", {30, 20}, {1, 0, 0});
-    skin.Add("KEYD", {30, 20}, {2, 0, 0});
-    skin.Add("KEYF", {30, 20}, {3, 0, 0});
-    skin.Add("KEYX", {30, 20}, {5, 0, 0});
-    skin.Add("DEADU", {30, 20}, {4, 0, 0});
-    CShownDialog shown(kDialog, nullptr, skin);
-    shown.dialog.Controls().SetFocus(31);
+    std::uint8_t nRed = 0;
+    for (const char* szName : {"KEYU", "KEYD", "KEYF", "DEADU", "KEYX"})
+        skin.Add(szName, {30, 20}, {++nRed, 0, 0});
+    CShownDialog shown(kDialog, skin);
+    shown.Controls().SetFocus(31);
     EXPECT_EQ(PixelAt(shown, 10), qRgb(1, 0, 0));
-    shown.dialog.Controls().SetFocus(10);
+    shown.Controls().SetFocus(10);
     EXPECT_EQ(PixelAt(shown, 10), qRgb(3, 0, 0));
     EXPECT_EQ(PixelAt(shown, 11), qRgb(4, 0, 0)) << "no picture for disabled: the normal one";
     Press(*shown.view, shown.Centre(10));
@@ -77,28 +74,26 @@ TEST(Buttons, ThePictureFollowsTheState) {
     Move(*shown.view, shown.Centre(10));
     EXPECT_EQ(PixelAt(shown, 10), qRgb(2, 0, 0));
     Release(*shown.view, shown.Centre(10));
-    shown.dialog.Controls().Enable(10, false);
+    shown.Controls().Enable(10, false);
     EXPECT_EQ(PixelAt(shown, 10), qRgb(5, 0, 0));
 }
 
 TEST(Marks, AreMovedBeforeTheDialogHears) {
     CShownDialog shown(kDialog);
-    CControlSet& controls = shown.dialog.Controls();
     std::vector<std::string> arrSeen;
     shown.dialog.m_fnCommand = [&](int) {
         std::string str;
-        for (const int nId : {20, 22, 30, 31}) str += controls.IsChecked(nId) ? '1' : '0';
+        for (const int nId : {20, 22, 30, 31}) str += shown.Controls().IsChecked(nId) ? '1' : '0';
         arrSeen.push_back(str);
     };
-    controls.Check(30, true);
-    for (const int nId : {20, 22, 31, 31, 22}) QTest::mouseClick(shown.Widget(nId), Qt::LeftButton);
+    shown.Controls().Check(30, true);
+    for (const int nId : {20, 22, 31, 31, 22}) shown.Click(nId);
     EXPECT_EQ(arrSeen, (std::vector<std::string>{"1010", "0110", "0111", "0110", "0110"}));
 }
 
 TEST(Edit, TypingIsLimitedAndTold) {
     CShownDialog shown(kDialog);
-    auto* pEdit = qobject_cast<QLineEdit*>(shown.Widget(40));
-    ASSERT_NE(pEdit, nullptr);
+    auto* pEdit = static_cast<QLineEdit*>(shown.Widget(40));
     EXPECT_EQ(pEdit->text(), "abc");
     pEdit->setCursorPosition(0);
     QTest::keyClicks(pEdit, "xyz");
@@ -116,11 +111,10 @@ TEST(Edit, LeavingItIsToldOnceAndOnlyAfterTyping) {
     shown.dialog.m_arrNotices.clear();
     // A key of another control takes the focus on its press: the edit's word comes before the click's.
     shown.dialog.m_fnCommand = [&](int) {
-        EXPECT_EQ(shown.dialog.m_arrNotices, (std::vector<std::pair<int, ENotice>>{{40, ENotice::TextDone}}));
+        EXPECT_EQ(shown.dialog.m_arrNotices, (CNotices{{40, ENotice::TextDone}}));
     };
     shown.Widget(40)->setFocus();
-    Press(*shown.view, shown.Centre(10));
-    Release(*shown.view, shown.Centre(10));
+    Tap(*shown.view, shown.Centre(10));
     EXPECT_EQ(shown.dialog.m_arrCommands, std::vector{10});
     // The end of the dialog takes the focus too, but there is nobody left to be told.
     shown.Widget(40)->setFocus();
@@ -132,8 +126,7 @@ TEST(Edit, LeavingItIsToldOnceAndOnlyAfterTyping) {
 
 TEST(Combo, ShowsItsTextsAndTellsTheUsersChoice) {
     CShownDialog shown(kDialog);
-    auto* pCombo = qobject_cast<QComboBox*>(shown.Widget(42));
-    ASSERT_NE(pCombo, nullptr);
+    auto* pCombo = static_cast<QComboBox*>(shown.Widget(42));
     shown.dialog.Controls().SetItems(42, {{" 176 X 144 ", -1}, {" 640 X 480 ", -1}});
     EXPECT_EQ(pCombo->currentIndex(), -1);
     shown.dialog.Controls().Select(42, 0);
@@ -141,6 +134,5 @@ TEST(Combo, ShowsItsTextsAndTellsTheUsersChoice) {
     EXPECT_TRUE(shown.dialog.m_arrNotices.empty());
     QTest::keyClick(pCombo, Qt::Key_Down);
     EXPECT_EQ(shown.dialog.Controls().Selection(42), 1);
-    EXPECT_EQ(shown.dialog.m_arrNotices,
-              (std::vector<std::pair<int, ENotice>>{{42, ENotice::SelectionChanged}}));
+    EXPECT_EQ(shown.dialog.m_arrNotices, (CNotices{{42, ENotice::SelectionChanged}}));
 }

@@ -13,7 +13,6 @@
 #include <fstream>
 
 #include "TestDialog.h"
-#include "qt/FileNames.h"
 #include "qt/QtPlatform.h"
 #include "qt/UnlistedFiles.h"
 
@@ -81,23 +80,7 @@ class FileDialogs : public testing::Test {
 
 }  // namespace
 
-TEST_F(FileDialogs, OnlyMatchingFilesAreListed) {
-    QStringList arrNames;
-    Later([&] {
-        auto* pList = Window().findChild<QListView*>("listView");
-        ASSERT_NE(pList, nullptr);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return pList->model()->rowCount(pList->rootIndex()) == 4; }));
-        for (int i = 0; i < 4; ++i)
-            arrNames += pList->model()->index(i, 0, pList->rootIndex()).data().toString();
-        EXPECT_EQ(Window().nameFilters(), QStringList{"JPG Files (*.JPG)"});
-        Window().reject();
-    });
-    EXPECT_FALSE(m_owner.Platform().files.RunOpen(kRequest, nullptr).has_value());
-    arrNames.sort();
-    EXPECT_EQ(arrNames, (QStringList{"a.jpg", "b.JPG", "sub", "two\nlines.jpg"}));
-}
-
-TEST_F(FileDialogs, ThePanelFollowsTheSelection) {
+TEST_F(FileDialogs, MatchingFilesAreListedAndThePanelFollowsTheSelection) {
     CTestPanel panel(kPanel);
     Later([&] {
         auto* pList = Window().findChild<QListView*>("listView");
@@ -106,9 +89,8 @@ TEST_F(FileDialogs, ThePanelFollowsTheSelection) {
             const QModelIndex index = pList->model()->index(i, 0, pList->rootIndex());
             if (index.data().toString() != "sub") pList->setCurrentIndex(index);
         }
+        EXPECT_EQ(Window().nameFilters(), QStringList{"JPG Files (*.JPG)"});
         EXPECT_EQ(panel.m_nInits, 1);
-        const auto* pView = Window().findChild<QAbstractButton*>("");
-        EXPECT_NE(pView, nullptr);
         Accept();
     });
     const auto choice = m_owner.Platform().files.RunOpen(kRequest, &panel);
@@ -143,9 +125,7 @@ TEST_F(FileDialogs, OkMovesToTheFilesFolderAndCancelDoesNot) {
 }
 
 TEST_F(FileDialogs, BytesThatAreNoTextSurvive) {
-    const std::string strName =
-        "b\xc4\xe3\xba"
-        "d.jpg";
+    const std::string strName = "b\xc4\xe3\xba.jpg";
     Touch(strName);
     Touch("\xc4.png");
     Touch("\xb2\xbb/x.jpg");
@@ -204,11 +184,4 @@ TEST_F(FileDialogs, SaveAsksBeforeItReplaces) {
             EXPECT_EQ(choice->strPath, (Folder() / one.strName).string());
         }
     }
-}
-
-TEST(FileFilter, EachLabelNamesItsPattern) {
-    EXPECT_EQ(ParseFilter("JPG Files (*.JPG)|*.jpg||"), QStringList{"JPG Files (*.JPG)"});
-    EXPECT_EQ(ParseFilter("图片|*.bmp;*.gif|All (*.*)|*.*||"),
-              (QStringList{"图片 (*.bmp *.gif)", "All (*.*)"}));
-    EXPECT_TRUE(ParseFilter("").isEmpty());
 }

@@ -4,11 +4,11 @@
 
 #include <QElapsedTimer>
 #include <QListView>
-#include <QPaintEvent>
 #include <QScrollBar>
 #include <random>
 
 #include "MainWindow.h"
+#include "PaintWatch.h"
 
 namespace {
 
@@ -16,21 +16,15 @@ constexpr int kFiles = 150;
 // One slice, an event, and a machine that has other things to do. A fill in one go takes longer by far.
 constexpr qint64 kLongestWait = 1000;
 
-// Counts the paints of a widget, and how long the event loop once was away.
-class CWatch : public QObject {
+// Also how long the event loop once was away.
+class CWatch : public CPaintWatch {
   public:
-    explicit CWatch(QWidget& widget) {
-        widget.installEventFilter(this);
+    explicit CWatch(QWidget& widget) : CPaintWatch(widget) {
         m_clock.start();
         QObject::connect(&m_timer, &QTimer::timeout, this,
                          [this] { m_nLongest = std::max(m_nLongest, m_clock.restart()); });
         m_timer.start(5);
     }
-    bool eventFilter(QObject* /*pObject*/, QEvent* pEvent) override {
-        m_nPaints += pEvent->type() == QEvent::Paint;
-        return false;
-    }
-    int m_nPaints = 0;
     qint64 m_nLongest = 0;
 
   private:
@@ -43,15 +37,12 @@ class Fill : public MainWindow {
     void SetUp() override {
         const fs::path folder = fs::path(m_folder.path().toStdString()) / "ZEFA肖像";
         fs::create_directory(folder);
-        CPixels pixels;
-        ASSERT_TRUE(pixels.CreateRaw(1600, 1200));
+        CPixels pixels = CPixels::MakeFilled(1600, 1200, {});
         // Noise takes as long to decode as anything can.
         std::minstd_rand random(1);
         for (int y = 0; y < 1200; ++y)
             for (std::uint8_t& byte : pixels.MutableRow(y)) byte = static_cast<std::uint8_t>(random());
-        CxImage image;
-        ASSERT_TRUE(image.CreateFromHBITMAP(pixels));
-        ASSERT_TRUE(image.Save((folder / "000.jpg").string(), ImageType::kJpeg));
+        ASSERT_TRUE(CxImage(pixels).Save((folder / "000.jpg").string(), ImageType::kJpeg));
         for (int i = 1; i < kFiles; ++i)
             fs::create_hard_link(folder / "000.jpg",
                                  folder / QString("%1.jpg").arg(i, 3, 10, QChar('0')).toStdString());
@@ -77,9 +68,7 @@ TEST_F(Fill, PaintsAndScrollsMeanwhile) {
     RunUntilPainted(watch, 5);
     ASSERT_TRUE(IsFilling());
     // The wheel moves the list, and the new rows are painted before the fill is over.
-    QWheelEvent wheel({100, 100}, List().viewport()->mapToGlobal(QPoint(100, 100)), {}, {0, -1200},
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(List().viewport(), &wheel);
+    Wheel(*List().viewport(), -1200);
     EXPECT_GT(List().verticalScrollBar()->value(), 200);
     RunUntilPainted(watch, 3);
     EXPECT_TRUE(IsFilling());

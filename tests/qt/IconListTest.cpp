@@ -18,21 +18,22 @@ constexpr CControlTemplate kControls[] = {
     {18, EControlKind::Button, CRect::FromPlace(10, 560, 60, 20), "Beside"},
 };
 constexpr CDialogTemplate kDialog{902, "Icons", {680, 590}, EDialogFrame::Plain, kControls};
-constexpr CColor kRed{200, 20, 30};
 
 // Writes down in short words what it hears.
 class CTestSink : public CIconListSink {
   public:
     explicit CTestSink(CIconListModel& icons) : m_icons(icons) { icons.SetSink(this); }
-    void OnItemClick(int nItem) override { Add("click ", nItem); }
+    void OnItemClick(int nItem) override { Add("click " + std::to_string(nItem)); }
     void OnItemDoubleClick(int nItem) override {
-        Add("double ", nItem);
+        Add("double " + std::to_string(nItem));
         if (m_fnDouble) m_fnDouble();
     }
     void OnEnter() override { Add("enter"); }
-    void OnKeyDown(int nKey, bool bShift) override { Add(bShift ? "shift " : "key ", nKey); }
+    void OnKeyDown(int nKey, bool bShift) override {
+        Add((bShift ? "shift " : "key ") + std::to_string(nKey));
+    }
     void OnRightPress(int nItem) override {
-        Add("right ", nItem);
+        Add("right " + std::to_string(nItem));
         if (nItem >= 0) m_icons.Select(nItem, !m_icons.IsSelected(nItem));
     }
     void OnLeftPress() override { Add("press"); }
@@ -44,11 +45,7 @@ class CTestSink : public CIconListSink {
     int m_nMoves = 0;
 
   private:
-    void Add(const char* szWhat, int nOf = -2) {
-        if (!m_strHeard.empty()) m_strHeard += ", ";
-        m_strHeard += szWhat;
-        if (nOf != -2) m_strHeard += std::to_string(nOf);
-    }
+    void Add(const std::string& strWhat) { m_strHeard += (m_strHeard.empty() ? "" : ", ") + strWhat; }
     CIconListModel& m_icons;
     std::string m_strHeard;
 };
@@ -59,8 +56,8 @@ std::vector<std::string> Names(int nCount) {
     return arrNames;
 }
 
-CPixels Picture(CColor color) {
-    return CPixels::MakeFilled(110, 110, color);
+CPixels RedPicture() {
+    return CPixels::MakeFilled(110, 110, {200, 20, 30});
 }
 
 class IconList : public testing::Test {
@@ -96,31 +93,26 @@ class IconList : public testing::Test {
 
     CIconListModel m_icons;
     CTestSink m_sink{m_icons};
-    CShownDialog m_shown{kDialog, nullptr, &m_icons};
+    CShownDialog m_shown{kDialog, {}, {.pIcons = &m_icons}};
 };
 
 using CItems = std::vector<int>;
 
 // The colours along a line of pixels: a letter and how many of it.
 std::string RunsAlong(const QImage& image, QPoint pt, QPoint ptStep, int nCount) {
-    const auto fnLetter = [&](QRgb rgb) {
-        constexpr std::pair<QRgb, char> kLetters[] = {{qRgb(109, 121, 126), 'g'},
-                                                      {qRgb(200, 20, 30), 'r'},
-                                                      {qRgb(232, 143, 54), 'w'},
-                                                      {qRgb(92, 103, 108), 'e'},
-                                                      {qRgb(103, 115, 120), 'f'}};
-        for (const auto& [rgbKnown, c] : kLetters)
-            if (rgb == rgbKnown) return c;
-        return '?';
-    };
-    std::string strRuns;
+    const std::map<QRgb, QChar> mapLetters = {{qRgb(109, 121, 126), 'g'},
+                                              {qRgb(200, 20, 30), 'r'},
+                                              {qRgb(232, 143, 54), 'w'},
+                                              {qRgb(92, 103, 108), 'e'},
+                                              {qRgb(103, 115, 120), 'f'}};
+    QString strRuns;
     for (int i = 0, nRun = 1; i < nCount; ++i, pt += ptStep, ++nRun) {
-        const char c = fnLetter(image.pixel(pt));
-        if (i + 1 < nCount && fnLetter(image.pixel(pt + ptStep)) == c) continue;
-        strRuns += QString("%1%2 ").arg(c).arg(nRun).toStdString();
+        const QRgb rgb = image.pixel(pt);
+        if (i + 1 < nCount && image.pixel(pt + ptStep) == rgb) continue;
+        strRuns += QString("%1%2 ").arg(mapLetters.contains(rgb) ? mapLetters.at(rgb) : '?').arg(nRun);
         nRun = 0;
     }
-    return strRuns;
+    return strRuns.toStdString();
 }
 
 }  // namespace
@@ -140,7 +132,7 @@ TEST_F(IconList, FiveColumnsStandWithAndWithoutTheScrollBar) {
 TEST_F(IconList, APictureComesUpInItsCellAndPaintsNoOther) {
     EXPECT_NE(ColorAt(At(1)), QColor(200, 20, 30));
     CPaintWatch watch(Port());
-    m_icons.SetPicture(1, Picture(kRed));
+    m_icons.SetPicture(1, RedPicture());
     Settle();
     EXPECT_FALSE(watch.m_region.isEmpty());
     EXPECT_TRUE(Cell(1).adjusted(-8, -8, 8, 8).contains(watch.m_region.boundingRect()));
@@ -157,20 +149,19 @@ TEST_F(IconList, CellsLookAsTheirItemsAre) {
     for (int i = 0; i < 40; ++i) strLong += "很长的名字";
     Fill({"bytes\xff\xfe\n.jpg", strLong + ".jpg", "a", "beside"});
     EXPECT_EQ(Cell(1).size(), Cell(0).size());
-    for (const int nItem : {2, 3}) m_icons.SetPicture(nItem, Picture(kRed));
+    for (const int nItem : {2, 3}) m_icons.SetPicture(nItem, RedPicture());
     m_icons.Select(2, true);
     Settle();
     const QImage image = Port().grab().toImage();
-    const auto fnRuns = [&](int nItem, QPoint pt, bool bAcross) {
-        return RunsAlong(image, Cell(nItem).topLeft() + pt, bAcross ? QPoint(1, 0) : QPoint(0, 1),
-                         bAcross ? 118 : 119);
+    const auto fnAcross = [&](int nItem) {
+        return RunsAlong(image, Cell(nItem).topLeft() + QPoint(0, 60), {1, 0}, 118);
     };
-    EXPECT_EQ(fnRuns(0, {0, 60}, true), "g4 e1 f108 e1 g4 ");
-    EXPECT_EQ(fnRuns(0, {60, 0}, false), "g5 e1 f108 e1 g4 ");
-    EXPECT_EQ(fnRuns(3, {0, 60}, true), "g4 r110 g4 ");
-    EXPECT_EQ(fnRuns(3, {60, 0}, false), "g5 r110 g4 ");
-    EXPECT_EQ(fnRuns(2, {0, 60}, true), "g1 w3 r110 w3 g1 ");
-    EXPECT_EQ(fnRuns(2, {60, 0}, false), "g2 w3 r110 w3 g1 ");
+    const auto fnDown = [&](int nItem) {
+        return RunsAlong(image, Cell(nItem).topLeft() + QPoint(60, 0), {0, 1}, 119);
+    };
+    EXPECT_EQ(fnAcross(0) + "| " + fnDown(0), "g4 e1 f108 e1 g4 | g5 e1 f108 e1 g4 ");
+    EXPECT_EQ(fnAcross(3) + "| " + fnDown(3), "g4 r110 g4 | g5 r110 g4 ");
+    EXPECT_EQ(fnAcross(2) + "| " + fnDown(2), "g1 w3 r110 w3 g1 | g2 w3 r110 w3 g1 ");
     EXPECT_EQ(ColorAt(Cell(2).topLeft() + QPoint(53, 128)), QColor(232, 143, 54));
     const auto fnInked = [&](int nItem, int nTop) {
         int nInked = 0;
@@ -249,7 +240,7 @@ TEST_F(IconList, TheDriverTellsTheLogicWhatTheWindowTells) {
     CTestSink sink(icons);
     icons.SetItems(Names(12));
     CTestDialog dialog(kDialog);
-    dialog.m_pIcons = &icons;
+    dialog.m_models.pIcons = &icons;
     CScriptedPlatform platform;
     CPlayHost host(platform, dialog);
     host.Init();
@@ -303,7 +294,7 @@ TEST_F(IconList, TheDriverTellsTheLogicWhatTheWindowTells) {
 TEST_F(IconList, TheListOutlivesItsView) {
     m_shown.view.reset();
     m_icons.SetItems(Names(3));
-    m_icons.SetPicture(1, Picture(kRed));
+    m_icons.SetPicture(1, RedPicture());
     m_icons.Select(2, true);
     EXPECT_EQ(m_icons.SelectedItems(), CItems{2});
 }
@@ -315,7 +306,7 @@ TEST_F(IconList, TwentyThousandItemsComeUpAtOnce) {
     Port().grab();
     View().verticalScrollBar()->setValue(View().verticalScrollBar()->maximum());
     Port().grab();
-    for (int i = 0; i < 1000; ++i) m_icons.SetPicture(19000 + i, Picture(kRed));
+    for (int i = 0; i < 1000; ++i) m_icons.SetPicture(19000 + i, RedPicture());
     Settle();
     QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(m_icons.SelectedCount(), 20000);

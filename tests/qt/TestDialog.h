@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <functional>
 #include <map>
 #include <string>
@@ -42,29 +43,36 @@ class CTestScrollView : public CScrollView {
   public:
     using CScrollView::CScrollView;
     void OnMouse(const CMouseEvent& event) override { m_arrMouse.push_back(event); }
-    void DrawDot(CPoint pt) {
-        ClientSurface().SetPixel(pt.x, pt.y, {90, 80, 70});
-        Drawn(CRect::FromPlace(pt.x, pt.y, 1, 1));
+    void DrawDot(int x, int y) {
+        ClientSurface().SetPixel(x, y, {90, 80, 70});
+        Drawn(CRect::FromPlace(x, y, 1, 1));
     }
     std::vector<CMouseEvent> m_arrMouse;
     void OnTimer(int /*nTimer*/) override { ++m_nTicks; }
-    int m_nDraws = 0;
     int m_nTicks = 0;
 
   protected:
     void OnDraw(CSurface& surface) override {
         surface.FillRect(surface.Bounds(), {10, 20, 30});
         surface.SetPixel(0, ScrollPosition().y / 10, {90, 80, 70});
-        ++m_nDraws;
     }
 };
+
+// What the controls of a dialog show.
+struct CTestModels {
+    CScrollView* pView = nullptr;
+    CTreeModel* pTree = nullptr;
+    CIconListModel* pIcons = nullptr;
+};
+
+using CNotices = std::vector<std::pair<int, ENotice>>;
+using CHovers = std::vector<std::pair<int, bool>>;
 
 // Keeps every call of a handler.
 class CTestDialog : public CDialog {
   public:
     using CDialog::CDialog;
     void OnInitDialog() override {
-        ++m_nInits;
         if (m_fnInit) m_fnInit();
     }
     void OnDestroy() override { ++m_nDestroys; }
@@ -82,47 +90,37 @@ class CTestDialog : public CDialog {
     void OnTimer(int nTimer) override {
         if (m_fnTimer) m_fnTimer(nTimer);
     }
-    CScrollView* ViewOf(int /*nId*/) override { return m_pView; }
-    CTreeModel* TreeOf(int /*nId*/) override { return m_pTree; }
-    CIconListModel* IconsOf(int /*nId*/) override { return m_pIcons; }
+    CScrollView* ViewOf(int /*nId*/) override { return m_models.pView; }
+    CTreeModel* TreeOf(int /*nId*/) override { return m_models.pTree; }
+    CIconListModel* IconsOf(int /*nId*/) override { return m_models.pIcons; }
 
     std::vector<int> m_arrCommands;
-    std::vector<std::pair<int, ENotice>> m_arrNotices;
+    CNotices m_arrNotices;
     std::vector<CMouseEvent> m_arrMouse;
-    std::vector<std::pair<int, bool>> m_arrHovers;
+    CHovers m_arrHovers;
     std::vector<CKeyEvent> m_arrKeys;
     bool m_bSwallowKeys = false;
-    int m_nInits = 0;
     int m_nDestroys = 0;
     int m_nPaints = 0;
+    CColor m_colorGround{50, 60, 70};
     std::function<void()> m_fnInit;
     std::function<void(int)> m_fnCommand;
     std::function<void(int)> m_fnTimer;
-    CScrollView* m_pView = nullptr;
-    CTreeModel* m_pTree = nullptr;
-    CIconListModel* m_pIcons = nullptr;
+    CTestModels m_models;
 
   protected:
     void OnPaint(CClientArea& client) override {
         ++m_nPaints;
-        client.FillRect(CRect::FromPlace(0, 0, client.Size().cx, client.Size().cy), {50, 60, 70});
+        client.FillRect(CRect::FromPlace(0, 0, client.Size().cx, client.Size().cy), m_colorGround);
     }
 };
 
 // A dialog in its window.
 struct CShownDialog {
-    CShownDialog(const CDialogTemplate& dialogTemplate, CScrollView* pView = nullptr, CTestBitmaps skin = {})
+    explicit CShownDialog(const CDialogTemplate& dialogTemplate, CTestBitmaps skin = {},
+                          CTestModels models = {})
         : bitmaps(std::move(skin)), dialog(dialogTemplate), pictures(bitmaps) {
-        dialog.m_pView = pView;
-        Show();
-    }
-    CShownDialog(const CDialogTemplate& dialogTemplate, CTreeModel* pTree, CIconListModel* pIcons)
-        : dialog(dialogTemplate), pictures(bitmaps) {
-        dialog.m_pTree = pTree;
-        dialog.m_pIcons = pIcons;
-        Show();
-    }
-    void Show() {
+        dialog.m_models = models;
         view = std::make_unique<CDialogView>(dialog, pictures, nullptr);
         view->Prepare();
         view->show();
@@ -131,6 +129,8 @@ struct CShownDialog {
     }
     QWidget* Widget(int nId) const { return view->WidgetOf(nId); }
     QPoint Centre(int nId) const { return Widget(nId)->geometry().center(); }
+    CControlSet& Controls() { return dialog.Controls(); }
+    void Click(int nId) { QTest::mouseClick(Widget(nId), Qt::LeftButton); }
 
     CTestBitmaps bitmaps;
     CTestDialog dialog;
@@ -146,8 +146,19 @@ inline void Press(QWidget& window, QPoint pt, Qt::MouseButton button = Qt::LeftB
 inline void Release(QWidget& window, QPoint pt, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseRelease(window.windowHandle(), button, {}, pt);
 }
+inline void Tap(QWidget& window, QPoint pt) {
+    Press(window, pt);
+    Release(window, pt);
+}
 inline void Move(QWidget& window, QPoint pt) {
     QTest::mouseMove(window.windowHandle(), pt);
+}
+
+// Over the point (50, 50) of the widget; 120 is a notch away from the hand.
+inline void Wheel(QWidget& widget, int nDelta) {
+    const QPoint pt(50, 50);
+    QWheelEvent event(pt, widget.mapToGlobal(pt), {}, {0, nDelta}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &event);
 }
 
 // What the buttons did; the system reports a move before each of them.

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTreeView>
+#include <fstream>
 #include <random>
 
 #include "TestDialog.h"
@@ -17,6 +18,9 @@ namespace {
 
 constexpr CControlTemplate kControls[] = {{33, EControlKind::Tree, CRect::FromPlace(0, 0, 250, 300)}};
 constexpr CDialogTemplate kDialog{901, "Tree", {260, 310}, EDialogFrame::Plain, kControls};
+
+using COpenings = std::vector<std::pair<CTreeItem, bool>>;
+using CSelections = std::vector<std::pair<CTreeItem, ETreeCause>>;
 
 // Reads "lazy" items when they open, as the folders of a disk are read.
 class CTestSink : public CTreeSink {
@@ -31,8 +35,8 @@ class CTestSink : public CTreeSink {
         m_arrSelections.emplace_back(item, cause);
     }
 
-    std::vector<std::pair<CTreeItem, bool>> m_arrOpenings;
-    std::vector<std::pair<CTreeItem, ETreeCause>> m_arrSelections;
+    COpenings m_arrOpenings;
+    CSelections m_arrSelections;
 
   private:
     CTreeModel& m_tree;
@@ -49,18 +53,18 @@ class Tree : public testing::Test {
         sink.m_arrOpenings.clear();
     }
     QTreeView& View() { return *qobject_cast<QTreeView*>(shown.Widget(33)); }
-    QModelIndex Index(CTreeItem item) { return static_cast<CTreeAdaptor*>(View().model())->IndexOf(item); }
+    CTreeAdaptor& Adaptor() { return *static_cast<CTreeAdaptor*>(View().model()); }
+    QModelIndex Index(CTreeItem item) { return Adaptor().IndexOf(item); }
+    QRect Row(CTreeItem item) { return View().visualRect(Index(item)); }
     CTreeItem Current() {
         const QModelIndexList arrRows = View().selectionModel()->selectedRows();
-        return arrRows.isEmpty() ? kNoTreeItem
-                                 : static_cast<CTreeAdaptor*>(View().model())->ItemOf(arrRows.front());
+        return arrRows.isEmpty() ? kNoTreeItem : Adaptor().ItemOf(arrRows.front());
     }
     void Click(CTreeItem item, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::mouseClick(View().viewport(), Qt::LeftButton, modifiers,
-                          View().visualRect(Index(item)).center());
+        QTest::mouseClick(View().viewport(), Qt::LeftButton, modifiers, Row(item).center());
     }
     void ClickArrow(CTreeItem item) {
-        const QRect rc = View().visualRect(Index(item));
+        const QRect rc = Row(item);
         QTest::mouseClick(View().viewport(), Qt::LeftButton, {},
                           {rc.left() - View().indentation() / 2, rc.center().y()});
     }
@@ -68,7 +72,7 @@ class Tree : public testing::Test {
     CTreeModel tree;
     CTestSink sink;
     CTreeItem root, lazy, empty, leaf;
-    CShownDialog shown{kDialog, &tree, nullptr};
+    CShownDialog shown{kDialog, {}, {.pTree = &tree}};
 };
 
 // Every item of the tree stands in the view's model at its place, and the other way round.
@@ -88,7 +92,7 @@ void ExpectSame(const CTreeModel& tree, const CTreeAdaptor& adaptor, CTreeItem p
 }  // namespace
 
 TEST_F(Tree, TheViewKeepsUpWithWhateverComesAndGoes) {
-    auto& adaptor = *static_cast<CTreeAdaptor*>(View().model());
+    CTreeAdaptor& adaptor = Adaptor();
     const auto nSeed = std::random_device{}();
     SCOPED_TRACE("seed " + std::to_string(nSeed));
     std::mt19937 random(nSeed);
@@ -98,26 +102,16 @@ TEST_F(Tree, TheViewKeepsUpWithWhateverComesAndGoes) {
     for (int i = 0; i < 1500; ++i) {
         std::erase_if(arrItems, [&](CTreeItem item) { return !tree.Exists(item); });
         const CTreeItem item = arrItems.empty() ? kNoTreeItem : arrItems[random() % arrItems.size()];
-        switch (random() % 8) {
-            case 0:
-                if (item != root) tree.Delete(item);
-                break;
-            case 1:
-                tree.Expand(item);
-                break;
-            case 2:
-                tree.Collapse(item);
-                break;
-            case 3:
-                tree.Select(item);
-                break;
-            case 4:
-                tree.SetHasChildrenMark(item, random() % 2 == 0);
-                break;
-            default:
-                arrItems.push_back(tree.InsertSorted(item, std::to_string(random() % 100), ETreeIcon::Folder,
-                                                     random() % 2 == 0));
-                mapHeld[arrItems.back()] = adaptor.IndexOf(arrItems.back());
+        const auto nStep = random() % 8;
+        if (nStep == 0 && item != root) tree.Delete(item);
+        if (nStep == 1) tree.Expand(item);
+        if (nStep == 2) tree.Collapse(item);
+        if (nStep == 3) tree.Select(item);
+        if (nStep == 4) tree.SetHasChildrenMark(item, random() % 2 == 0);
+        if (nStep > 4) {
+            const std::string strText = std::to_string(random() % 100);
+            arrItems.push_back(tree.InsertSorted(item, strText, ETreeIcon::Folder, random() % 2 == 0));
+            mapHeld[arrItems.back()] = adaptor.IndexOf(arrItems.back());
         }
         if (i % 7 == 0) QCoreApplication::processEvents();
     }
@@ -148,8 +142,7 @@ TEST_F(Tree, TheHandOpensAndIsAskedForEachTime) {
     ClickArrow(empty);
     EXPECT_FALSE(tree.IsExpanded(empty));
     EXPECT_FALSE(View().isExpanded(Index(empty)));
-    EXPECT_EQ(sink.m_arrOpenings, (std::vector<std::pair<CTreeItem, bool>>{
-                                      {lazy, true}, {lazy, false}, {lazy, true}, {empty, true}}));
+    EXPECT_EQ(sink.m_arrOpenings, (COpenings{{lazy, true}, {lazy, false}, {lazy, true}, {empty, true}}));
 }
 
 TEST_F(Tree, OneKeyDoesNotOpenTheWholeDisk) {
@@ -167,12 +160,12 @@ TEST_F(Tree, EachSelectionIsToldOnceWithItsCause) {
     tree.Select(leaf);
     QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, {100, 280});
     // Drawn along with the button held, and pressed with the other one: neither selects.
-    QTest::mousePress(View().viewport(), Qt::LeftButton, {}, View().visualRect(Index(leaf)).center());
-    QTest::mouseMove(View().viewport(), View().visualRect(Index(root)).center());
-    QTest::mouseClick(View().viewport(), Qt::RightButton, {}, View().visualRect(Index(root)).center());
-    EXPECT_EQ(sink.m_arrSelections,
-              (std::vector<std::pair<CTreeItem, ETreeCause>>{
-                  {lazy, ETreeCause::Mouse}, {empty, ETreeCause::Keyboard}, {leaf, ETreeCause::Unknown}}));
+    QTest::mousePress(View().viewport(), Qt::LeftButton, {}, Row(leaf).center());
+    QTest::mouseMove(View().viewport(), Row(root).center());
+    QTest::mouseClick(View().viewport(), Qt::RightButton, {}, Row(root).center());
+    EXPECT_EQ(
+        sink.m_arrSelections,
+        (CSelections{{lazy, ETreeCause::Mouse}, {empty, ETreeCause::Keyboard}, {leaf, ETreeCause::Unknown}}));
     EXPECT_EQ(Current(), leaf);
 }
 
@@ -191,9 +184,9 @@ TEST_F(Tree, ASelectionThatGoesLeavesNone) {
 TEST_F(Tree, AnArrowStandsWhereTheMarkSaysSo) {
     const auto fnArrow = [&](CTreeItem item) {
         QCoreApplication::processEvents();
-        const QRect rc = View().visualRect(Index(item));
-        const QImage image = View().viewport()->grab().toImage().copy(
-            rc.left() - View().indentation(), rc.top(), View().indentation(), rc.height());
+        const int nWidth = View().indentation();
+        const QRect rc(Row(item).left() - nWidth, Row(item).top(), nWidth, Row(item).height());
+        const QImage image = View().viewport()->grab(rc).toImage();
         QImage plain(image.size(), image.format());
         plain.fill(image.pixel(0, 0));
         return image != plain;
@@ -209,7 +202,7 @@ TEST_F(Tree, AnArrowStandsWhereTheMarkSaysSo) {
 TEST_F(Tree, NamesOfAnyBytesStandInOneLine) {
     const CTreeItem odd = tree.InsertLast(root, "a\xff\nb", ETreeIcon::Folder, false);
     EXPECT_EQ(Index(odd).data().toString(), QStringLiteral("a\uFFFD b"));
-    EXPECT_EQ(View().visualRect(Index(odd)).height(), View().visualRect(Index(leaf)).height());
+    EXPECT_EQ(Row(odd).height(), Row(leaf).height());
 }
 
 TEST_F(Tree, ADeepNameCanBeScrolledTo) {
@@ -218,7 +211,7 @@ TEST_F(Tree, ADeepNameCanBeScrolledTo) {
         item = tree.InsertLast(item, "a folder with a long name", ETreeIcon::Folder, true);
     tree.Select(item);
     QCoreApplication::processEvents();
-    const QRect rc = View().visualRect(Index(item));
+    const QRect rc = Row(item);
     EXPECT_TRUE(View().viewport()->rect().contains(QPoint(rc.left() + 20, rc.center().y())));
     EXPECT_GT(View().horizontalScrollBar()->maximum(), 0);
 }
@@ -253,10 +246,8 @@ TEST_F(Tree, EveryKindHasAnIconOfItsOwn) {
 TEST_F(Tree, TheThemesIconsAreTakenWhereItHasThem) {
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkpath("test/16"));
-    QFile index(folder.path() + "/test/index.theme");
-    ASSERT_TRUE(index.open(QFile::WriteOnly));
-    index.write("[Icon Theme]\nName=test\nDirectories=16\n[16]\nSize=16\n");
-    index.close();
+    std::ofstream((folder.path() + "/test/index.theme").toStdString())
+        << "[Icon Theme]\nName=test\nDirectories=16\n[16]\nSize=16\n";
     QImage red(16, 16, QImage::Format_RGB32);
     red.fill(Qt::red);
     ASSERT_TRUE(red.save(folder.path() + "/test/16/folder.png"));

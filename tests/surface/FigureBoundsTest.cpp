@@ -143,18 +143,19 @@ TEST(FigureBounds, FarFiguresCostNothing) {
     }
 }
 
-TEST(FigureBounds, StretchedBlocksAreReplicatedPixels) {
+TEST(FigureBounds, CopiedAndStretchedBlocksAreReplicatedPixels) {
     CRandom random;
     SCOPED_TRACE(random.nSeed);
     const CPixels pixels = NumberedPixels(12, 9, 7);
-    for (int nRound = 0; nRound < 3000; ++nRound) {
+    for (int nRound = 0; nRound < 6000; ++nRound) {
         const int nFactor = random.Pick(1, 6);
         const CBlock from{random.Pick(-3, 12), random.Pick(-3, 9), random.Pick(0, 9), random.Pick(0, 9)};
         const int nSignX = random.Pick(0, 1) * 2 - 1, nSignY = random.Pick(0, 1) * 2 - 1;
         const CBlock to{random.Pick(-20, 30), random.Pick(-20, 30), nSignX * nFactor * from.nWidth,
                         nSignY * nFactor * from.nHeight};
-        const CRect rcClip{random.Pick(-3, 12), random.Pick(-3, 12), random.Pick(12, 33),
-                           random.Pick(12, 33)};
+        CRect rcClip{0, 0, 30, 30};
+        if (nRound % 2 == 0)
+            rcClip = {random.Pick(-3, 12), random.Pick(-3, 12), random.Pick(12, 33), random.Pick(12, 33)};
         CSurface expected = White(30, 30);
         for (int j = 0; j < nFactor * from.nHeight; ++j)
             for (int i = 0; i < nFactor * from.nWidth; ++i) {
@@ -168,12 +169,16 @@ TEST(FigureBounds, StretchedBlocksAreReplicatedPixels) {
         stretched.Stretch(pixels, from, to, rcClip);
         ASSERT_EQ(stretched.Pixels(), expected.Pixels()) << nRound;
         if (nSignX < 0 || nSignY < 0) continue;
+        const CRect rcFrom = CRect::FromPlace(static_cast<int>(from.x), static_cast<int>(from.y),
+                                              static_cast<int>(from.nWidth), static_cast<int>(from.nHeight));
+        const CPoint ptTo{static_cast<int>(to.x), static_cast<int>(to.y)};
         CSurface enlarged = White(30, 30);
-        enlarged.DrawEnlarged(pixels,
-                              CRect::FromPlace(static_cast<int>(from.x), static_cast<int>(from.y),
-                                               static_cast<int>(from.nWidth), static_cast<int>(from.nHeight)),
-                              static_cast<int>(to.x), static_cast<int>(to.y), nFactor, rcClip);
+        enlarged.DrawEnlarged(pixels, rcFrom, ptTo.x, ptTo.y, nFactor, rcClip);
         ASSERT_EQ(enlarged.Pixels(), expected.Pixels()) << nRound;
+        if (nFactor > 1 || nRound % 2 == 0) continue;
+        CSurface part = White(30, 30);
+        part.DrawPart(pixels, rcFrom, ptTo.x, ptTo.y);
+        ASSERT_EQ(part.Pixels(), expected.Pixels()) << nRound;
     }
 }
 

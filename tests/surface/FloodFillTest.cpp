@@ -19,12 +19,9 @@ std::function<bool(CRandom&, int, int)> Dots(int nPercent) {
 
 const CGround kGrounds[] = {
     {"plain", Dots(0)},
-    {"few dots", Dots(2)},
     {"as many dots as let a fill through", Dots(40)},
-    {"dots nearly everywhere", Dots(70)},
     {"ways down and up", [](CRandom&, int x, int y) { return x % 2 != 0 && y % 20 != x / 2 % 2; }},
     {"ways to and fro", [](CRandom&, int x, int y) { return y % 2 != 0 && x % 150 != y / 2 % 2; }},
-    {"slopes", [](CRandom&, int x, int y) { return (x + 2 * y) % 7 == 0 && x % 31 != 0; }},
     {"maze",
      [](CRandom& random, int x, int y) {
          return x % 2 != 0 && y % 2 != 0 ? true : (x % 2 != 0 || y % 2 != 0) && random.Pick(0, 1) != 0;

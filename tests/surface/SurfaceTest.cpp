@@ -38,38 +38,6 @@ TEST(Surface, PixelsOutsideReadBlackAndTakeNothing) {
     ASSERT_TRUE(HasPixels(surface, [](int, int) { return kRed; }));
 }
 
-TEST(Surface, CopiesOfPartsAgreeWithAPixelByPixelCopy) {
-    CRandom random;
-    SCOPED_TRACE(random.nSeed);
-    const CPixels pixels = NumberedPixels(9, 7, 40);
-    for (int nRound = 0; nRound < 2000; ++nRound) {
-        const CRect rcSource{random.Pick(-3, 9), random.Pick(-3, 7), random.Pick(-3, 12),
-                             random.Pick(-3, 10)};
-        const int x0 = random.Pick(-12, 14);
-        const int y0 = random.Pick(-12, 12);
-        CSurface part(12, 10);
-        part.DrawPart(pixels, rcSource, x0, y0);
-        ASSERT_TRUE(HasPixels(part, [&](int x, int y) {
-            const CPoint pt{x - x0 + rcSource.left, y - y0 + rcSource.top};
-            const bool bIn = rcSource.Contains(pt) && CRect{0, 0, 9, 7}.Contains(pt);
-            return bIn ? PixelAt(pixels, pt.x, pt.y) : kBlack;
-        }));
-        const int nFactor = random.Pick(1, 6);
-        const CRect rcClip{random.Pick(-3, 9), random.Pick(-3, 7), random.Pick(3, 15), random.Pick(3, 13)};
-        CSurface enlarged(12, 10);
-        enlarged.DrawEnlarged(pixels, rcSource, x0, y0, nFactor, rcClip);
-        CRect rcDrawn;
-        ASSERT_TRUE(HasPixels(enlarged, [&](int x, int y) {
-            if (x < x0 || y < y0 || !rcClip.Contains({x, y})) return kBlack;
-            const CPoint pt{rcSource.left + (x - x0) / nFactor, rcSource.top + (y - y0) / nFactor};
-            if (!rcSource.Contains(pt) || !CRect{0, 0, 9, 7}.Contains(pt)) return kBlack;
-            rcDrawn = rcDrawn.Union({x, y, x + 1, y + 1});
-            return PixelAt(pixels, pt.x, pt.y);
-        }));
-        EXPECT_EQ(enlarged.TakeDirty(), rcDrawn);
-    }
-}
-
 TEST(Surface, DrawingIsSeenByNoPictureThatSharesThePixels) {
     const CPixels pixels = NumberedPixels(5, 4);
     CSurface surface(pixels);

@@ -2,12 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
-#include <climits>
 #include <optional>
 #include <random>
-#include <utility>
 #include <vector>
 
 #include "engines/effects/ByteMap.h"
@@ -41,46 +38,6 @@ void RgbToYThenUv(const std::uint8_t* pRgb, std::uint8_t* pY, std::uint8_t* pU, 
                   std::size_t n) {
     RgbToY(pRgb, pY, n);
     RgbToUv(pRgb, pY, pU, pV, n);
-}
-
-// One U and V for all pixels, those of the first.
-void TintToRgb(const std::uint8_t* pY, const std::uint8_t* pU, const std::uint8_t* pV, std::uint8_t* pRgb,
-               std::size_t n) {
-    YuvToRgb(pY, *pU, *pV, pRgb, n);
-}
-
-// Every colour there is through the loops, each held against the formula. A sheet holds the colours with one
-// value of the third and the second channel.
-TEST_P(ColourRows, AreTheFormulasForEveryColour) {
-    constexpr std::size_t kSheet = 256;
-    const std::pair<CSplit, CFormula> splits[] = {
-        {RgbToYuv, ColorRGBtoYUV}, {RgbToYThenUv, ColorRGBtoYUV}, {RgbToHsl, ColorRGBtoHSL}};
-    const std::pair<CJoin, CFormula> joins[] = {
-        {YuvToRgb, ColorYUVtoRGB}, {TintToRgb, ColorYUVtoRGB}, {HslToRgb, ColorHSLtoRGB}};
-    std::array<std::array<std::uint8_t, kSheet>, 3> in{};
-    std::array<std::array<std::uint8_t, kSheet>, 3> out{};
-    std::array<std::uint8_t, 3 * kSheet> rgbIn{};
-    std::array<std::uint8_t, 3 * kSheet> rgbOut{};
-    for (std::size_t i = 0; i < kSheet; ++i) in[0][i] = rgbIn[3 * i] = static_cast<std::uint8_t>(i);
-    for (std::size_t nSheet = 0; nSheet < 65536; ++nSheet) {
-        for (std::size_t i = 0; i < kSheet; ++i) {
-            in[1][i] = rgbIn[3 * i + 1] = static_cast<std::uint8_t>(nSheet / 256);
-            in[2][i] = rgbIn[3 * i + 2] = static_cast<std::uint8_t>(nSheet);
-        }
-        for (const auto& [split, formula] : splits) {
-            split(rgbIn.data(), out[0].data(), out[1].data(), out[2].data(), kSheet);
-            for (std::size_t i = 0; i < kSheet; ++i)
-                ASSERT_EQ(formula({in[0][i], in[1][i], in[2][i]}), (CColor{out[0][i], out[1][i], out[2][i]}))
-                    << nSheet << ", " << i;
-        }
-        for (const auto& [join, formula] : joins) {
-            join(in[0].data(), in[1].data(), in[2].data(), rgbOut.data(), kSheet);
-            for (std::size_t i = 0; i < kSheet; ++i)
-                ASSERT_EQ(formula({in[0][i], in[1][i], in[2][i]}),
-                          (CColor{rgbOut[3 * i], rgbOut[3 * i + 1], rgbOut[3 * i + 2]}))
-                    << nSheet << ", " << i;
-        }
-    }
 }
 
 // Runs of every short length and some long ones, at odd addresses, between bytes that must stay.
@@ -124,21 +81,6 @@ TEST_P(ColourRows, TouchExactlyTheRun) {
         for (std::size_t i = 0; i < 3 * n; ++i) ASSERT_EQ(arrOut[i + 1], map[arrIn[i]]) << i << " of " << n;
         SpreadBytes(arrIn.data(), arrOut.data() + 1, 50, 3 * n);
         ASSERT_TRUE(arrOut.front() == kGuard && arrOut.back() == kGuard) << n;
-    }
-}
-
-TEST_P(ColourRows, AddLimitedStopsAtBothEnds) {
-    for (const int nAdd : {0, 1, -1, 5, -77, 200, -200, 255, -255, 256, -256, INT_MAX, INT_MIN}) {
-        for (const std::size_t n : {0, 1, 31, 33, 256}) {
-            std::vector<std::uint8_t> arrBytes(n);
-            for (std::size_t i = 0; i < n; ++i) arrBytes[i] = static_cast<std::uint8_t>(i * 7);
-            std::vector<std::uint8_t> arrWanted = arrBytes;
-            for (std::uint8_t& b : arrWanted)
-                b = static_cast<std::uint8_t>(
-                    std::clamp<long long>(static_cast<long long>(b) + nAdd, 0, 255));
-            AddLimited(arrBytes.data(), nAdd, n);
-            ASSERT_EQ(arrBytes, arrWanted) << nAdd << ", " << n;
-        }
     }
 }
 

@@ -124,81 +124,48 @@ TEST(EffectValues, AreThoseWorkedOutByHand) {
         {EEffect::Brightness, Flat(1, 1, Grey(54)), 100, {}, Grey(254)},
         {EEffect::Contrast, Flat(1, 1, {0, 255, 128}), -100, {}, {200, 57, 128}},
         {EEffect::Chroma, Flat(1, 1, {255, 0, 0}), -85, {}, ColorHSLtoRGB({0, 0, 128})},
-        {EEffect::Chroma, Flat(1, 1, {10, 20, 30}), 0, {}, ColorHSLtoRGB(ColorRGBtoHSL({10, 20, 30}))},
         {EEffect::Sharpness, With(Flat(7, 7, {}), {3, 3}, 255), -1, {3, 3}, Grey(85)},
-        {EEffect::Sharpness, With(Flat(7, 7, {}), {3, 3}, 255), -1, {3, 2}, Grey(42)},
-        {EEffect::Sharpness, Flat(5, 5, Grey(100)), 1, {2, 2}, Grey(104)},
         {EEffect::Negative, Flat(1, 1, {1, 2, 255}), 0, {}, {254, 253, 0}},
         // 16 wide, so the sum starts at 256 and settles near twice the grey.
         {EEffect::PureBlackWhite, Flat(16, 20, {90, 110, 3}), 1, {15, 19}, kWhite},
-        {EEffect::PureBlackWhite, Flat(16, 20, {90, 110, 3}), 100, {15, 19}, {}},
         {EEffect::BlackWhite, Flat(1, 1, {255, 0, 0}), 0, {}, Grey(76)},
         // Contrast has it at (0, 255, 0), hue 85 and lightness 128; saturation can grow no more.
         {EEffect::ColourSaturation, Flat(1, 1, {10, 250, 10}), 100, {}, ColorHSLtoRGB({85, 255, 128})},
         {EEffect::OldPhoto, Flat(1, 1, Grey(90)), 0, {}, ColorYUVtoRGB({90, 113, 143})},
         // The one white counts twice in the medians of red and green and in the mean of blue.
         {EEffect::NoiseRemoval, With(Flat(7, 7, {}), {3, 3}, 255), 0, {3, 3}, {0, 0, 51}},
-        // The counts jump at the one grey, so no level parts anything and the split is 1.
-        {EEffect::Backlight, Flat(40, 30, Grey(100)), 0, {3, 3}, Grey(124)},
         // Half the samples at 20: the split is 20 and goes to 60, and 10 is the end of what stays.
         {EEffect::Backlight, TwoGreys(20, 200, {0, 10, 15}), 0, {0, 0}, Grey(60)},
         {EEffect::Backlight, TwoGreys(20, 200, {0, 10, 15}), 0, {3, 0}, Grey(10)},
-        {EEffect::Backlight, TwoGreys(20, 200, {0, 10, 15}), 0, {5, 0}, Grey(47)},
-        {EEffect::Backlight, TwoGreys(20, 200, {0, 10, 15}), 0, {63, 0}, Grey(209)},
-        {EEffect::Homogenise, Flat(3, 3, {0, 0, 8}), 0, {1, 1}, {0, 0, 8}},
         {EEffect::Homogenise, TwoGreys(40, 200, {}), 0, {63, 0}, kWhite},
-        // Dark and narrow, light and narrow, light and wide.
+        // Dark and narrow, light and narrow.
         {EEffect::LowLightRepair, TwoGreys(30, 60, {45}), 0, {0, 0}, Grey(43)},
-        {EEffect::LowLightRepair, TwoGreys(30, 60, {45}), 0, {1, 0}, Grey(118)},
         {EEffect::LowLightRepair, TwoGreys(180, 200, {190}), 0, {0, 0}, Grey(170)},
-        {EEffect::LowLightRepair, TwoGreys(64, 200, {132}), 0, {1, 0}, Grey(131)},
-        // The mean is cut: 71, and one less by one sample, which is dark.
-        {EEffect::LowLightRepair, TwoGreys(61, 81, {}), 0, {0, 0}, Grey(51)},
-        {EEffect::LowLightRepair, With(TwoGreys(61, 81, {}), {8, 8}, 60), 0, {0, 0}, Grey(58)},
-        {EEffect::LowLightRepair, Flat(100, 80, Grey(3)), 0, {9, 9}, Grey(3)},
         {EEffect::Nostalgia, Flat(1, 1, Grey(90)), 1, {}, ColorYUVtoRGB({90, 117, 137})},
         {EEffect::Moonlight, Flat(1, 1, {200, 10, 30}), 50, {}, {70, 0, 50}},
         // Flat: lifted by 255 - 170 and the level. Half black, half white: mean and spread are 127.
         {EEffect::Haze1, Flat(1, 1, Grey(100)), 10, {}, ColorYUVtoRGB({195, 143, 118})},
         {EEffect::Haze1, With(Flat(2, 1, {}), {1, 0}, 255), 50, {}, ColorYUVtoRGB({8, 183, 78})},
         {EEffect::Cool, Flat(1, 1, {10, 20, 30}), 5, {}, {0, 15, 45}},
-        // At the edge what becomes of the chroma alone: U is too strong; both are widened; 255 is neither.
-        {EEffect::Haze2, Flat(9, 9, {40, 40, 255}), 50, {}, ColorYUVtoRGB(ColorRGBtoYUV({40, 40, 255}))},
         {EEffect::Haze2, Flat(9, 9, {150, 100, 90}), 50, {}, ColorYUVtoRGB({113, 112, 162})},
-        {EEffect::Haze2, Flat(9, 9, {0, 0, 255}), 50, {}, ColorYUVtoRGB({29, 0, 101})},
         {EEffect::Film, Flat(176, 66, kWhite), 0, {3, 11}, {}},
-        {EEffect::Film, Flat(176, 66, kWhite), 0, {4, 11}, kWhite565},
         {EEffect::Art, Flat(160, 120, {}), 0, {79, 62}, Grey(16)},
         {EEffect::Art, Flat(160, 120, {}), 0, {10, 30}, Grey(235)},
-        {EEffect::Art, Flat(77, 55, kWhite), 0, {3, 3}, kWhite},
-        // Ring 4 of the tables: 11, -44, -88 and -232.
+        // Ring 4 of the table: 11.
         {EEffect::CrystalFrame, Flat(160, 200, Grey(128)), 0, {4, 90}, {136, 136, 136}},
-        {EEffect::CrystalFrame, Flat(161, 200, Grey(128)), 0, {80, 195}, {80, 84, 80}},
-        {EEffect::CrystalFrame, Flat(177, 200, Grey(128)), 0, {80, 4}, {40, 40, 40}},
-        {EEffect::CrystalFrame, Flat(321, 200, Grey(128)), 0, {80, 4}, {}},
-        // A dark line with lights below; the first knob hangs down, the second stands up.
+        // A dark line; the first knob hangs down, the second stands up.
         {EEffect::Jigsaw, Flat(200, 200, Grey(100)), 0, {45, 40}, Grey(20)},
-        {EEffect::Jigsaw, Flat(200, 200, Grey(100)), 0, {45, 41}, Grey(120)},
-        {EEffect::Jigsaw, Flat(200, 200, Grey(100)), 0, {45, 42}, Grey(160)},
         {EEffect::Jigsaw, Flat(200, 200, Grey(100)), 0, {20, 53}, Grey(20)},
         {EEffect::Jigsaw, Flat(200, 200, Grey(100)), 0, {60, 27}, Grey(20)},
         {EEffect::OilPainting, Flat(30, 30, Grey(100)), 15, {9, 9}, Grey(100)},
         {EEffect::Tile, Flat(450, 410, {}), 10, {200, 100}, kWhite},
-        {EEffect::Tile, Flat(450, 410, {}), 10, {199, 100}, {}},
-        // One block that is higher than sums of sixteen bits can hold.
         {EEffect::Laminate, Flat(50, 40, {101, 200, 7}), 1, {3, 3}, {100, 200, 6}},
-        {EEffect::Laminate, Flat(700, 701, kWhite), 100, {}, Grey(254)},
-        {EEffect::Engrave, Flat(8, 5, {103, 57, 203}), 0, {3, 0}, {}},
-        {EEffect::Engrave, Flat(8, 5, {103, 57, 203}), 0, {1, 1}, Grey(128)},
         {EEffect::Engrave, Flat(8, 5, {103, 57, 203}), 0, {7, 3}, {96, 56, 200}},
         {EEffect::ConcaveMirror, Flat(101, 101, kWhite), 0, {50, 0}, kWhite565},
-        {EEffect::ConcaveMirror, Flat(101, 101, kWhite), 0, {49, 100}, {}},
-        {EEffect::Sketch, Flat(9, 9, {90, 20, 7}), 0, {2, 2}, kWhite},
         {EEffect::Sketch, With(Flat(9, 9, {}), {2, 2}, 255), 0, {2, 2}, {}},
         {EEffect::Refraction2, Flat(12, 9, {}), 60, {5, 5}, Grey(1)},
         {EEffect::Refraction1, Flat(12, 9, kWhite), 60, {5, 5}, kWhite},
         // Luminance wraps where it falls.
-        {EEffect::Woodcut, With(Flat(6, 4, {}), {2, 1}, 255), 0, {1, 0}, kWhite},
         {EEffect::Woodcut, With(Flat(6, 4, {}), {2, 1}, 255), 0, {2, 1}, Grey(1)},
     };
     for (const auto& row : rows) {

@@ -43,7 +43,7 @@ BENCHMARK(PlainPass)->Unit(benchmark::kMillisecond);
 // What stands in the way of a fill: nothing; a net of thin lines with gaps; dots on a tenth and on four
 // tenths of the pixels, the second about as many as a fill can still get through; a maze of ways one pixel
 // wide; ways one pixel wide that go all the way down and up, or to and fro, as one; squares of one pixel.
-enum class Ground { kPlain, kNet, kDots, kManyDots, kMaze, kDownAndUp, kToAndFro, kChecker };
+enum class EGround { kPlain, kNet, kDots, kManyDots, kMaze, kDownAndUp, kToAndFro, kChecker };
 
 // From each pixel of a grid one wall goes to the right or down.
 CSurface Maze() {
@@ -58,8 +58,8 @@ CSurface Maze() {
     return ground;
 }
 
-CSurface MakeGround(Ground kind) {
-    if (kind == Ground::kMaze) return Maze();
+CSurface MakeGround(EGround kind) {
+    if (kind == EGround::kMaze) return Maze();
     CSurface ground = Paper(kTwelveMegapixels);
     const int nWidth = ground.Width();
     const int nHeight = ground.Height();
@@ -70,24 +70,24 @@ CSurface MakeGround(Ground kind) {
     };
     ground.SelectPen(CPen::Dotted(PenStyle::kDash, {}));
     ground.SetTransparentGaps(true);
-    for (int i = 0; kind == Ground::kNet && i < 1000; ++i) {
+    for (int i = 0; kind == EGround::kNet && i < 1000; ++i) {
         ground.MoveTo(Place());
         ground.LineTo(Place());
     }
-    const unsigned nDots = kind == Ground::kDots ? 10 : 40;
-    const bool bDots = kind == Ground::kDots || kind == Ground::kManyDots;
+    const unsigned nDots = kind == EGround::kDots ? 10 : 40;
+    const bool bDots = kind == EGround::kDots || kind == EGround::kManyDots;
     for (int y = 0; y < nHeight; ++y)
         for (int x = 0; x < nWidth; ++x)
-            if (kind == Ground::kChecker ? (x + y) % 2 != 0 : bDots && random() / 16 % 100 < nDots)
+            if (kind == EGround::kChecker ? (x + y) % 2 != 0 : bDots && random() / 16 % 100 < nDots)
                 ground.SetPixel(x, y, {});
-    for (int x = 1; kind == Ground::kDownAndUp && x < nWidth; x += 2)
+    for (int x = 1; kind == EGround::kDownAndUp && x < nWidth; x += 2)
         ground.FillRect({x, x / 2 % 2, x + 1, nHeight - 1 + x / 2 % 2}, {});
-    for (int y = 1; kind == Ground::kToAndFro && y < nHeight; y += 2)
+    for (int y = 1; kind == EGround::kToAndFro && y < nHeight; y += 2)
         ground.FillRect({y / 2 % 2, y, nWidth - 1 + y / 2 % 2, y + 1}, {});
     return ground;
 }
 
-void FloodFill(benchmark::State& state, Ground kind) {
+void FloodFill(benchmark::State& state, EGround kind) {
     CSurface ground = MakeGround(kind);
     ground.SetPixel(4, 4, kPaper);
     for (auto _ : state) {
@@ -100,14 +100,14 @@ void FloodFill(benchmark::State& state, Ground kind) {
         benchmark::DoNotOptimize(surface.FloodFill({4, 4}, surface.GetPixel(4, 4)));
     }
 }
-BENCHMARK_CAPTURE(FloodFill, plain, Ground::kPlain)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(FloodFill, net, Ground::kNet)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(FloodFill, dots, Ground::kDots)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(FloodFill, many_dots, Ground::kManyDots)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(FloodFill, maze, Ground::kMaze)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(FloodFill, down_and_up, Ground::kDownAndUp)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(FloodFill, to_and_fro, Ground::kToAndFro)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(FloodFill, checker, Ground::kChecker)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, plain, EGround::kPlain)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, net, EGround::kNet)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, dots, EGround::kDots)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, many_dots, EGround::kManyDots)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, maze, EGround::kMaze)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, down_and_up, EGround::kDownAndUp)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, to_and_fro, EGround::kToAndFro)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(FloodFill, checker, EGround::kChecker)->Unit(benchmark::kMillisecond);
 
 // A box of 100 by 100 on a small and on a large picture.
 void FloodFillSmall(benchmark::State& state) {
@@ -139,15 +139,15 @@ void PenMove(benchmark::State& state, int nWidth) {
 BENCHMARK_CAPTURE(PenMove, width_1, 1)->Apply(Sizes);
 BENCHMARK_CAPTURE(PenMove, width_7, 7)->Apply(Sizes);
 
-enum class Band { kRectangle, kEllipse, kRoundRect, kDottedRectangle };
+enum class EBand { kRectangle, kEllipse, kRoundRect, kDottedRectangle };
 
 // One pass of a rubber band: what the last pass drew is taken back, the figure drawn, and both boxes shown.
-void RubberBand(benchmark::State& state, Band band, int nWidth) {
+void RubberBand(benchmark::State& state, EBand band, int nWidth) {
     const CSurface committed = Paper(SizeOf(state));
     CSurface scratch = Paper(SizeOf(state));
     CSurface shown = Paper(SizeOf(state));
-    scratch.SelectPen(band == Band::kDottedRectangle ? CPen::Dotted(PenStyle::kDot, {})
-                                                     : CPen::Solid(nWidth, kInk));
+    scratch.SelectPen(band == EBand::kDottedRectangle ? CPen::Dotted(PenStyle::kDot, {})
+                                                      : CPen::Solid(nWidth, kInk));
     if (nWidth == 1) scratch.SelectBrush(CBrush::Hollow());
     CRect rcLast;
     int nMove = 0;
@@ -156,9 +156,9 @@ void RubberBand(benchmark::State& state, Band band, int nWidth) {
         const CRect rcFigure{700, 600, 1000 + nMove, 900 + nMove};
         scratch.DrawPart(committed.Pixels(), rcLast, rcLast.left, rcLast.top);
         const CRect rcBack = scratch.TakeDirty();
-        if (band == Band::kEllipse)
+        if (band == EBand::kEllipse)
             scratch.Ellipse(rcFigure);
-        else if (band == Band::kRoundRect)
+        else if (band == EBand::kRoundRect)
             scratch.RoundRect(rcFigure, {20, 20});
         else
             scratch.Rectangle(rcFigure);
@@ -167,12 +167,12 @@ void RubberBand(benchmark::State& state, Band band, int nWidth) {
         shown.DrawPart(scratch.Pixels(), rcShow, rcShow.left, rcShow.top);
     }
 }
-BENCHMARK_CAPTURE(RubberBand, rectangle_1, Band::kRectangle, 1)->Apply(Sizes);
-BENCHMARK_CAPTURE(RubberBand, rectangle_5_filled, Band::kRectangle, 5)->Apply(Sizes);
-BENCHMARK_CAPTURE(RubberBand, ellipse_1, Band::kEllipse, 1)->Apply(Sizes);
-BENCHMARK_CAPTURE(RubberBand, ellipse_5_filled, Band::kEllipse, 5)->Apply(Sizes);
-BENCHMARK_CAPTURE(RubberBand, round_5_filled, Band::kRoundRect, 5)->Apply(Sizes);
-BENCHMARK_CAPTURE(RubberBand, dotted, Band::kDottedRectangle, 1)->Apply(Sizes);
+BENCHMARK_CAPTURE(RubberBand, rectangle_1, EBand::kRectangle, 1)->Apply(Sizes);
+BENCHMARK_CAPTURE(RubberBand, rectangle_5_filled, EBand::kRectangle, 5)->Apply(Sizes);
+BENCHMARK_CAPTURE(RubberBand, ellipse_1, EBand::kEllipse, 1)->Apply(Sizes);
+BENCHMARK_CAPTURE(RubberBand, ellipse_5_filled, EBand::kEllipse, 5)->Apply(Sizes);
+BENCHMARK_CAPTURE(RubberBand, round_5_filled, EBand::kRoundRect, 5)->Apply(Sizes);
+BENCHMARK_CAPTURE(RubberBand, dotted, EBand::kDottedRectangle, 1)->Apply(Sizes);
 
 // A canvas full of a part of the picture.
 void ZoomedCopy(benchmark::State& state) {

@@ -23,6 +23,6 @@ constexpr CEffectBenchRow kRows[] = {
     {"Woodcut", EEffect::Woodcut, 0, 10},
 };
 
-[[maybe_unused]] const bool g_bRegistered = RegisterEffects(kRows);
+[[maybe_unused]] const bool kRegistered = RegisterEffects(kRows);
 
 }  // namespace

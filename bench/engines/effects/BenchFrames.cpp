@@ -19,6 +19,6 @@ constexpr CEffectBenchRow kRows[] = {
     {"ConcaveMirror", EEffect::ConcaveMirror, 0, 15},
 };
 
-[[maybe_unused]] const bool g_bRegistered = RegisterEffects(kRows);
+[[maybe_unused]] const bool kRegistered = RegisterEffects(kRows);
 
 }  // namespace

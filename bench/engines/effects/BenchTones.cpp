@@ -21,6 +21,6 @@ constexpr CEffectBenchRow kRows[] = {
     {"PureBlackWhite", EEffect::PureBlackWhite, 100, 40},
 };
 
-[[maybe_unused]] const bool g_bRegistered = RegisterEffects(kRows);
+[[maybe_unused]] const bool kRegistered = RegisterEffects(kRows);
 
 }  // namespace

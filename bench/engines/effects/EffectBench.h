@@ -6,10 +6,10 @@
 
 // One effect at one level, on twelve megapixels.
 struct CEffectBenchRow {
-    const char* szName;
-    EEffect effect;
-    int nLevel;
-    double fAtMost;       // passes that it may take; three times that in its plain form
+    const char* szName = "";
+    EEffect effect{};
+    int nLevel = 0;
+    double fAtMost = 0;   // passes that it may take; three times that in its plain form
     bool bAlone = false;  // nobody shares the picture's pixels
 };
 

@@ -186,10 +186,9 @@ void JpegReaderEnd(CJpegReader& reader) {
 }
 
 bool JpegWrite(const CJpegPage& page, const CJpegSink& sink) {
-    CJpegTrouble trouble;
-    jpeg_compress_struct info;
-    CDestination destination;
-    std::memset(&info, 0, sizeof(info));
+    CJpegTrouble trouble{};
+    jpeg_compress_struct info{};
+    CDestination destination{};
     PrepareTrouble(trouble);
     info.err = &trouble.manager;
     if (setjmp(trouble.jump) != 0) {

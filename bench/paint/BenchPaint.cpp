@@ -164,7 +164,7 @@ BENCHMARK(Press)->Arg(0)->Unit(benchmark::kMicrosecond);
 void Fill(benchmark::State& state) {
     CBenchCanvas canvas({4000, 3000});
     canvas.Select(ETool::Fill);
-    for (int n = 0; n <= CUndoStack<CUndoEntry>::kDepth; ++n) {
+    for (int n = 0; n <= CUndoStack<CUndoEntry>::kDepth + 1; ++n) {
         canvas.Mouse(EMouseAction::Press, {300, 300});
         canvas.Mouse(EMouseAction::Release, {300, 300});
     }

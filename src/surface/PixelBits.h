@@ -107,6 +107,6 @@ class CPixelBits {
                EveryThird(nPixels2 >> 1) << 43;
     }
 
-    std::array<std::uint8_t, kBytes> m_arrFind;
-    std::array<std::uint8_t, kBytes> m_arrPaint;
+    std::array<std::uint8_t, kBytes> m_arrFind{};
+    std::array<std::uint8_t, kBytes> m_arrPaint{};
 };

@@ -56,8 +56,8 @@ class CPixelBits {
         }
         for (; nBits != 0; nBits >>= 8, p += kGroupBytes) {
             const auto& mask = kGroupMasks[nBits & 0xff];
-            std::array<std::uint64_t, 3> words;
-            std::array<std::uint64_t, 3> paint;
+            std::array<std::uint64_t, 3> words{};
+            std::array<std::uint64_t, 3> paint{};
             std::memcpy(words.data(), p, kGroupBytes);
             std::memcpy(paint.data(), m_arrPaint.data(), kGroupBytes);
             for (std::size_t i = 0; i < words.size(); ++i) words[i] ^= (words[i] ^ paint[i]) & mask[i];

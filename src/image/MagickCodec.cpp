@@ -183,6 +183,8 @@ bool Encode(const CMagickSource& source, const CFormat& format, Magick::Blob& bl
     if (format.type == ImageType::kBmp || format.type == ImageType::kTiff) {
         image.type(bAlpha ? Magick::TrueColorMatteType : Magick::TrueColorType);
     }
+    // The time of writing would make two files of one picture differ.
+    image.defineValue("png", "exclude-chunks", "date,time");
     image.magick(bAlpha ? format.szWriterWithAlpha : format.szWriter);
     image.write(&blob);
     return blob.length() > 0;

@@ -38,11 +38,20 @@ struct CPaintEnvironment {
             editor.PushStep(imgBase);
             return true;
         }
-        hand.m_bButtonDown = false;
-        return editor.ReportNoMemory();
+        return EndDrag();
     }
     // The tool draws behind it, and cannot fail to.
     [[nodiscard]] bool Snapshot() const {
         return Snapshot([] { return true; });
+    }
+    // The scratch store can be drawn on. False if memory is short; then the same holds as for a step.
+    [[nodiscard]] bool PrepareScratch() const {
+        return Prepare([this] { return paper.Scratch().Separate(); }) || EndDrag();
+    }
+
+  private:
+    bool EndDrag() const {
+        hand.m_bButtonDown = false;
+        return editor.ReportNoMemory();
     }
 };

@@ -1,6 +1,7 @@
 #include "paint/ToolBox.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "paint/AirbrushTool.h"
 #include "paint/BoxTool.h"
@@ -86,7 +87,14 @@ void CToolBox::OnPress(CPoint pt, EMouseButton button) {
     if (m_options.m_nTool == ETool::Picker) m_options.m_bPickForeground = button == EMouseButton::Left;
     m_env.hand.m_ptStart = KeepInside(pt);
     m_env.paper.Scratch().SelectPen(CPen::Solid(m_options.m_nLineWidth, m_env.hand.m_crPrimary));
+    m_bPressRefused = !Press(pt);
+}
+
+bool CToolBox::Press(CPoint pt) {
+    const bool bDraws = m_options.m_nTool != ETool::Picker && m_options.m_nTool != ETool::Magnifier;
+    if (bDraws && !m_env.PrepareScratch()) return false;
     Current().Press(pt);
+    return m_env.hand.m_bButtonDown;
 }
 
 void CToolBox::OnMove(CPoint pt) {
@@ -97,6 +105,7 @@ void CToolBox::OnMove(CPoint pt) {
 
 void CToolBox::OnRelease(CPoint pt) {
     m_env.hand.m_bButtonDown = false;
+    if (std::exchange(m_bPressRefused, false)) return;
     m_env.paper.Committed().SelectPen(ToolPen());
     m_env.paper.Committed().SelectBrush(FigureBrush());
     Current().Release(KeepInside(pt));

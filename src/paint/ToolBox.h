@@ -24,6 +24,8 @@ class CToolBox {
 
   private:
     void TakeColors(EMouseButton button);
+    // False if memory is too short for the drag.
+    bool Press(CPoint pt);
     // The right and the lower edge are one pixel beyond the last one: a shape may end there.
     CPoint KeepInside(CPoint pt) const;
     CPaintTool& Current();
@@ -32,6 +34,8 @@ class CToolBox {
 
     const CPaintEnvironment m_env;
     CToolState& m_options;
+    // There was no memory for the last press; its release does nothing.
+    bool m_bPressRefused = false;
     // In the order of their numbers, the float's at the end.
     std::array<std::unique_ptr<CPaintTool>, kTools.size() + 1> m_arrTools;
 };

@@ -80,6 +80,7 @@ class CScriptedPlatform : private CMessageBoxes,
 
     // --- what has happened since the last call of the same ---
     std::vector<CMessageBox> TakeBoxes();
+    const std::vector<CMessageBox>& Boxes() const { return m_arrBoxes; }
     std::vector<CAsked> TakeAsked();
     std::vector<CProblem> TakeProblems();
     std::vector<CShellAct> TakeShellActs();

@@ -4,8 +4,8 @@
 #include <functional>
 #include <new>
 
-#include "app/LargeMemory.h"
 #include "app/PaintWorkshop.h"
+#include "support/ShortMemory.h"
 
 namespace {
 
@@ -196,4 +196,37 @@ TEST_F(NoMemoryTest, CommandsOfDraw) {
     TryCommand(kCmdCrop);
     GoTo(EMode::Effect);
     TryCommand(kCmdActual);
+}
+
+// Each on a picture that the edit and both stores still share. Who is told so goes on with nothing.
+TEST_F(NoMemoryTest, Strokes) {
+    const auto drag = [this] { Drag({5, 5}, {205, 185}); };
+    const auto corners = [this] {
+        for (const CPoint pt : {CPoint{9, 9}, CPoint{180, 20}, CPoint{100, 170}}) {
+            if (!m_platform.Boxes().empty()) return;
+            Drag(pt, pt);
+        }
+        Mouse(EMouseAction::DoubleClick, {100, 170});
+        Mouse(EMouseAction::Release, {100, 170});
+    };
+    const auto bend = [this] {
+        for (const CPoint pt : {CPoint{205, 185}, CPoint{9, 180}, CPoint{180, 9}}) {
+            if (m_platform.Boxes().empty()) Drag({5, 5}, pt);
+        }
+    };
+    const std::pair<ETool, std::function<void()>> kStrokes[] = {
+        {ETool::Pen, drag},        {ETool::Brush, drag},
+        {ETool::Eraser, drag},     {ETool::Airbrush, drag},
+        {ETool::Line, drag},       {ETool::Rectangle, drag},
+        {ETool::Ellipse, drag},    {ETool::RoundRect, drag},
+        {ETool::Polygon, corners}, {ETool::Curve, bend},
+        {ETool::Fill, drag},       {ETool::SelectRect, drag},
+        {ETool::SelectFree, drag}, {ETool::SelectPolygon, corners},
+    };
+    for (const auto& [tool, stroke] : kStrokes) {
+        OpenPicture();
+        GoTo(EMode::Draw);
+        Tool(tool);
+        Try("tool " + std::to_string(static_cast<int>(tool)), stroke);
+    }
 }

@@ -21,8 +21,8 @@ CShortMemory::~CShortMemory() {
 // compiled together with one half of a pair.
 // NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): this is where memory comes from.
 void* operator new(std::size_t nSize) {
-    if (g_nUntilFailure >= 0 && g_nUntilFailure-- == 0) throw std::bad_alloc();
-    void* const p = std::malloc(nSize == 0 ? 1 : nSize);
+    const bool bRefused = g_nUntilFailure >= 0 && g_nUntilFailure-- == 0;
+    void* const p = bRefused || !CBlockGate::Admits(nSize) ? nullptr : std::malloc(nSize == 0 ? 1 : nSize);
     if (p == nullptr) throw std::bad_alloc();
     return p;
 }

@@ -4,7 +4,6 @@
 #include <climits>
 
 #include "engines/effects/EffectForms.h"
-#include "image/BlockGate.h"
 #include "support/Pictures.h"
 #include "support/ShortMemory.h"
 

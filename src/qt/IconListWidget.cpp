@@ -126,6 +126,9 @@ void CIconListWidget::mousePressEvent(QMouseEvent* pEvent) {
     if (pEvent->button() != Qt::LeftButton) return;
     m_ptPress = pEvent->pos();
     m_hand.OnPress(ItemAt(pEvent->pos()));
+    // With Shift an untouched list selects from its first item on; Qt would select nothing.
+    if (!currentIndex().isValid())
+        selectionModel()->setCurrentIndex(model()->index(0, 0), QItemSelectionModel::NoUpdate);
     // Several that are selected stay so until the release, since they may be on their way out of the list.
     QListView::mousePressEvent(pEvent);
 }

@@ -264,6 +264,7 @@ TEST_F(IconList, TheDriverTellsTheLogicWhatTheWindowTells) {
         QTest::keyClick(pWindow, key, bShift ? Qt::ShiftModifier : Qt::NoModifier);
         return host.KeyInIcons(17, {nKey, false, bShift});
     };
+    fnSame(fnClick(2, Qt::ShiftModifier, kMouseShift), "press, click 2");
     fnSame(fnClick(3, {}, 0), "press, click 3");
     fnSame(fnClick(5, Qt::ControlModifier, kMouseCtrl), "press, click 5");
     fnSame(fnClick(8, Qt::ShiftModifier, kMouseShift), "press, click 8");

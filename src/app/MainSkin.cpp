@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr CPoint kTopStripAt{19, 61};
-constexpr CPoint kTabStripAt{0, 110};
+constexpr CPoint kTopStripAt{19, kTopHintRow};
+constexpr CPoint kTabStripAt{0, kTabHintRow};
 constexpr CPoint kTabRowAt{0, 79};
 constexpr CPoint kPanelAt{0, 111};
 // Between the place of the colour swatch and what is filled of it.
@@ -58,7 +58,6 @@ void CMainSkin::WipeTabHint(CClientArea& client) const {
 void CMainSkin::OnHover(CClientArea& client, int nControl, bool bLeftDown) {
     client.DrawBitmap(kBmpTopStrip, kTopStripAt.x, kTopStripAt.y);
     WipeTabHint(client);
-    m_nHintCtrl = 0;
     if (m_state.IsUp(EMode::Font)) ShowTextColor(client);
 
     const CHint* pHint = FindHint(nControl);
@@ -69,7 +68,6 @@ void CMainSkin::OnHover(CClientArea& client, int nControl, bool bLeftDown) {
     const bool bDragging = m_state.IsUp(EMode::Thum) && bLeftDown && m_host.IsListPressed();
     if (pHint->bTakesFocus && !(bDropTarget && bDragging)) m_controls.SetFocus(nControl);
     client.DrawBitmap(pHint->nBitmap, pHint->x, pHint->y);
-    m_nHintCtrl = nControl;
     m_timers.SetTimer(m_target, pHint->y == kTopHintRow ? kTimerTopHint : kTimerTabHint, kHintMilliseconds);
 }
 
@@ -78,7 +76,6 @@ void CMainSkin::OnHover(CClientArea& client, int nControl, bool bLeftDown) {
 void CMainSkin::OnTimer(CClientArea& client, int nTimer) {
     if (nTimer != kTimerTopHint && nTimer != kTimerTabHint) return;
     m_timers.KillTimer(m_target, nTimer);
-    m_nHintCtrl = 0;
     if (nTimer == kTimerTopHint) return client.DrawBitmap(kBmpTopStrip, kTopStripAt.x, kTopStripAt.y);
     WipeTabHint(client);
     if (m_state.IsUp(EMode::Font)) ShowTextColor(client);

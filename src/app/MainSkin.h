@@ -40,8 +40,6 @@ class CMainSkin {
     static constexpr int kTimerTabHint = 1;
     void OnTimer(CClientArea& client, int nTimer);
 
-    int HintControl() const { return m_nHintCtrl; }
-
   private:
     void WipeTabHint(CClientArea& client) const;
 
@@ -50,5 +48,4 @@ class CMainSkin {
     CTimers& m_timers;
     CTimerTarget& m_target;
     CSkinHost& m_host;
-    int m_nHintCtrl = 0;  // whose hint is up, 0 for none
 };

@@ -3,13 +3,11 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "resources/Grounds.h"
 #include "resources/Ids.h"
 #include "resources/Templates.h"
 
 namespace {
-
-constexpr CColor kGround{109, 121, 126};
-constexpr CColor kEdge{75, 94, 103};
 
 // Scales the picture to its preview; sizeFull is that of the whole, whatever part of it was decoded. Not
 // valid if memory is short.
@@ -42,7 +40,7 @@ CPreviewImgView::CPreviewImgView(CPreviewFileDlg& dialog)
     : CScrollView(dialog.Controls().Find(kPreviewView)->rcPlace.Size()), m_dialog(dialog) {}
 
 void CPreviewImgView::OnDraw(CSurface& surface) {
-    surface.FillRect(surface.Bounds(), kGround);
+    surface.FillRect(surface.Bounds(), Grounds::kList);
     const CxImage image = m_dialog.TakeImage();
     const CSize sizeClient = ClientSize();
     surface.DrawPixels(image.Pixels(), std::max(0, (sizeClient.cx - image.GetWidth()) / 2),
@@ -63,8 +61,9 @@ CScrollView* CPreviewFileDlg::ViewOf(int nId) {
 
 void CPreviewFileDlg::OnPaint(CClientArea& client) {
     const CRect rcFrame = Controls().Find(kPreviewFrame)->rcPlace;
-    client.FillRect(rcFrame, kEdge);
-    client.FillRect({rcFrame.left + 1, rcFrame.top + 1, rcFrame.right - 1, rcFrame.bottom - 1}, kGround);
+    client.FillRect(rcFrame, Grounds::kLevel);
+    client.FillRect({rcFrame.left + 1, rcFrame.top + 1, rcFrame.right - 1, rcFrame.bottom - 1},
+                    Grounds::kList);
 }
 
 void CPreviewFileDlg::OnFileNameChange(const std::string& strPath) {

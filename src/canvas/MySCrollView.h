@@ -2,6 +2,7 @@
 
 #include "canvas/CanvasGuest.h"
 #include "editor/WorkingImages.h"
+#include "resources/Grounds.h"
 #include "window/ScrollView.h"
 
 // What the canvas tells the window that it stands in.
@@ -18,7 +19,7 @@ class CCanvasHost {
 // where no guest does; mouse and timers are the guest's.
 class CMySCrollView : public CScrollView {
   public:
-    static constexpr CColor kGround{109, 121, 126};
+    static constexpr CColor kGround = Grounds::kList;
 
     // All of these outlive the canvas.
     struct CEnvironment {

@@ -4,12 +4,12 @@
 #include <cmath>
 
 #include "resources/BitmapIds.h"
+#include "resources/Grounds.h"
 
 namespace {
 
 constexpr CSize kChannelSize{22, 134};
 constexpr CSize kThumbSize{26, 13};
-constexpr CColor kFace{142, 154, 143};
 
 constexpr int kEndPixels = 13;  // free at each end of the channel
 constexpr int kFreePixels = 2 * kEndPixels + 1;
@@ -44,7 +44,7 @@ CRect CSkinSlider::ThumbRect() const {
 
 void CSkinSlider::Paint() {
     const CSize size = m_client.Size();
-    m_client.FillRect(CRect::FromPlace(0, 0, size.cx, size.cy), kFace);
+    m_client.FillRect(CRect::FromPlace(0, 0, size.cx, size.cy), Grounds::kInfo);
     m_client.DrawBitmap(kBmpSliderChannel, (size.cx - kChannelSize.cx) / 2, (size.cy - kChannelSize.cy) / 2);
     m_rcPainted = ThumbRect();
     m_client.DrawKeyed(kBmpSliderThumb, m_rcPainted.left, m_rcPainted.top);

@@ -2,15 +2,15 @@
 
 #include <algorithm>
 
+#include "browse/Thumbnail.h"
 #include "controls/SkinSlider.h"
 #include "image/Image.h"
+#include "resources/Grounds.h"
 #include "window/IconListModel.h"
 #include "window/TreeModel.h"
 
 namespace {
 
-constexpr CColor kShareGround{142, 154, 143};
-constexpr CColor kListGround{109, 121, 126};
 constexpr CColor kBarGround{95, 107, 112};
 constexpr CColor kPaper{245, 247, 244};
 constexpr CColor kFace{214, 220, 214};
@@ -18,7 +18,6 @@ constexpr CColor kRim{64, 74, 78};
 constexpr CColor kMark{232, 143, 54};
 constexpr CColor kInk{40, 46, 48};
 // The list of icons: cells in rows from the left, each with its name below.
-constexpr int kCell = 110;
 constexpr CSize kCellPitch{130, 150};
 constexpr int kNameHeight = 12;
 // The tree: one item a row, each level further in.
@@ -89,7 +88,7 @@ void CComposer::DrawMark(const CControl& control) {
 // The rows of a list of pictures from the first one on, or the last of them the selected one.
 void CComposer::DrawRows(const CControl& control) {
     CRect rc = control.rcPlace;
-    m_surface.FillRect(rc, kListGround);
+    m_surface.FillRect(rc, Grounds::kList);
     if (HasBorder(control)) {
         m_surface.FrameRect(rc, kRim);
         rc = {rc.left + 1, rc.top + 1, rc.right - 1, rc.bottom - 1};
@@ -121,13 +120,13 @@ void CComposer::DrawShare(const CControl& control) {
     const CRect& rc = control.rcPlace;
     const int nRange = std::max(1, control.nMax - control.nMin);
     const int nShare = control.nPos - control.nMin;
-    m_surface.FillRect(rc, kShareGround);
+    m_surface.FillRect(rc, Grounds::kInfo);
     m_surface.FillRect({rc.left, rc.top, rc.left + rc.Width() * nShare / nRange, rc.bottom}, kMark);
 }
 
 // A text is a bar as long as the text, on a mark where it is selected.
 void CComposer::DrawName(const CRect& rcClip, const std::string& strName, CPoint pt, bool bSelected) {
-    const auto nLength = std::min<std::size_t>(strName.size(), kCell / kCharacter);
+    const auto nLength = std::min<std::size_t>(strName.size(), kThumbnailSide / kCharacter);
     const int nWidth = static_cast<int>(nLength) * kCharacter;
     const CRect rc = CRect::FromPlace(pt.x, pt.y, nWidth, kNameHeight);
     if (bSelected) m_surface.FillRect(rc.Intersect(rcClip), kMark);
@@ -138,16 +137,16 @@ void CComposer::DrawName(const CRect& rcClip, const std::string& strName, CPoint
 // From the top of the list; what does not fit is not drawn.
 void CComposer::DrawIcons(const CControl& control) {
     const CRect& rc = control.rcPlace;
-    m_surface.FillRect(rc, kListGround);
+    m_surface.FillRect(rc, Grounds::kList);
     const CIconListModel* pIcons = m_host.Dialog().IconsOf(control.nId);
     if (pIcons == nullptr) return;
     const int nColumns = std::max(1, rc.Width() / kCellPitch.cx);
     for (int i = 0; i < pIcons->Count(); ++i) {
-        const CPoint pt{rc.left + (kCellPitch.cx - kCell) / 2 + i % nColumns * kCellPitch.cx,
+        const CPoint pt{rc.left + (kCellPitch.cx - kThumbnailSide) / 2 + i % nColumns * kCellPitch.cx,
                         rc.top + 2 + i / nColumns * kCellPitch.cy};
         if (pt.y + kCellPitch.cy > rc.bottom) break;
         if (!pIcons->Picture(i).IsEmpty()) m_surface.DrawPixels(pIcons->Picture(i), pt.x, pt.y);
-        DrawName(rc, pIcons->Text(i), {pt.x, pt.y + kCell + 4}, pIcons->IsSelected(i));
+        DrawName(rc, pIcons->Text(i), {pt.x, pt.y + kThumbnailSide + 4}, pIcons->IsSelected(i));
     }
 }
 

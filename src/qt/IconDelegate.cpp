@@ -4,31 +4,31 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "browse/Thumbnail.h"
 #include "qt/Pictures.h"
 #include "qt/SkinColors.h"
 #include "qt/Text.h"
 
 namespace {
 
-constexpr int kPictureSide = 110;
 constexpr int kSideMargin = 4;  // beside the picture: the name is wider by as much
 constexpr int kTopMargin = 5;
 constexpr int kNameGap = 5;
 constexpr int kNameHeight = 32;
 constexpr int kBottomMargin = 2;
-constexpr QSize kCell(kPictureSide + 2 * kSideMargin,
-                      kTopMargin + kPictureSide + kNameGap + kNameHeight + kBottomMargin);
+constexpr QSize kCell(kThumbnailSide + 2 * kSideMargin,
+                      kTopMargin + kThumbnailSide + kNameGap + kNameHeight + kBottomMargin);
 constexpr QSize kRoomAround(8, 5);
 constexpr int kRimWidth = 3;
 constexpr QColor kEmptyWell(103, 115, 120);
 constexpr QColor kEmptyRim(92, 103, 108);
 
 QRect PictureOf(const QRect& rcCell) {
-    return {rcCell.left() + kSideMargin, rcCell.top() + kTopMargin, kPictureSide, kPictureSide};
+    return {rcCell.left() + kSideMargin, rcCell.top() + kTopMargin, kThumbnailSide, kThumbnailSide};
 }
 
 QRect NameOf(const QRect& rcCell) {
-    return {rcCell.left(), rcCell.top() + kTopMargin + kPictureSide + kNameGap, kCell.width(), kNameHeight};
+    return {rcCell.left(), rcCell.top() + kTopMargin + kThumbnailSide + kNameGap, kCell.width(), kNameHeight};
 }
 
 // A name in one or two lines; a long one loses its middle, so that its beginning and its extension are seen.

@@ -18,7 +18,7 @@ constexpr int kTopMargin = 4;
 constexpr int kWheelPixels = 40;
 
 constexpr char kStyle[] =
-    "QListView { border: none; background: #6d797e; color: #ffffff; outline: none;"
+    "QListView { border: none; background: %1; color: #ffffff; outline: none;"
     " selection-background-color: #e88f36; selection-color: #ffffff; }";
 
 }  // namespace
@@ -42,7 +42,7 @@ CIconListWidget::~CIconListWidget() {
 }
 
 void CIconListWidget::SetUpLook() {
-    setStyleSheet(QString(kStyle) + kScrollBarStyle);
+    setStyleSheet(QString(kStyle).arg(SkinColors::kListGround.name()) + kScrollBarStyle);
     setFont(MapFont({}, 12));
     setViewMode(IconMode);
     setMovement(Static);

@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr char kStyle[] = "QListView { border: none; background: #6d797e; }";
+constexpr char kStyle[] = "QListView { border: none; background: %1; }";
 constexpr char kBorderStyle[] =
-    "QListView { border: 1px solid; border-color: #4a5458 #aab5ac #aab5ac #4a5458; background: #6d797e; }";
+    "QListView { border: 1px solid; border-color: #4a5458 #aab5ac #aab5ac #4a5458; background: %1; }";
 constexpr int kWheelNotch = 120;  // what a wheel reports for one click
 
 bool MovesRow(int nKey) {
@@ -47,7 +47,9 @@ QSize CPictureDelegate::sizeHint(const QStyleOptionViewItem& option, const QMode
 
 CPictureListWidget::CPictureListWidget(const CControlContext& context)
     : QListView(context.pParent), m_context(context), m_delegate(context.pictures, context.nDensity) {
-    setStyleSheet(QString(HasBorder(context.control) ? kBorderStyle : kStyle) + kScrollBarStyle);
+    setStyleSheet(
+        QString(HasBorder(context.control) ? kBorderStyle : kStyle).arg(SkinColors::kListGround.name()) +
+        kScrollBarStyle);
     setModel(&m_model);
     setItemDelegate(&m_delegate);
     setEditTriggers(NoEditTriggers);
@@ -57,8 +59,6 @@ CPictureListWidget::CPictureListWidget(const CControlContext& context)
     MirrorRows();
     connect(this, &QListView::clicked, this,
             [this] { m_context.dialog.OnNotify(m_context.control.nId, ENotice::Clicked); });
-    connect(this, &QListView::doubleClicked, this,
-            [this] { m_context.dialog.OnNotify(m_context.control.nId, ENotice::DoubleClicked); });
 }
 
 // Rows that stay are not made anew, so that the list keeps its place.

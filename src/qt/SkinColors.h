@@ -2,26 +2,26 @@
 
 #include <QColor>
 
-#include "image/Color.h"
+#include "resources/Grounds.h"
+
+constexpr QColor ToQt(CColor color) {
+    return {color.r, color.g, color.b};
+}
 
 // The colours that widgets share with the skin.
 namespace SkinColors {
 
-inline constexpr QColor kLit(235, 235, 235);         // text on the skin
-inline constexpr QColor kLevel(75, 94, 103);         // ground of progress
-inline constexpr QColor kListGround(109, 121, 126);  // ground of the lists
-inline constexpr QColor kListRim(74, 84, 88);        // darker than every ground: the rim of an inset
-inline constexpr QColor kFace(214, 220, 214);        // ground of plain dialogs
-inline constexpr QColor kPaper(245, 247, 244);       // ground of what can be typed in
-inline constexpr QColor kInk(34, 42, 40);            // text on paper
-inline constexpr QColor kPaleInk(134, 143, 138);     // the same, disabled
-inline constexpr QColor kWarm(232, 143, 54);         // marks and the rim of the focus
+inline constexpr QColor kLit(235, 235, 235);                 // text on the skin
+inline constexpr QColor kLevel = ToQt(Grounds::kLevel);      // ground of progress
+inline constexpr QColor kListGround = ToQt(Grounds::kList);  // ground of the lists
+inline constexpr QColor kListRim(74, 84, 88);                // darker than every ground: the rim of an inset
+inline constexpr QColor kFace(214, 220, 214);                // ground of plain dialogs
+inline constexpr QColor kPaper(245, 247, 244);               // ground of what can be typed in
+inline constexpr QColor kInk(34, 42, 40);                    // text on paper
+inline constexpr QColor kPaleInk(134, 143, 138);             // the same, disabled
+inline constexpr QColor kWarm(232, 143, 54);                 // marks and the rim of the focus
 
 }  // namespace SkinColors
-
-inline QColor ToQt(CColor color) {
-    return {color.r, color.g, color.b};
-}
 
 // Style sheet of scroll bars on the skin, 16 pixels wide.
 inline constexpr char kScrollBarStyle[] = R"(

@@ -6,7 +6,6 @@ inline constexpr int kDlgPreview = 101;
 inline constexpr int kDlgMain = 102;
 inline constexpr int kDlgSize = 154;
 inline constexpr int kDlgSplash = 273;
-inline constexpr int kMenuPicture = 155;
 
 // Files and history
 inline constexpr int kCmdOpen = 1000;
@@ -82,7 +81,6 @@ inline constexpr int kTextApply = 1028;
 inline constexpr int kTextEffectList = 1064;
 // DRAW
 inline constexpr int kToolFirst = 1168;
-inline constexpr int kToolLast = 1183;
 inline constexpr int kPaintColor = 1184;
 // Info lines: of the edited picture and of the browsed file
 inline constexpr int kInfoName = 1153;
@@ -112,7 +110,6 @@ inline constexpr int kMenuActual = 32785;
 // The open dialog's panel
 inline constexpr int kPreviewCheck = 1000;
 inline constexpr int kPreviewFrame = 1001;
-inline constexpr int kPreviewMarker = 1119;
 inline constexpr int kPreviewView = 59649;
 
 // The size dialog

@@ -4,6 +4,8 @@
 
 // The box in which an effect is previewed.
 inline constexpr CSize kEffectPreviewSize{158, 122};
+// A row of the effect list.
+inline constexpr CSize kEffectCellSize{189, 68};
 // The canvas, scroll bars included.
 inline constexpr CSize kCanvasSize{659, 543};
 

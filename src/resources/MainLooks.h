@@ -1,5 +1,6 @@
 #pragma once
 
+#include "resources/Grounds.h"
 #include "resources/Ids.h"
 #include "window/Template.h"
 
@@ -7,12 +8,9 @@
 
 namespace MainLooks {
 
-inline constexpr CColor kLit{235, 235, 235};         // text on the skin
-inline constexpr CColor kInfoGround{142, 154, 143};  // the parts of the skin on which the lines stand
-inline constexpr CColor kHelpGround{117, 131, 134};
-inline constexpr CColor kLevelGround{75, 94, 103};
+inline constexpr CColor kLit{235, 235, 235};  // text on the skin
 
-inline constexpr CControlLook kInfoLine{.colorText = kLit, .colorGround = kInfoGround};
+inline constexpr CControlLook kInfoLine{.colorText = kLit, .colorGround = Grounds::kInfo};
 
 // clang-format off
 inline constexpr CControlLookRow kTable[] = {
@@ -45,7 +43,7 @@ inline constexpr CControlLookRow kTable[] = {
     {kTabDraw, {.szSpoken = "绘画"}},
     {kEffectList, {.szSpoken = "特效", .border = EBorder::Sunken}},
     {kEffectSlider, {.szSpoken = "强度"}},
-    {kEffectLevel, {.colorText = kLit, .colorGround = kLevelGround}},
+    {kEffectLevel, {.colorText = kLit, .colorGround = Grounds::kLevel}},
     {kConfirm, {.szSpoken = "确定"}},
     {kCancel, {.szSpoken = "取消"}},
     {kRadioImageSize, {.szSpoken = "当前图片大小"}},
@@ -85,7 +83,7 @@ inline constexpr CControlLookRow kTable[] = {
     {kBrowseSize, kInfoLine},
     {kInfoDepth, kInfoLine},
     {kBrowseDepth, kInfoLine},
-    {kHelpLine, {.colorText = kLit, .colorGround = kHelpGround}},
+    {kHelpLine, {.colorText = kLit, .colorGround = Grounds::kHelp}},
 };
 // clang-format on
 

@@ -3,6 +3,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 
+#include "resources/Grounds.h"
 #include "strips/Label.h"
 
 namespace {
@@ -83,7 +84,7 @@ QImage RenderContactSheet(const CxImage& image) {
     const QImage base = FromEngine(image).scaled(kPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     QImage sheet(kColumns * (kPicture.width() + kGap) + kGap,
                  kRows * (kPicture.height() + kGap + kCaption) + kGap, QImage::Format_RGB888);
-    sheet.fill(QColor(109, 121, 126));
+    sheet.fill(QColor(Grounds::kList.r, Grounds::kList.g, Grounds::kList.b));
     QPainter painter(&sheet);
     for (int nEffect = 0; nEffect < kEffectCount; ++nEffect) {
         const CEffectRow& row = kEffects[static_cast<std::size_t>(nEffect)];

@@ -2,13 +2,14 @@
 
 #include <QImage>
 
+#include "resources/MainDialog.h"
 #include "strips/EffectSamples.h"
 
 // A row of the effect list at one density: the effect's name, what it does to a photograph, and a small
 // slider for an effect that has a level. The selected form is lit.
 class CEffectCells {
   public:
-    static constexpr QSize kCell{189, 68};
+    static constexpr QSize kCell{kEffectCellSize.cx, kEffectCellSize.cy};
     // The sample in the cell.
     static constexpr QRect kSample{84, 5, 98, 58};
 

@@ -41,4 +41,4 @@ struct CKeyEvent {
 
 // What a control tells its dialog beside a plain click.
 // TextChanged comes with every change that the user makes, TextDone when he leaves the edit.
-enum class ENotice { SelectionChanged, TextChanged, TextDone, Scrolled, Clicked, DoubleClicked };
+enum class ENotice { SelectionChanged, TextChanged, TextDone, Scrolled, Clicked };

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QPainter>
 
+#include "resources/Grounds.h"
+
 namespace {
 
 struct CMode {
@@ -18,6 +20,10 @@ constexpr CMode kModes[] = {{"thum", "486", "", "effect", "THUM"},
                             {"font", "488", "296", "font", "FONT"},
                             {"stick", "489", "286", "stick", "STICK"},
                             {"draw", "490", "343", "draw", "DRAW"}};
+
+QColor Of(CColor color) {
+    return {color.r, color.g, color.b};
+}
 
 class CComposer {
   public:
@@ -115,18 +121,18 @@ class CComposer {
     // Plain boxes for the controls that are no pictures, in their own colours.
     void DrawControls(QPainter& painter, const CMode& mode) const {
         const QString strMode = mode.pName;
-        Fill(painter, {342, 96, 404, 17}, QColor(142, 154, 143));
-        Fill(painter, {55, 678, 680, 12}, QColor(117, 131, 134));
+        Fill(painter, {342, 96, 404, 17}, Of(Grounds::kInfo));
+        Fill(painter, {55, 678, 680, 12}, Of(Grounds::kHelp));
         if (strMode == "thum") {
-            Fill(painter, {37, 130, 250, 544}, QColor(109, 121, 126));
-            Fill(painter, {325, 129, 658, 543}, QColor(109, 121, 126));
+            Fill(painter, {37, 130, 250, 544}, Of(Grounds::kList));
+            Fill(painter, {325, 129, 658, 543}, Of(Grounds::kList));
         }
         if (strMode == "effect") {
-            Fill(painter, {58, 149, 206, 276}, QColor(109, 121, 126));
-            Fill(painter, {239, 488, 24, 132}, QColor(142, 154, 143));
+            Fill(painter, {58, 149, 206, 276}, Of(Grounds::kList));
+            Fill(painter, {239, 488, 24, 132}, Of(Grounds::kInfo));
             painter.drawImage(QPoint(240, 488) * m_nDensity, m_mapPictures.at("606"),
                               QRect(0, m_nDensity, 22 * m_nDensity, 132 * m_nDensity));
-            Fill(painter, {236, 468, 30, 14}, QColor(75, 94, 103));
+            Fill(painter, {236, 468, 30, 14}, Of(Grounds::kLevel));
             QImage thumb = m_mapPictures.at("610");
             const QColor crGround = thumb.pixelColor(0, 0);
             for (int y = 0; y < thumb.height(); ++y)

@@ -61,7 +61,7 @@ void CStatusLines::ShowFileInfo(const std::string& strPath, EFileInfo kind) {
     const bool bClear = kind == EFileInfo::Clear;
     m_controls.SetText(
         m_bEditInfo ? kInfoName : kBrowseName,
-        bClear ? PadColumns(" ", 90) : std::string(kWordName) + " : " + PadColumns(NameOf(strPath), 62));
+        bClear ? PadColumns(" ", 90) : std::string(kWordName) + " : " + PadColumns(strPath, 62));
     m_controls.SetText(m_bEditInfo ? kInfoSize : kBrowseSize, PadColumns(" ", 60));
     m_controls.SetText(m_bEditInfo ? kInfoDepth : kBrowseDepth, PadColumns(" ", bClear ? 20 : 24));
 }

@@ -24,8 +24,8 @@ class CStatusLines {
 
     // Name, size and depth of the edited picture, at the end of each paint of the canvas.
     void ShowEditInfo();
-    // What the user clicked in the tree or the list: its path, of which the last part is told. A file that
-    // cannot be opened shows zero for size and depth.
+    // What the user clicked in the tree or the list (see CBrowseHost). A file that cannot be opened shows
+    // zero for size and depth.
     void ShowFileInfo(const std::string& strPath, EFileInfo kind);
 
     // Shows the help line with the text of the code; an unknown code leaves the text.

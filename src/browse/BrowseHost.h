@@ -9,8 +9,7 @@ enum class EFileInfo { Clear = -1, Folder = 0, Picture = 1 };
 class CBrowseHost {
   public:
     virtual ~CBrowseHost() = default;
-    // The whole path of a picture or a folder of the list, or the text of a node of the tree. What stands
-    // behind the last separator is the name that the lines tell.
+    // The whole path of a picture, of which the lines tell the last part; else the text that they tell.
     virtual void ShowFileInfo(const std::string& strPath, EFileInfo kind) = 0;
     virtual void OpenPicture(const std::string& strFolder, const std::string& strName) = 0;
     // The info lines tell of the browsed file from here on.

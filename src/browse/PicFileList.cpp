@@ -143,7 +143,7 @@ void CPicFileList::OnItemClick(int nItem) {
         m_env.host.ShowFileInfo(PathOf(strName), EFileInfo::Picture);
         m_env.events.Tell(EEditEvent::FileShown);
     } else {
-        m_env.host.ShowFileInfo(PathOf(strName), EFileInfo::Folder);
+        m_env.host.ShowFileInfo(strName, EFileInfo::Folder);
         m_model.SetPicture(nItem, MakeFolderCell(FolderPicture(kBmpFolderLit)));
         m_bFolderLit = true;
     }
@@ -195,7 +195,7 @@ void CPicFileList::OnKeyDown(int nKey, bool bShift) {
 }
 
 // One item without Shift is asked about by the program; in all other cases the system asks.
-bool CPicFileList::RunDelete(const std::vector<std::string>& arrNames, bool bShift) {
+void CPicFileList::RunDelete(const std::vector<std::string>& arrNames, bool bShift) {
     std::vector<std::string> arrPaths;
     arrPaths.reserve(arrNames.size());
     for (const std::string& strName : arrNames) arrPaths.push_back(PathOf(strName));
@@ -204,9 +204,10 @@ bool CPicFileList::RunDelete(const std::vector<std::string>& arrNames, bool bShi
         const std::string strText = kTextDeleteBefore + arrNames.front() + kTextDeleteBehind;
         if (m_env.boxes.Show({strText, kTitleDelete, EBoxIcon::Exclamation, EBoxButtons::YesNo}) !=
             EBoxAnswer::Yes)
-            return false;
+            return;
     }
-    return m_env.shell.Delete(arrPaths, !bShift, !bOwnQuestion);
+    // What stays is seen in the list.
+    static_cast<void>(m_env.shell.Delete(arrPaths, !bShift, !bOwnQuestion));
 }
 
 void CPicFileList::DeleteSelected(bool bShift) {

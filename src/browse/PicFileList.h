@@ -84,7 +84,7 @@ class CPicFileList : public CIconListSink, public CFolderFollower, private CTime
     void StepIntoFolder(const std::string& strName);
     const CxImage* FolderPicture(int nBitmap) const;
     std::string PathOf(const std::string& strName) const;
-    bool RunDelete(const std::vector<std::string>& arrNames, bool bShift);
+    void RunDelete(const std::vector<std::string>& arrNames, bool bShift);
 
     CEnvironment m_env;
     CFolderTree* m_pTree = nullptr;

@@ -12,6 +12,7 @@ struct CImageHead {
     bool operator==(const CImageHead&) const = default;
 };
 
-// Reads the head of a file as the format `type`, whatever its name or content says. A file that is cut behind
-// its head may have one all the same; a picture too large to be held has none.
+// Reads the head of a file as the format `type`, whatever its name or content says. A picture too large to be
+// held has none, nor a JPEG whose end is missing; a file of another format that is cut behind its head may
+// have one all the same.
 [[nodiscard]] CImageHead ReadImageHead(const std::string& strPath, ImageType type);

@@ -1,5 +1,7 @@
 #include "image/JpegCodec.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 #include "image/AtomicFile.h"
@@ -50,6 +52,13 @@ CSize Upright(CSize size, int nOrientation) {
 CImageHead HeadOf(const CReader& reader, int nOrientation) {
     return {Upright(reader.OutputSize(), nOrientation),
             reader.Info().jpeg_color_space == JCS_GRAYSCALE ? 8 : 24};
+}
+
+// True if the file ends behind its picture. Within the scans no byte of 255 stands before this one.
+bool HasEnd(const CReader& reader) {
+    constexpr std::array<std::uint8_t, 2> kEnd = {0xFF, 0xD9};
+    const jpeg_source_mgr& source = *reader.Info().src;
+    return !std::ranges::find_end(std::span(source.next_input_byte, source.bytes_in_buffer), kEnd).empty();
 }
 
 // A progressive file is decoded from the coefficients of the whole picture, two bytes each.
@@ -137,7 +146,8 @@ std::optional<CJpegPicture> DecodeJpeg(std::span<const std::uint8_t> file, CSize
 
 CImageHead ReadJpegHead(std::span<const std::uint8_t> file) {
     CReader reader;
-    return reader.Begin(file) ? HeadOf(reader, Orientation(reader.Info())) : CImageHead();
+    if (!reader.Begin(file) || !HasEnd(reader)) return {};
+    return HeadOf(reader, Orientation(reader.Info()));
 }
 
 bool EncodeJpeg(const CPixels& pixels, const CJpegSettings& settings, CAtomicFile& file) {

@@ -90,9 +90,9 @@ TEST_F(InfoLinesTest, GoBlankInAnEditModeWithoutAPicture) {
 TEST_F(StatusLinesTest, TellOfAFolderByItsName) {
     for (const bool bEdit : {false, true}) {
         bEdit ? m_lines.TellOfEdit() : m_lines.TellOfBrowsing();
-        m_lines.ShowFileInfo("照片", EFileInfo::Folder);
+        m_lines.ShowFileInfo("a/照", EFileInfo::Folder);
         ExpectPairs(bEdit);
-        EXPECT_EQ(m_controls.Text(bEdit ? kInfoName : kBrowseName), "文件名 : 照片" + Blanks(58));
+        EXPECT_EQ(m_controls.Text(bEdit ? kInfoName : kBrowseName), "文件名 : a/照" + Blanks(58));
         EXPECT_EQ(m_controls.Text(bEdit ? kInfoSize : kBrowseSize), Blanks(60));
         EXPECT_EQ(m_controls.Text(bEdit ? kInfoDepth : kBrowseDepth), Blanks(24));
         m_lines.ShowFileInfo("", EFileInfo::Clear);
@@ -106,6 +106,9 @@ TEST_F(StatusLinesTest, TellOfAPictureFileBySizeAndDepth) {
     ASSERT_TRUE(NumberedImage(123, 45).Save(folder.Path("a.JPG"), ImageType::kJpeg));
     folder.Write("grey.pgm", "P5\n2 2\n255\nabcd");
     folder.Write("bad.jpg", "words");
+    const std::string strBytes = ReadBytes(folder.Path("a.JPG"));
+    folder.Write("cut.jpg", strBytes.substr(0, strBytes.size() - 2));
+    folder.Write("more.jpg", strBytes + "and more");
     struct {
         const char* szName;
         const char* szSize;
@@ -113,6 +116,8 @@ TEST_F(StatusLinesTest, TellOfAPictureFileBySizeAndDepth) {
     } const kCases[] = {{"a.JPG", "大小 :  123X45       ", "色度: 24 "},
                         {"grey.pgm", "大小 :    2X2        ", "色度: 8  "},
                         {"bad.jpg", "大小 :    0X0        ", "色度: 0  "},
+                        {"cut.jpg", "大小 :    0X0        ", "色度: 0  "},
+                        {"more.jpg", "大小 :  123X45       ", "色度: 24 "},
                         {"none.jpg", "大小 :    0X0        ", "色度: 0  "}};
     for (const auto& row : kCases) {
         m_lines.ShowFileInfo(folder.Path(row.szName), EFileInfo::Picture);

@@ -140,7 +140,8 @@ TEST_F(PicFileListTest, AClickTellsOfTheItemAndLightsAFolder) {
         const bool bPicture = step.nItem > 1;
         Told();
         m_hand.OnItemClick(step.nItem);
-        EXPECT_EQ(Words(), (CNames{"browse", "info " + m_folder.Path(strName) + (bPicture ? " 1" : " 0")}));
+        EXPECT_EQ(Words(),
+                  (CNames{"browse", "info " + (bPicture ? m_folder.Path(strName) + " 1" : strName + " 0")}));
         EXPECT_EQ(Told(), bPicture ? "file " : "");
         EXPECT_EQ(Cells(), step.szCells);
     }

@@ -64,6 +64,10 @@ TEST_F(Files, WhatIsNoPictureOrClaimsTooMuchIsNotValid) {
 }
 
 TEST_F(Files, NamesMayHoldAnything) {
+    const auto fnOpen = [] {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    };
+    const auto nOpen = fnOpen();
     const CxImage picture = SmoothPicture(12, 9);
     for (const char* const szName : {"\xE7\x85\xA7 \xE7\x89\x87.jpg", "a 'b' `d` $e;\n%s%d@~*?[.jpg",
                                      "-rf.jpg", "png:x.jpg", "\xFF\xFE.jpg"}) {
@@ -73,6 +77,7 @@ TEST_F(Files, NamesMayHoldAnything) {
     const std::string strLong = std::string(251, 'n') + ".jpg";
     EXPECT_TRUE(picture.Save(Path(strLong), ImageType::kJpeg)) << "as long as a name can be";
     EXPECT_FALSE(picture.Save(Path("n" + strLong), ImageType::kJpeg));
+    EXPECT_EQ(fnOpen(), nOpen) << "files are closed again";
 }
 
 TEST_F(Files, ASaveThatFailsLeavesEverythingAsItWas) {

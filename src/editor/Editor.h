@@ -69,7 +69,7 @@ class CEditor {
     void PopRedo();
     void ClearUndo();
     void ClearRedo();
-    bool MakeEntryPictures(const CUndoEntry& entry, EMode mode, CEditPictures& next);
+    [[nodiscard]] bool MakeEntryPictures(const CUndoEntry& entry, EMode mode, CEditPictures& next);
 
     CEnvironment m_env;
 };

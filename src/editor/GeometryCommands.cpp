@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "editor/SizeChangeDlg.h"
-#include "resources/Texts.h"
 
 namespace {
 
@@ -51,17 +50,19 @@ void CGeometryCommands::ShowSizeError(const char* szText) {
 }
 
 std::optional<CSize> CGeometryCommands::ChooseSize(std::vector<CSize> arrPhoneSizes) {
-    if (IsRefused(kTextPhoneSizeRules)) return std::nullopt;
     CSizeChangeDlg dialog(m_env.images.DisplaySize(), std::move(arrPhoneSizes), m_env.boxes);
     if (m_env.modals.Run(dialog) != CDialog::kDialogOk) return std::nullopt;
-    const CSize size = dialog.Size();
-    const bool bTooLarge = std::max(size.cx, size.cy) > kLargestSide;
-    if (!bTooLarge && std::min(size.cx, size.cy) >= kSmallestSide) return size;
-    ShowSizeError(bTooLarge ? kTextTooLarge : kTextTooSmall);
-    return std::nullopt;
+    return dialog.Size();
 }
 
 bool CGeometryCommands::ChangeSize(const CxImage& imgBase, CSize size) {
+    const bool bTooLarge = std::max(size.cx, size.cy) > kLargestSide;
+    if (!bTooLarge && std::min(size.cx, size.cy) >= kSmallestSide) return SetSize(imgBase, size);
+    ShowSizeError(bTooLarge ? kTextTooLarge : kTextTooSmall);
+    return false;
+}
+
+bool CGeometryCommands::SetSize(const CxImage& imgBase, CSize size) {
     return m_env.editor.Change(imgBase, [size](CEditPictures& next) {
         next.SetDisplaySize(size);
         return next.RebuildDisplay(size);
@@ -83,7 +84,7 @@ bool CGeometryCommands::Zoom(const CxImage& imgBase, double fStep) {
     const CSize size{fnStep(m_env.images.m_nDispWidth), fnStep(m_env.images.m_nDispHeight)};
     const bool bTooLarge = fStep > 0 && std::max(size.cx, size.cy) > kLargestSide;
     const bool bTooSmall = fStep < 0 && std::min(size.cx, size.cy) < kSmallestZoomedSide;
-    if (!ChangeSize(imgBase, bTooLarge || bTooSmall ? m_env.images.DisplaySize() : size)) return false;
+    if (!SetSize(imgBase, bTooLarge || bTooSmall ? m_env.images.DisplaySize() : size)) return false;
     if (bTooLarge) ShowSizeError(kTextTooLarge);
     if (bTooSmall) ShowSizeError(kTextTooSmall);
     return true;

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "editor/Editor.h"
+#include "resources/Texts.h"
 #include "window/Dialog.h"
 
 enum class EFlip { Vertical, Horizontal };
@@ -36,13 +37,16 @@ class CGeometryCommands {
     // Back to the size as opened, turned the way the display is turned now.
     [[nodiscard]] bool ZoomToActual(const CxImage& imgBase);
 
-    // The size dialog: nothing if it is refused, cancelled or the size is out of bounds.
-    std::optional<CSize> ChooseSize(std::vector<CSize> arrPhoneSizes);
+    // The three steps of the size command: whether it may go on, the dialog (nothing if it is cancelled), and
+    // the change, for a size within the bounds.
+    [[nodiscard]] bool MaySize() { return !IsRefused(kTextPhoneSizeRules); }
+    [[nodiscard]] std::optional<CSize> ChooseSize(std::vector<CSize> arrPhoneSizes);
     [[nodiscard]] bool ChangeSize(const CxImage& imgBase, CSize size);
 
   private:
-    bool IsRefused(const char* szText);
-    bool Zoom(const CxImage& imgBase, double fStep);
+    [[nodiscard]] bool IsRefused(const char* szText);
+    [[nodiscard]] bool SetSize(const CxImage& imgBase, CSize size);
+    [[nodiscard]] bool Zoom(const CxImage& imgBase, double fStep);
     void ShowSizeError(const char* szText);
 
     CEnvironment m_env;

@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr CSize kListCell{189, 68};
 constexpr int kRestRange = 100;
 
 std::string NormalPicture(int nEffect) {
@@ -34,7 +33,7 @@ void CEffectFlow::Init() {
     std::vector<std::string> arrCells;
     arrCells.reserve(kEffectCount);
     for (int i = 0; i < kEffectCount; ++i) arrCells.push_back(NormalPicture(i));
-    m_list.SetImageList(std::move(arrCells), kListCell);
+    m_list.SetImageList(std::move(arrCells), kEffectCellSize);
     for (int i = 0; i < kEffectCount; ++i) m_list.AddItem(i, 0, RowOf(i).szLabel);
 }
 
@@ -109,6 +108,7 @@ void CEffectFlow::OnSelChangeEffectList() {
         return Apply(imgSmall, nEffect, 0);
     });
     if (!bMade) {
+        m_env.controls.Select(kEffectList, m_nEffectShown);
         m_env.editor.ReportNoMemory();
         return;
     }
@@ -136,6 +136,8 @@ void CEffectFlow::OnVScroll() {
     CxImage image = m_imgEffectBase;
     m_nRefWidth = m_env.images.m_nDispWidth;
     if (!Apply(image, m_nEffectIndex, nLevel)) {
+        // The level counts from either end alike.
+        m_env.controls.SetPosition(kEffectSlider, LevelOf(slider.nMin, slider.nMax, m_nEffectLevel));
         m_env.editor.ReportNoMemory();
         return;
     }

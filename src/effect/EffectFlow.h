@@ -56,8 +56,8 @@ class CEffectFlow {
 
   private:
     CRect PreviewBox() const;
-    bool MakePreviewBase(CxImage& image) const;
-    bool Apply(CxImage& image, int nEffect, int nLevel) const;
+    [[nodiscard]] bool MakePreviewBase(CxImage& image) const;
+    [[nodiscard]] bool Apply(CxImage& image, int nEffect, int nLevel) const;
     void ShowSelected(int nEffect);
     void ShowLevel(bool bHasLevel);
     void EndPreview();

@@ -39,6 +39,7 @@ TEST_F(GeometryTest, UnderThePhoneSizeRuleFlipsRunAndTheRestIsRefused) {
             Click(nCommand);
             ExpectBoxes({{szText, "注意", EBoxIcon::Exclamation, EBoxButtons::Ok}});
             EXPECT_TRUE(Snapshot() == snapshot) << nCommand;
+            EXPECT_EQ(Controls().Focus(), nCommand);
         }
     }
     // The step of the flip carries the phone's size, and so does the display behind its undo.

@@ -99,7 +99,8 @@ TEST_F(GeometryCommandsTest, AsksForASizeAndRefusesOneOutOfBounds) {
             dialog.Controls().SetText(kSizeHeight, std::to_string(size.cy));
             dialog.OnCommand(kSizeOk);
         };
-        EXPECT_EQ(m_geometry.ChooseSize({}), szBox == nullptr ? std::optional(size) : std::nullopt);
+        EXPECT_EQ(m_geometry.ChooseSize({}), size);
+        EXPECT_EQ(m_geometry.ChangeSize(m_images.m_imgWork, size), szBox == nullptr);
         const std::vector<CMessageBox> arrBoxes = TakeBoxes();
         ASSERT_EQ(arrBoxes.size(), szBox == nullptr ? 0U : 1U);
         if (szBox == nullptr) continue;
@@ -107,5 +108,5 @@ TEST_F(GeometryCommandsTest, AsksForASizeAndRefusesOneOutOfBounds) {
     }
     m_fnRun = [](CDialog& dialog) { dialog.OnCommand(kSizeCancel); };
     EXPECT_EQ(m_geometry.ChooseSize({}), std::nullopt);
-    EXPECT_TRUE(m_images.m_stackUndo.IsEmpty());
+    EXPECT_EQ(m_images.m_stackUndo.Count(), 1);
 }

@@ -14,8 +14,8 @@ bool CEditCommands::Run(TCommand command) {
     if (bDraw && !Prepare([&] { return m_env.draw.MakeSettled(imgBase); }))
         return m_env.editor.ReportNoMemory();
     if (!command(imgBase)) return false;
-    m_env.draw.AbandonShape();
     if (bDraw) m_env.draw.ForgetFloat();
+    m_env.draw.AbandonShape();
     return true;
 }
 
@@ -88,8 +88,8 @@ void CEditCommands::OnNew() {
     const bool bWasOpen = m_env.state.m_bImageOpen;
     if (!m_env.files.MakePage(m_env.state.m_nMode)) return;
     m_env.lines.TellOfEdit();
-    m_env.draw.AbandonShape();
     m_env.draw.ForgetFloat();
+    m_env.draw.AbandonShape();
     m_env.draw.ForgetSelection();
     m_env.events.Tell(EEditEvent::SelectionGone);
     if (!bWasOpen || m_env.state.IsUp(EMode::Thum)) {
@@ -125,7 +125,11 @@ void CEditCommands::OnSave() {
 
 void CEditCommands::OnPrint() {
     m_env.draw.AbandonShape();
-    if (m_env.state.IsAtWork(EMode::Draw)) m_env.draw.FetchCanvas();
+    if (m_env.state.IsAtWork(EMode::Draw)) {
+        if (!m_env.draw.PrepareDrop()) return;
+        m_env.draw.DropFloat();
+        m_env.draw.FetchCanvas();
+    }
     m_env.print.OnPrint();
 }
 
@@ -168,7 +172,7 @@ void CEditCommands::OnSizeRule(ESizeRule rule) {
 // --- geometry ---
 
 void CEditCommands::OnSize() {
-    if (!m_env.state.m_bImageOpen) return;
+    if (!m_env.state.m_bImageOpen || !m_env.geometry.MaySize()) return;
     const auto size = m_env.geometry.ChooseSize(m_env.link.PhoneSizes());
     if (!size) return FocusEffectList();
     Change([&](const CxImage& imgBase) { return m_env.geometry.ChangeSize(imgBase, *size); });

@@ -62,7 +62,7 @@ class CEditCommands {
   private:
     // Runs a command on the base of its change. True if the edit has changed.
     template <class TCommand>
-    bool Run(TCommand command);
+    [[nodiscard]] bool Run(TCommand command);
     // Runs one that needs a picture, and shows what it has changed.
     template <class TCommand>
     bool Change(TCommand command);

@@ -35,12 +35,12 @@ class CModeSwitch {
 
     // Takes the panel of the present mode down and brings the new one up, also if both are the same. False,
     // and nothing changes, behind a message that there is no memory for the pictures of the new one.
-    bool ChangeMode(EMode mode);
+    [[nodiscard]] bool ChangeMode(EMode mode);
     // What FONT does whenever a picture comes into it.
     void BeginFont();
 
   private:
-    bool MakePictures(EMode mode, CEditPictures& next) const;
+    [[nodiscard]] bool MakePictures(EMode mode, CEditPictures& next) const;
     void Leave(EMode modeNext);
     void EnterThum();
     void EnterDraw();

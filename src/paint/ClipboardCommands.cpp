@@ -54,7 +54,6 @@ void CClipboardCommands::OnCut() {
     GiveToClipboard(lifted, kTextCutFailed);
     paper.Revert();
     if (lifted.bAny) {
-        paper.Committed().FillRegion(selection.m_region, m_env.tools.m_crBackground);
         paper.Scratch().FillRegion(selection.m_region, m_env.tools.m_crBackground);
         paper.Commit();
     }

@@ -35,9 +35,9 @@ class CClipboardCommands {
         std::vector<std::uint8_t> arrDib;
     };
     void ShowNotice(const char* szText);
-    bool Lift(CLifted& lifted);
+    [[nodiscard]] bool Lift(CLifted& lifted);
     void GiveToClipboard(const CLifted& lifted, const char* szFailed);
-    bool TakeFromClipboard(CxImage& image);
+    [[nodiscard]] bool TakeFromClipboard(CxImage& image);
     void Float(const CxImage& image);
 
     CEnvironment m_env;

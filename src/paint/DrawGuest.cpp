@@ -5,7 +5,9 @@ CDrawGuest::CDrawGuest(const CEnvironment& env)
       m_toolBox({m_paper, m_hand, env.tools, m_selection, env.editor, env.events, env.host, env.random,
                  env.timers, env.canvas},
                 env.tools, [this] {
-                    if (PrepareDrop()) DropFloat();
+                    if (!PrepareDrop()) return false;
+                    DropFloat();
+                    return true;
                 }) {}
 
 // --- between the paper and the edit ---

@@ -6,6 +6,7 @@ void CFillTool::Press(CPoint pt) {
         return !Committed().Bounds().Contains(pt) ||
                Committed().FloodFill(pt, Committed().GetPixel(pt.x, pt.y));
     };
+    Hand().m_ptStart = pt;
     Committed().SelectBrush(CBrush::Solid(Hand().m_crPrimary));
     if (m_env.Snapshot(fill)) Paper().Revert();
 }

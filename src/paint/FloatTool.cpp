@@ -1,8 +1,9 @@
 #include "paint/FloatTool.h"
 
 void CFloatTool::Press(CPoint pt) {
-    if (!m_env.selection.m_region.Box().Contains(pt)) return m_fnDrop();
     Hand().m_ptStart = pt;
+    // Without the memory to merge it, the drag is over.
+    if (!m_env.selection.m_region.Box().Contains(pt)) Hand().m_bButtonDown = m_fnDrop();
 }
 
 void CFloatTool::Move(CPoint pt) {

@@ -8,11 +8,11 @@
 // it.
 class CFloatTool : public CPaintTool {
   public:
-    CFloatTool(const CPaintEnvironment& env, std::function<void()> fnDrop)
+    CFloatTool(const CPaintEnvironment& env, std::function<bool()> fnDrop)
         : CPaintTool(env), m_fnDrop(std::move(fnDrop)) {}
     void Press(CPoint pt) override;
     void Move(CPoint pt) override;
 
   private:
-    std::function<void()> m_fnDrop;
+    std::function<bool()> m_fnDrop;
 };

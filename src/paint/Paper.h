@@ -51,7 +51,7 @@ class CPaper {
     void Collect();
     void SetShown(bool bCommitted);
     // True if the pixels in the box are now the same; else memory was short.
-    static bool CopyBox(const CSurface& from, CSurface& to, const CRect& rc);
+    [[nodiscard]] static bool CopyBox(const CSurface& from, CSurface& to, const CRect& rc);
 
     CSurface m_surfCommit{0, 0};
     CSurface m_surfScratch{0, 0};

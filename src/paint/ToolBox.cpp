@@ -32,7 +32,7 @@ bool IsSelectionTool(ETool tool) {
 
 }  // namespace
 
-CToolBox::CToolBox(const CPaintEnvironment& env, CToolState& options, const std::function<void()>& fnDrop)
+CToolBox::CToolBox(const CPaintEnvironment& env, CToolState& options, const std::function<bool()>& fnDrop)
     : m_env(env), m_options(options) {
     const auto add = [this](ETool tool, std::unique_ptr<CPaintTool> pTool) {
         m_arrTools[SlotOf(tool)] = std::move(pTool);
@@ -105,16 +105,19 @@ void CToolBox::OnMove(CPoint pt) {
 
 void CToolBox::OnRelease(CPoint pt) {
     m_env.hand.m_bButtonDown = false;
-    if (std::exchange(m_bPressRefused, false)) return;
+    if (std::exchange(m_bPressRefused, false))
+        return m_env.timers.KillTimer(m_env.canvas, CPaintEnvironment::kSprayTimer);
     m_env.paper.Committed().SelectPen(ToolPen());
     m_env.paper.Committed().SelectBrush(FigureBrush());
     Current().Release(KeepInside(pt));
 }
 
-// The first click's release has left pen and brush on the picture.
 void CToolBox::OnDoubleClick(CPoint pt, EMouseButton button) {
     TakeColors(button);
     m_env.hand.m_bButtonDown = false;
+    m_bPressRefused = false;
+    m_env.paper.Committed().SelectPen(ToolPen());
+    m_env.paper.Committed().SelectBrush(FigureBrush());
     Current().DoubleClick(pt);
 }
 

@@ -11,8 +11,8 @@
 // that is meant, and selects the pens and brushes that the step starts with.
 class CToolBox {
   public:
-    // fnDrop merges the floating selection.
-    CToolBox(const CPaintEnvironment& env, CToolState& options, const std::function<void()>& fnDrop);
+    // fnDrop merges the floating selection; false if memory is too short for that.
+    CToolBox(const CPaintEnvironment& env, CToolState& options, const std::function<bool()>& fnDrop);
 
     // Points are picture pixels and may lie outside the picture. Left and right button swap both colours.
     void OnPress(CPoint pt, EMouseButton button);
@@ -25,7 +25,7 @@ class CToolBox {
   private:
     void TakeColors(EMouseButton button);
     // False if memory is too short for the drag.
-    bool Press(CPoint pt);
+    [[nodiscard]] bool Press(CPoint pt);
     // The right and the lower edge are one pixel beyond the last one: a shape may end there.
     CPoint KeepInside(CPoint pt) const;
     CPaintTool& Current();

@@ -18,6 +18,7 @@ struct CEditNow {
     bool bFloating = false;
     bool bMarked = false;
     ETool tool = ETool::SelectRect;
+    std::pair<int, int> listAndSlider;
     bool operator==(const CEditNow&) const = default;
 };
 
@@ -29,8 +30,9 @@ class NoMemoryTest : public PaintWorkshop {
     }
 
     CEditNow Now() {
-        return {Snapshot(), Draw().Paper().Committed().Pixels(), Draw().IsFloating(),
-                Draw().Selection().IsMarked(), Tools().m_nTool};
+        return {Snapshot(),          Draw().Paper().Committed().Pixels(),
+                Draw().IsFloating(), Draw().Selection().IsMarked(),
+                Tools().m_nTool,     {Controls().Selection(kEffectList), Controls().Position(kEffectSlider)}};
     }
     // Runs it with the first, second, ... large block refused until it needs no more of them. nElse: so many
     // come first that belong to something else, a dialog's window for one.
@@ -157,12 +159,18 @@ TEST_F(NoMemoryTest, Effects) {
     for (const int nEffect :
          {NumberOf(EEffect::Brightness), NumberOf(EEffect::Art), NumberOf(EEffect::OilPainting),
           NumberOf(EEffect::Tile), NumberOf(EEffect::Haze1)}) {
-        Try("choice", [&] {
-            Controls().Select(kEffectList, -1);
+        const auto choose = [&] {
             Controls().Select(kEffectList, nEffect);
             m_dialog.OnNotify(kEffectList, ENotice::SelectionChanged);
-        });
+        };
+        Try("choice", choose);
         ASSERT_TRUE(m_dialog.Effects().IsPending());
+        if (Controls().IsShown(kEffectSlider)) {
+            Try("slider", [&] {
+                Controls().SetPosition(kEffectSlider, Controls().Find(kEffectSlider)->nMin + 3);
+                m_dialog.OnNotify(kEffectSlider, ENotice::Scrolled);
+            });
+        }
         TryCommand(kConfirm);
     }
 }
@@ -176,7 +184,7 @@ TEST_F(NoMemoryTest, CommandsOfDraw) {
             if (bFloat) Float();
             TryCommand(nId);
         }
-        for (const int nId : {kCmdUndo, kTabEffect, kTabThum, kTabFont}) {
+        for (const int nId : {kCmdUndo, kCmdReset, kCmdPrint, kTabEffect, kTabThum, kTabFont}) {
             if (!bFloat) break;
             OpenPicture();
             GoTo(EMode::Draw);
@@ -229,4 +237,12 @@ TEST_F(NoMemoryTest, Strokes) {
         Tool(tool);
         Try("tool " + std::to_string(static_cast<int>(tool)), stroke);
     }
+    // A float is merged by a press beside it; the edit holds the paper's pixels too.
+    Float();
+    m_dialog.OnCommand(kCmdUndo);
+    m_host.Pump();
+    Float();
+    PressWindow({30, 400});
+    Try("beside the float", [this] { Drag({208, 188}, {100, 100}); });
+    EXPECT_FALSE(Draw().IsFloating());
 }

@@ -53,6 +53,5 @@ QStringList ParseFilter(const std::string& strFilter) {
 QStringList PatternsOf(const QString& strNameFilter) {
     const qsizetype nOpen = strNameFilter.lastIndexOf('(');
     const qsizetype nClose = strNameFilter.lastIndexOf(')');
-    if (nOpen < 0 || nClose < nOpen) return {"*"};
     return strNameFilter.mid(nOpen + 1, nClose - nOpen - 1).split(' ', Qt::SkipEmptyParts);
 }

@@ -101,7 +101,6 @@ void CTreeWidget::OnTreeDeleted(CTreeItem /*item*/) {
 }
 
 void CTreeWidget::OnTreeMarked(CTreeItem item) {
-    const QScopedValueRollback guard(m_bMirroring, true);
     m_adaptor.Marked(item);
     // Qt looks anew at whether an item has children only when it lays the tree out.
     scheduleDelayedItemsLayout();

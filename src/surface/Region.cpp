@@ -75,9 +75,11 @@ CRegion CRegion::MakePolygon(std::span<const CPoint> points) {
 void CRegion::AddRow(int y, std::span<const CPolygonScan::CSpan> spans) {
     const std::size_t nFirst = m_runs.size();
     for (const CPolygonScan::CSpan& span : spans) {
-        const CRun run{static_cast<int>(std::max<std::int64_t>(span.nLeft, -kReach)),
-                       static_cast<int>(std::min<std::int64_t>(span.nRight, kReach))};
-        if (span.nLeft < kReach && run.nLeft < run.nRight) m_runs.push_back(run);
+        const auto Near = [](std::int64_t x) {
+            return static_cast<int>(std::clamp<std::int64_t>(x, -kReach, kReach));
+        };
+        const CRun run{Near(span.nLeft), Near(span.nRight)};
+        if (run.nLeft < run.nRight) m_runs.push_back(run);
     }
     const std::size_t nCount = m_runs.size() - nFirst;
     if (nCount == 0) return;

@@ -5,7 +5,6 @@
 
 CControlSet::CControlSet(std::span<const CControlTemplate> arrTemplate,
                          std::span<const CControlLookRow> arrLooks) {
-    m_arrControls.reserve(arrTemplate.size());
     for (const CControlTemplate& entry : arrTemplate) {
         CControl control;
         control.nId = entry.nId;

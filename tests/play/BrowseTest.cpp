@@ -119,6 +119,7 @@ TEST_F(BrowseTest, NamesTheLineThatCannotBeDone) {
         {"tree select D:/none/old", "the tree has no \"D:/none/old\""},
         {"tree open D:", "\"磁盘 (D:)\" is open already"},
         {"tree open D:/音乐", "\"音乐\" has nothing to open"},
+        {"tree select Q:", "the tree has no \"Q:\""},
         {"list click b.jpg", "the list has no \"b.jpg\""},
         {"list click a.jpg alt", "\"alt\" is no key beside shift and ctrl"},
         {"list shake a.jpg", "there is no such thing to do in the list"},

@@ -40,6 +40,8 @@ TEST_F(ScriptTest, NamesTheLineThatCannotBeDone) {
         {"command 1027\nmouse press left 5 1 alt", "test:2: \"alt\" is no key beside shift and ctrl\n"},
         {"command 1027\nscroll 1 0", "test:2: the view scrolls no further than (0,0)\n"},
         {"window press left 40 30", "test:1: (40,30) is on control 1000\n"},
+        {"slider far 1", "test:1: it is slider POS\n"},
+        {"command 1027\nslider far", "test:2: \"far\" is no number\n"},
         {"state weather", "test:1: \"weather\" is no state\n"},
         {"dump work a.ppm", "test:1: there is no picture\n"},
         {"answer box maybe", "test:1: there is no such answer\n"},

@@ -39,6 +39,7 @@ TEST(Buttons, ClickAndSpaceReachTheDialogOnce) {
     QTest::keyClick(shown.Widget(10), Qt::Key_Space);
     shown.Click(12);
     EXPECT_EQ(shown.dialog.m_arrCommands, (std::vector{10, 10, 12}));
+    EXPECT_TRUE(shown.Widget(10)->hasFocus()) << "a picture takes none";
     // Released beside the button: no click. So is a press with the other button.
     Press(*shown.view, shown.Centre(10));
     Release(*shown.view, {100, 100});

@@ -6,6 +6,7 @@
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
@@ -198,13 +199,22 @@ TEST(Choosers, ColourStartsWhereItWas) {
 
 TEST(Choosers, FontKeepsAFaceThatTheMachineLacks) {
     CTestPlatform test;
-    Later([] { ActiveWindow<QDialog>()->accept(); });
+    const auto fnSample = [] {
+        for (const QLabel* pLabel : ActiveWindow<QDialog>()->findChildren<QLabel*>())
+            if (pLabel->text().contains("AaBb")) return pLabel->font();
+        return QFont();
+    };
+    Later([&] {
+        EXPECT_TRUE(fnSample().bold());
+        ActiveWindow<QDialog>()->accept();
+    });
     EXPECT_EQ(test.platform.fonts.Run({"黑体", true}), (CFontChoice{"黑体", true}));
-    Later([] {
+    Later([&] {
         auto* pWindow = ActiveWindow<QDialog>();
         auto arrLists = pWindow->findChildren<QListWidget*>();
         for (QListWidget* pList : arrLists)
             pList->setCurrentRow(pList->count() == 2 ? 0 : pList->count() - 1);
+        EXPECT_FALSE(fnSample().bold());
         pWindow->accept();
     });
     const auto choice = test.platform.fonts.Run({"黑体", true});

@@ -282,11 +282,15 @@ TEST_F(IconList, TheDriverTellsTheLogicWhatTheWindowTells) {
     for (const int n : {0, 1}) Move(*m_shown.view, fnAt(11) + QPoint(n, n));
     Release(*m_shown.view, fnAt(11));
     fnSame(host.BandIcons(17, {11}), "press, release");
+    EXPECT_NE(host.BandIcons(17, {12}), "") << "there is none";
     EXPECT_GT(std::min(m_sink.m_nMoves, sink.m_nMoves), 0);
     fnSame(fnKey(Qt::Key_Delete, false, kKeyDelete), "key 46");
     fnSame(fnKey(Qt::Key_Delete, true, kKeyDelete), "shift 46");
     fnSame(fnKey(Qt::Key_Return, false, kKeyEnter), "enter");
     fnSame(fnKey(Qt::Key_Q, false, 'Q'), "");
+    // New items have no place from which Shift selects.
+    for (CIconListModel* pIcons : {&m_icons, &icons}) pIcons->SetItems(Names(5));
+    fnSame(fnClick(1, Qt::ShiftModifier, kMouseShift), "press, click 1");
     EXPECT_TRUE(m_shown.dialog.m_arrNotices.empty() && dialog.m_arrNotices.empty() &&
                 m_shown.dialog.m_arrMouse.empty());
 }

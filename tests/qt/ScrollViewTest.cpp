@@ -54,7 +54,11 @@ TEST(ScrollView, BarsTakeTheirRoomFromTheClientArea) {
         EXPECT_EQ(test.BarsUp(), nBars);
         const QImage image = test.Widget().grab().toImage();
         const QPoint ptLast = test.Widget().ClientArea().bottomRight();
+        EXPECT_EQ(image.pixel(0, 0), qRgb(90, 80, 70)) << "the mark in its corner";
         EXPECT_EQ(image.pixel(ptLast), qRgb(10, 20, 30)) << "drawn up to the bars";
+        if (nBars == 2) {
+            EXPECT_EQ(image.pixel(198, 148), qRgb(95, 107, 112)) << "the ground of the bars";
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 #include <QAccessible>
 
 #include "TestDialog.h"
+#include "qt/SliderWidget.h"
 
 namespace {
 
@@ -37,6 +38,11 @@ class Slider : public testing::Test {
 }  // namespace
 
 TEST_F(Slider, OnlyTheUsersMovesAreTold) {
+    const QImage image = m_shown.Widget(41)->grab().toImage();
+    EXPECT_EQ(image.pixel(12, 60), qRgb(10, 20, 30));
+    static_cast<CSliderWidget*>(m_shown.Widget(41))->SetDensity(1);
+    EXPECT_EQ(m_shown.Widget(41)->grab().toImage(), image)
+        << "the pictures of another screen come up at once";
     EXPECT_TRUE(m_shown.dialog.m_arrNotices.empty());
     QTest::keyClick(m_shown.Widget(41), Qt::Key_Up);
     EXPECT_EQ(Position(), 99) << "the lower bound is at the top";

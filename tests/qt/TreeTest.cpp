@@ -200,6 +200,7 @@ TEST_F(Tree, AnArrowStandsWhereTheMarkSaysSo) {
 }
 
 TEST_F(Tree, NamesOfAnyBytesStandInOneLine) {
+    EXPECT_EQ(View().font().pixelSize(), 12);
     const CTreeItem odd = tree.InsertLast(root, "a\xff\nb", ETreeIcon::Folder, false);
     EXPECT_EQ(Index(odd).data().toString(), QStringLiteral("a\uFFFD b"));
     EXPECT_EQ(Row(odd).height(), Row(leaf).height());

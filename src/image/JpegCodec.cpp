@@ -58,7 +58,8 @@ CImageHead HeadOf(const CReader& reader, int nOrientation) {
 bool HasEnd(const CReader& reader) {
     constexpr std::array<std::uint8_t, 2> kEnd = {0xFF, 0xD9};
     const jpeg_source_mgr& source = *reader.Info().src;
-    return !std::ranges::find_end(std::span(source.next_input_byte, source.bytes_in_buffer), kEnd).empty();
+    const std::span rest(source.next_input_byte, source.bytes_in_buffer);
+    return std::find_end(rest.begin(), rest.end(), kEnd.begin(), kEnd.end()) != rest.end();
 }
 
 // A progressive file is decoded from the coefficients of the whole picture, two bytes each.

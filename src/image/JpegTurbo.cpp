@@ -20,13 +20,10 @@ void OnMessage(j_common_ptr pInfo, int nLevel) {
     if (nLevel < 0 && pInfo->err->msg_code == JWRN_JPEG_EOF) OnError(pInfo);
 }
 
-void OnOutput(j_common_ptr) {}
-
 void PrepareTrouble(CJpegTrouble& trouble) {
     jpeg_std_error(&trouble.manager);
     trouble.manager.error_exit = OnError;
     trouble.manager.emit_message = OnMessage;
-    trouble.manager.output_message = OnOutput;
 }
 
 // A file of a few kilobytes can hold thousands of empty scans of a huge picture.

@@ -56,7 +56,7 @@ TEST(CommandTable, IsTheOneThatWasWrittenByHand) {
         strRow += ' ';
         for (const EKey key : {row.previewBegun, row.previewEnded, row.previewDropped})
             strRow += LetterOf(key);
-        strRow = strRow + ' ' + LetterOf(row.phoneChanged);
+        (strRow += ' ') += LetterOf(row.phoneChanged);
         EXPECT_EQ(row.nId, kWantedKeys[i].nId);
         EXPECT_EQ(strRow, kWantedKeys[i].szRow) << row.nId;
     }

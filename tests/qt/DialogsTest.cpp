@@ -222,4 +222,9 @@ TEST(Choosers, FontKeepsAFaceThatTheMachineLacks) {
     EXPECT_FALSE(choice->bBold);
     EXPECT_NE(choice->strFace, "黑体");
     EXPECT_FALSE(choice->strFace.empty());
+    Later([&] {
+        for (QListWidget* pList : ActiveWindow<QDialog>()->findChildren<QListWidget*>())
+            if (pList->count() > 2) emit pList->itemDoubleClicked(pList->currentItem());
+    });
+    EXPECT_TRUE(test.platform.fonts.Run({"黑体", true}).has_value()) << "a double click takes the face";
 }

@@ -145,9 +145,7 @@ TEST_F(IconList, APictureComesUpInItsCellAndPaintsNoOther) {
 // is selected has a warm rim around the picture and warm ground below the name. A long name keeps to its
 // cell.
 TEST_F(IconList, CellsLookAsTheirItemsAre) {
-    std::string strLong;
-    for (int i = 0; i < 40; ++i) strLong += "很长的名字";
-    Fill({"bytes\xff\xfe\n.jpg", strLong + ".jpg", "a", "beside"});
+    Fill({"bytes\xff\xfe\n.jpg", std::string(60, 'n') + ".jpg", "a", "beside"});
     EXPECT_EQ(Cell(1).size(), Cell(0).size());
     for (const int nItem : {2, 3}) m_icons.SetPicture(nItem, RedPicture());
     m_icons.Select(2, true);

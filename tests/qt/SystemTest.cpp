@@ -45,6 +45,8 @@ TEST(TextRasterizer, CellStyleAndEdges) {
         EXPECT_EQ(mask.nHeight, nHeight);
         EXPECT_GT(mask.nWidth, nHeight / 2);
     }
+    EXPECT_NE(rasterizer.Rasterize({"黑体", 64, 400, true}, "文字").coverage,
+              rasterizer.Rasterize({"黑体", 64}, "文字").coverage);
     const int nRegular = Inked(rasterizer.Rasterize({"黑体", 64}, "文字"));
     EXPECT_GT(Inked(rasterizer.Rasterize({"黑体", 64, 700}, "文字")), nRegular);
     EXPECT_GT(Inked(rasterizer.Rasterize({"黑体", 64, 400, false, true}, "文字")), nRegular);

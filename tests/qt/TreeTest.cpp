@@ -206,6 +206,16 @@ TEST_F(Tree, NamesOfAnyBytesStandInOneLine) {
     EXPECT_EQ(Row(odd).height(), Row(leaf).height());
 }
 
+TEST_F(Tree, OutlivesItsViewAndComesUpInAnotherAsItStands) {
+    shown.view.reset();
+    tree.Select(leaf);
+    tree.Expand(lazy);
+    const CShownDialog again(kDialog, {}, {.pTree = &tree});
+    const auto& view = *qobject_cast<QTreeView*>(again.Widget(33));
+    EXPECT_EQ(view.selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(view.currentIndex().data().toString(), "leaf");
+}
+
 TEST_F(Tree, ADeepNameCanBeScrolledTo) {
     CTreeItem item = lazy;
     for (int i = 0; i < 12; ++i)

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "engines/effects/EffectForms.h"
+#include "engines/effects/FrameTables.h"
 #include "engines/effects/VignetteMask.h"
 #include "image/CpuChoice.h"
 #include "support/Pictures.h"
@@ -82,6 +83,14 @@ TEST(PureBlackWhite, GoesOnAsItsSumWraps) {
     for (const int nWidth : {2048, 2056, 2064, 4000, 9001})
         for (const int nLevel : {1, 40, 100})
             Compare(EEffect::PureBlackWhite, MakePicture({nWidth, 150}, EKind::Pale, 3), nLevel, nWidth);
+}
+
+// The naive form reads the same table.
+TEST(CrystalFrame, HasMoreRingsTheWiderThePicture) {
+    std::vector<std::size_t> arrRings;
+    for (const int nWidth : {160, 161, 176, 177, 320, 321, 4000})
+        arrRings.push_back(CrystalRings(nWidth).size());
+    EXPECT_EQ(arrRings, (std::vector<std::size_t>{18, 21, 21, 36, 36, 72, 72}));
 }
 
 // Enough fields that are done, and wider than the rest of the pictures here.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
 
@@ -21,9 +22,10 @@ constexpr CControlTemplate kControls[] = {
     {22, Radio, CRect::FromPlace(60, 40, 14, 14)},
     {29, Group, CRect{}},
     {30, Radio, CRect::FromPlace(80, 40, 14, 14)},
-    {31, Check, CRect::FromPlace(100, 40, 14, 14)},
+    {31, Check, CRect::FromPlace(100, 40, 14, 14), "&Mark"},
     {40, Edit, CRect::FromPlace(10, 60, 100, 18), "abc", true, true, 5},
     {42, Combo, CRect::FromPlace(10, 90, 100, 22)},
+    {43, Button, CRect::FromPlace(120, 90, 30, 22), "OK"},
 };
 constexpr CDialogTemplate kDialog{900, "Buttons", {160, 130}, EDialogFrame::Plain, kControls};
 
@@ -38,13 +40,14 @@ TEST(Buttons, ClickAndSpaceReachTheDialogOnce) {
     shown.Click(10);
     QTest::keyClick(shown.Widget(10), Qt::Key_Space);
     shown.Click(12);
-    EXPECT_EQ(shown.dialog.m_arrCommands, (std::vector{10, 10, 12}));
-    EXPECT_TRUE(shown.Widget(10)->hasFocus()) << "a picture takes none";
+    shown.Click(43);
+    EXPECT_EQ(shown.dialog.m_arrCommands, (std::vector{10, 10, 12, 43}));
+    EXPECT_TRUE(shown.Widget(43)->hasFocus() || shown.Widget(10)->hasFocus()) << "a picture takes none";
     // Released beside the button: no click. So is a press with the other button.
     Press(*shown.view, shown.Centre(10));
     Release(*shown.view, {100, 100});
     QTest::mouseClick(shown.Widget(10), Qt::RightButton);
-    EXPECT_EQ(shown.dialog.m_arrCommands.size(), 3U);
+    EXPECT_EQ(shown.dialog.m_arrCommands.size(), 4U);
 }
 
 TEST(Buttons, ADisabledOneIsDeafButIsHoveredOver) {
@@ -77,6 +80,27 @@ TEST(Buttons, ThePictureFollowsTheState) {
     Release(*shown.view, shown.Centre(10));
     shown.Controls().Enable(10, false);
     EXPECT_EQ(PixelAt(shown, 10), qRgb(5, 0, 0));
+}
+
+TEST(Marks, LookAsTheyAreAndTakeKeys) {
+    CShownDialog shown(kDialog);
+    const auto fnAt = [&](int nId, int x, int y) {
+        return shown.Widget(nId)->grab().toImage().pixelColor(x, y);
+    };
+    EXPECT_LT(fnAt(20, 7, 1).lightness(), 120) << "a rim";
+    const QColor crEmpty = fnAt(20, 7, 7);
+    QTest::keyClick(shown.view.get(), Qt::Key_Tab);
+    shown.Controls().SetFocus(20);
+    EXPECT_TRUE(shown.Widget(20)->hasFocus());
+    QTest::keyClick(shown.Widget(20), Qt::Key_Space);
+    EXPECT_TRUE(shown.Controls().IsChecked(20));
+    EXPECT_NE(fnAt(20, 7, 7), crEmpty);
+    EXPECT_EQ(fnAt(20, 7, 7), QColor(232, 143, 54));
+    EXPECT_NE(fnAt(20, 3, 7), QColor(232, 143, 54)) << "the dot stays off its rim";
+    for (const int nId : {20, 31, 40, 42})
+        EXPECT_NE(shown.Widget(nId)->focusPolicy() & Qt::TabFocus, 0) << nId;
+    EXPECT_EQ(static_cast<QAbstractButton*>(shown.Widget(31))->text(), "&Mark");
+    EXPECT_EQ(shown.Widget(42)->grab().toImage().pixelColor(0, 5), QColor(74, 84, 88)) << "the combo's rim";
 }
 
 TEST(Marks, AreMovedBeforeTheDialogHears) {

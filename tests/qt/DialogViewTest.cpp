@@ -39,6 +39,7 @@ TEST(DialogView, MirrorsTheControls) {
     EXPECT_EQ(shown.Widget(13)->accessibleName(), "text");
     EXPECT_EQ(imageBefore.pixel(0, 0), qRgb(3, 4, 5));
     EXPECT_NE(imageBefore.pixel(66, 0), qRgb(3, 4, 5)) << "the ground goes as far as the text";
+    EXPECT_EQ(shown.Widget(13)->font().pixelSize(), 12) << "by its height";
     controls.SetText(13, "other  ");
     EXPECT_EQ(shown.Widget(13)->accessibleName(), "other");
 }

@@ -215,6 +215,12 @@ TEST(Choosers, FontKeepsAFaceThatTheMachineLacks) {
         for (QListWidget* pList : arrLists)
             pList->setCurrentRow(pList->count() == 2 ? 0 : pList->count() - 1);
         EXPECT_FALSE(fnSample().bold());
+        const QString strFace = fnSample().family();
+        for (QListWidget* pList : arrLists)
+            if (pList->count() > 2) pList->setCurrentRow(pList->currentRow() == 0 ? 1 : 0);
+        EXPECT_NE(fnSample().family(), strFace) << "the sample follows the face";
+        for (QListWidget* pList : arrLists)
+            if (pList->count() > 2) pList->setCurrentRow(pList->count() - 1);
         pWindow->accept();
     });
     const auto choice = test.platform.fonts.Run({"黑体", true});

@@ -5,14 +5,18 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTreeView>
 #include <filesystem>
 #include <fstream>
 
 #include "TestDialog.h"
+#include "qt/FileDateDelegate.h"
 #include "qt/QtPlatform.h"
 #include "qt/UnlistedFiles.h"
 
@@ -35,6 +39,10 @@ class CTestPanel : public CFileDialogPanel {
     std::vector<std::string> m_arrPaths;
     int m_nInits = 0;
     int m_nDestroys = 0;
+};
+
+struct COpenDelegate : CFileDateDelegate {
+    using CFileDateDelegate::initStyleOption;
 };
 
 class FileDialogs : public testing::Test {
@@ -91,6 +99,16 @@ TEST_F(FileDialogs, MatchingFilesAreListedAndThePanelFollowsTheSelection) {
         }
         EXPECT_EQ(Window().nameFilters(), QStringList{"JPG Files (*.JPG)"});
         EXPECT_EQ(panel.m_nInits, 1);
+        // Name, size and date stand in columns.
+        const auto* pTree = Window().findChild<QTreeView*>("treeView");
+        EXPECT_TRUE(pTree->header()->isSectionHidden(2));
+        EXPECT_EQ(pTree->header()->sectionResizeMode(0), QHeaderView::Stretch);
+        auto* pDates = static_cast<CFileDateDelegate*>(pTree->itemDelegateForColumn(3));
+        ASSERT_NE(pDates, nullptr);
+        const QModelIndex date = pTree->model()->index(0, 3, pTree->rootIndex());
+        QStyleOptionViewItem option;
+        (pDates->*&COpenDelegate::initStyleOption)(&option, date);
+        EXPECT_TRUE(QRegularExpression("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d$").match(option.text).hasMatch());
         Accept();
     });
     const auto choice = m_owner.Platform().files.RunOpen(kRequest, &panel);

@@ -57,6 +57,15 @@ class PictureList : public testing::Test {
 }  // namespace
 
 TEST_F(PictureList, RowsAreThePicturesBesideTheBar) {
+    // The row with the focus has a dotted rim inside its picture, no other has one.
+    const auto fnRimmed = [this](int nRow) {
+        int nLit = 0;
+        for (int x = 2; x < 180; ++x) nLit += qGreen(Look().pixel(x, 68 * nRow + 2)) != 7 ? 1 : 0;
+        return nLit > 50;
+    };
+    View()->setFocus();
+    View()->setCurrentIndex(View()->model()->index(1, 0));
+    EXPECT_TRUE(fnRimmed(1) && !fnRimmed(0));
     const QImage image = Look();
     EXPECT_EQ(image.pixel(0, 0), qRgb(129, 7, 9));
     EXPECT_EQ(image.pixel(188, 67), qRgb(129, 7, 9));

@@ -43,6 +43,7 @@ class CMainDlg : public CDialog,
     CMySCrollView& Canvas() { return m_canvas; }
     CDrawGuest& Draw() { return m_draw; }
     const CStatusLines& Lines() const { return m_lines; }
+    CTextArtFlow& TextArt() { return m_textArt; }
     CThumPanel& Thum() { return m_thum; }
     CEffectFlow& Effects() { return m_effects; }
     // Starts the random numbers of effects and airbrush anew, for runs that can be repeated.

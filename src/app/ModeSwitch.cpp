@@ -15,6 +15,11 @@ bool CModeSwitch::MakePictures(EMode mode, CEditPictures& next) const {
     return next.RebuildDisplay(mode, mode == EMode::Draw ? next.DisplaySize() : next.RuledSize());
 }
 
+CCanvasGuest* CModeSwitch::GuestOf(EMode mode) const {
+    if (mode == EMode::Draw) return &m_env.draw;
+    return mode == EMode::Font ? &m_env.textArt.Guest() : nullptr;
+}
+
 bool CModeSwitch::ChangeMode(EMode mode) {
     const CWaitScope wait(m_env.wait);
     CEditPictures next = m_env.images;
@@ -26,7 +31,7 @@ bool CModeSwitch::ChangeMode(EMode mode) {
     Leave(mode);
     static_cast<CEditPictures&>(m_env.images) = std::move(next);
     m_env.state.m_nMode = mode;
-    m_env.canvas.SetGuest(mode == EMode::Draw ? &m_env.draw : nullptr);
+    m_env.canvas.SetGuest(GuestOf(mode));
     if (mode == EMode::Thum)
         EnterThum();
     else if (m_env.state.m_bImageOpen)
@@ -53,7 +58,7 @@ void CModeSwitch::Leave(EMode modeNext) {
     m_env.thum.List().StopFill();
     m_env.effects.DropPreview();
     m_env.effects.BlankReadout();
-    m_env.textArt.ForgetBase();
+    m_env.textArt.End();
     if (!m_env.state.IsUp(EMode::Draw)) return;
     // A float has gone along into the working image; for THUM, which fetches nothing, it goes with the paper.
     if (modeNext == EMode::Thum) m_env.draw.DropFloat();
@@ -77,7 +82,5 @@ void CModeSwitch::EnterDraw() {
 }
 
 void CModeSwitch::BeginFont() {
-    if (!m_env.state.m_bImageOpen) return;
-    m_env.textArt.ForgetBase();
-    m_env.textArt.InitTextHandles();
+    m_env.textArt.Begin();
 }

@@ -41,6 +41,7 @@ class CModeSwitch {
 
   private:
     [[nodiscard]] bool MakePictures(EMode mode, CEditPictures& next) const;
+    CCanvasGuest* GuestOf(EMode mode) const;
     void Leave(EMode modeNext);
     void EnterThum();
     void EnterDraw();

@@ -85,6 +85,7 @@ class CPlayHost : private CDialogHost, private CViewHost, private CIconListObser
     void OnDrawn() override {}
     void OnEnded() override {}
     void OnScrollChanged() override {}
+    void OnCursorChanged() override {}
     void OnIconsReset() override;
     void OnIconChanged(int /*nItem*/) override {}
     void OnIconsSelected() override {}

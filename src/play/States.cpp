@@ -61,6 +61,25 @@ std::string Colors(const CStage& stage) {
     return Hex(tools.m_crForeground) + " " + Hex(tools.m_crBackground);
 }
 
+// A grid of the mesh, x and y of each of its points.
+std::string Grid(const MeshValues& x, const MeshValues& y) {
+    std::string str;
+    for (std::size_t i = 0; i < CTextHandles::kMeshPoints; ++i)
+        str.append(1, ' ').append(Pair({static_cast<int>(x[i]), static_cast<int>(y[i])}));
+    return str;
+}
+
+std::string TextArt(const CStage& stage) {
+    const TextArtParam& param = stage.dialog.TextArt().Param();
+    std::string str = std::to_string(param.nWarpKind) + " " + std::to_string(param.nTextEffect) + " ";
+    if (param.nWarpKind == kWarpMesh)
+        return str + Pair({param.nMeshX, param.nMeshY}) + " " + Pair({param.nMeshWidth, param.nMeshHeight}) +
+               Grid(param.fMeshSrcX, param.fMeshSrcY) + Grid(param.fMeshDstX, param.fMeshDstY);
+    str += Pair({param.nBoxX, param.nBoxY}) + " " + Pair({param.nBoxWidth, param.nBoxHeight});
+    for (const float f : param.fQuad) str.append(1, ' ').append(std::to_string(static_cast<int>(f)));
+    return str;
+}
+
 constexpr CStateEntry kStates[] = {
     {"mode", Mode, "The active mode and its name."},
     {"undo", [](const CStage& s) { return std::to_string(s.dialog.Images().m_stackUndo.Count()); },
@@ -89,6 +108,10 @@ constexpr CStateEntry kStates[] = {
      "Whether a selection floats over the picture."},
     {"selection", [](const CStage& s) { return Flag(s.dialog.Draw().Selection().IsMarked()); },
      "Whether something is selected to cut or copy."},
+    {"textart", TextArt,
+     "Kind and effect of the words, then their shape in pixels of the picture: place and size of the box and "
+     "its "
+     "four corners, or place and size of the mesh and both its grids."},
     {"connected", [](const CStage& s) { return Flag(s.dialog.Link().IsConnected()); },
      "Whether the phone is connected."},
     {"sizerule",

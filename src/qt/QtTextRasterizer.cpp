@@ -15,16 +15,26 @@ namespace {
 constexpr int kMostHeight = 4096;
 constexpr int kMostWidth = 1 << 17;
 
+constexpr int kBoldFrom = 600;
+
 // The largest letters whose cell, from the highest ascent to the lowest descent, is not higher than asked
-// for.
+// for. Fonts here are regular or bold, whatever hairline or poster weights a face has besides.
 QFont FitFont(const CTextFont& font) {
     QFont fit = MapFont(font.strFace, font.nHeight);
-    fit.setWeight(static_cast<QFont::Weight>(std::clamp(font.nWeight, 1, 1000)));
+    fit.setWeight(font.nWeight < kBoldFrom ? QFont::Normal : QFont::Bold);
     fit.setItalic(font.bItalic);
     fit.setUnderline(font.bUnderline);
     int nPixels = font.nHeight;
     while (nPixels > 1 && QFontMetrics(fit).height() > font.nHeight) fit.setPixelSize(--nPixels);
     return fit;
+}
+
+// What breaks or steers a line of text is a blank in it.
+QString OneLine(const std::string& strText) {
+    QString str = ToQt(strText);
+    for (QChar& ch : str)
+        if (!ch.isPrint() && !ch.isSurrogate()) ch = ' ';
+    return str;
 }
 
 }  // namespace
@@ -34,16 +44,20 @@ CTextMask CQtTextRasterizer::Rasterize(const CTextFont& font, const std::string&
     if (font.nHeight <= 0 || font.nHeight > kMostHeight) return mask;
     const QFont fit = FitFont(font);
     const QFontMetrics metrics(fit);
-    const QString str = ToQt(strText).replace(QChar('\n'), QChar(' '));
-    const int nWidth = std::min(metrics.horizontalAdvance(str), kMostWidth);
-    if (nWidth <= 0) return mask;
+    const QString str = OneLine(strText);
+    // Letters may lean out of the line at either end.
+    const QRect rcInk = metrics.boundingRect(str);
+    const int nBefore = std::max(0, -rcInk.left());
+    const int nAdvance = std::max(metrics.horizontalAdvance(str), rcInk.right() + 1);
+    const int nWidth = std::min(nBefore + nAdvance, kMostWidth);
+    if (str.isEmpty() || nWidth <= 0) return mask;
     QImage image(nWidth, font.nHeight, QImage::Format_Grayscale8);
     if (image.isNull()) return mask;
     image.fill(0);
     QPainter painter(&image);
     painter.setFont(fit);
     painter.setPen(Qt::white);
-    painter.drawText(QPoint(0, metrics.ascent()), str);
+    painter.drawText(QPoint(nBefore, metrics.ascent()), str);
     painter.end();
     mask.nWidth = nWidth;
     mask.nHeight = font.nHeight;

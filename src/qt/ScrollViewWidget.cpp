@@ -70,6 +70,11 @@ void CScrollViewWidget::SetUpBar(QScrollBar& bar, bool bShown, int nLimit, int n
     bar.setVisible(bShown);
 }
 
+void CScrollViewWidget::OnCursorChanged() {
+    constexpr Qt::CursorShape kShapes[] = {Qt::ArrowCursor, Qt::SizeAllCursor, Qt::PointingHandCursor};
+    setCursor(kShapes[static_cast<std::size_t>(m_view.Cursor())]);
+}
+
 void CScrollViewWidget::OnScrollChanged() {
     const CSize sizeClient = m_view.ClientSize();
     const CSize sizeOuter = m_view.OuterSize();

@@ -32,6 +32,7 @@ class CScrollViewWidget : public QWidget, public CControlWidget, private CViewHo
     void OnPaintWanted() override;
     void OnDrawn() override;
     void OnScrollChanged() override;
+    void OnCursorChanged() override;
     void SetUpBar(QScrollBar& bar, bool bShown, int nLimit, int nPage, int nPos);
 
     CScrollView& m_view;

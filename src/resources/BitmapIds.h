@@ -28,6 +28,9 @@ inline constexpr int kBmpFolderLit = 415;
 inline constexpr int kBmpEffectStrip = 196;
 inline constexpr int kBmpEffectSelected = 198;
 inline constexpr int kBmpEffectNormal = 229;
+// The list of text effects: one picture an effect in each form, in the order of their numbers
+inline constexpr int kBmpTextEffectNormal = 265;
+inline constexpr int kBmpTextEffectSelected = 269;
 // The slider
 inline constexpr int kBmpSliderChannel = 606;
 inline constexpr int kBmpSliderThumb = 610;

@@ -50,6 +50,10 @@ inline constexpr char kWordEditMode[] = "编辑模式";
 inline constexpr char kBlankReadout[] = "       ";
 inline constexpr char kBlankLevel[] = "     ";
 
+// What the styles of FONT are called, in the order of their numbers
+inline constexpr const char* kTextEffectNames[] = {"普通", "立体", "轮廓", "反白"};
+inline constexpr int kTextEffectCount = 4;
+
 // Codes of the help line, beside those of the tools
 inline constexpr int kHelpPaintColor = 117;
 inline constexpr int kHelpForeground = 118;

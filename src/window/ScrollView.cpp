@@ -40,6 +40,12 @@ CSize CScrollView::ClientSize() const {
             m_sizeOuter.cy - (m_bHorizontalBar ? kScrollBarPixels : 0)};
 }
 
+void CScrollView::SetCursor(ECursor cursor) {
+    if (cursor == m_cursor) return;
+    m_cursor = cursor;
+    if (m_pHost != nullptr) m_pHost->OnCursorChanged();
+}
+
 void CScrollView::Invalidate() {
     if (m_bWantsPaint) return;
     m_bWantsPaint = true;

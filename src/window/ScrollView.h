@@ -1,6 +1,7 @@
 #pragma once
 
 #include "surface/Surface.h"
+#include "window/Cursor.h"
 #include "window/Events.h"
 #include "window/Timers.h"
 
@@ -14,6 +15,7 @@ class CViewHost {
     virtual void OnDrawn() = 0;
     // Scroll sizes or position have changed.
     virtual void OnScrollChanged() = 0;
+    virtual void OnCursorChanged() = 0;
 };
 
 // A view on something larger than itself. It draws into a surface of its client area, which the host copies
@@ -49,6 +51,10 @@ class CScrollView : public CTimerTarget {
     virtual void OnMouse(const CMouseEvent& /*event*/) {}
     void OnTimer(int /*nTimer*/) override {}
 
+    // What the mouse looks like over the view.
+    void SetCursor(ECursor cursor);
+    ECursor Cursor() const { return m_cursor; }
+
     void Invalidate();
     bool WantsPaint() const { return m_bWantsPaint; }
     // Draws the client area if that is wanted.
@@ -71,6 +77,7 @@ class CScrollView : public CTimerTarget {
     CSize m_sizeOuter;
     CSize m_sizeContent;
     CPoint m_ptScroll;
+    ECursor m_cursor = ECursor::Arrow;
     bool m_bHorizontalBar = false;
     bool m_bVerticalBar = false;
     bool m_bWantsPaint = true;

@@ -288,7 +288,11 @@ class WalkTest : public Workshop {
               kRadioImageSize, kRadioPhoneSize, kLabelImageSize, kLabelPhoneSize})
             if (nId == nSpecial) return;
         const EControlKind kind = Controls().Find(nId)->kind;
-        if (kind == EControlKind::BitmapButton || kind == EControlKind::Check) TryClick(nId);
+        if (kind != EControlKind::BitmapButton && kind != EControlKind::Check) return;
+        if (!TryClick(nId) || nId != kTextApply || !m_model.bOpen) return;
+        // What the words look like is told elsewhere.
+        m_model.Begin();
+        m_model.now.work = Images().m_imgWork.Pixels();
     }
 
     void CheckModel() {

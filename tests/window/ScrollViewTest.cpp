@@ -9,6 +9,7 @@ class CTestView : public CScrollView, public CViewHost {
     CTestView() : CScrollView({659, 543}) { Attach(this); }
     void OnPaintWanted() override { ++m_nWanted; }
     void OnDrawn() override { ++m_nDrawn; }
+    void OnCursorChanged() override {}
     void OnScrollChanged() override {}
     void Touch(const CRect& rc) { Drawn(rc); }
 

@@ -1,0 +1,73 @@
+#include "strips/TextCells.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+#include "engines/warp/TextWarp.h"
+#include "resources/Grounds.h"
+#include "resources/MainDialog.h"
+
+namespace {
+
+constexpr int kTypeHeight = 72;
+constexpr char kWords[] = "I love You";
+// Around the words in the cell.
+constexpr int kSideMargin = 14;
+constexpr int kTopMargin = 2;
+const QColor kWarm(232, 143, 54);
+
+// The words as a mask: ink 0, ground 255.
+bool MakeMask(CTextWarp& warp) {
+    QFont font("WenQuanYi Zen Hei");
+    font.setPixelSize(kTypeHeight * 5 / 6);
+    const QFontMetrics metrics(font);
+    QImage image(metrics.horizontalAdvance(kWords), kTypeHeight, QImage::Format_Grayscale8);
+    image.fill(255);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(Qt::black);
+    painter.drawText(QPoint(0, metrics.ascent()), kWords);
+    painter.end();
+    std::vector<std::uint8_t> mask;
+    for (int y = 0; y < image.height(); ++y)
+        mask.insert(mask.end(), image.constScanLine(y), image.constScanLine(y) + image.width());
+    return warp.SetMask(mask, image.width(), image.height());
+}
+
+// Seen against the ground of a cell at rest and of a lit one.
+void Colour(TextArtParam& param, bool bSelected) {
+    const QColor color = bSelected ? QColor(140, 40, 130) : QColor(250, 226, 150);
+    param.byRed = static_cast<std::uint8_t>(color.red());
+    param.byGreen = static_cast<std::uint8_t>(color.green());
+    param.byBlue = static_cast<std::uint8_t>(color.blue());
+}
+
+}  // namespace
+
+QImage RenderTextCell(int nTextEffect, bool bSelected, int nDensity) {
+    const QSize size = QSize(kTextEffectCellSize.cx, kTextEffectCellSize.cy) * nDensity;
+    const CColor ground = bSelected ? CColor{252, 230, 194} : Grounds::kList;
+    TextArtParam param;
+    param.nTextEffect = nTextEffect;
+    Colour(param, bSelected);
+    param.nBoxX = kSideMargin * nDensity;
+    param.nBoxY = kTopMargin * nDensity;
+    param.nBoxWidth = size.width() - 2 * param.nBoxX;
+    param.nBoxHeight = size.height() - 2 * param.nBoxY;
+    const auto w = static_cast<float>(param.nBoxWidth);
+    const auto h = static_cast<float>(param.nBoxHeight);
+    param.fQuad = {0, 0, w, 0, w, h, 0, h};
+    CTextWarp warp;
+    warp.SetBase(CPixels::MakeFilled(size.width(), size.height(), ground));
+    if (!MakeMask(warp) || !warp.Render(param)) return {};
+    const CPixels& pixels = warp.Result();
+    QImage image = QImage(pixels.Bytes().data(), size.width(), size.height(),
+                          static_cast<qsizetype>(pixels.Stride()), QImage::Format_RGB888)
+                       .copy();
+    QPainter painter(&image);
+    if (bSelected) {
+        painter.setPen(QPen(kWarm, nDensity));
+        painter.drawRect(image.rect().adjusted(0, 0, -1, -1));
+    }
+    return image;
+}

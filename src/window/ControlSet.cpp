@@ -88,10 +88,6 @@ void CControlSet::Enable(int nId, bool bEnable) {
     if (!bEnable && m_nFocus == nId) m_nFocus = 0;
 }
 
-void CControlSet::Enable(std::span<const int> arrIds, bool bEnable) {
-    for (const int nId : arrIds) Enable(nId, bEnable);
-}
-
 void CControlSet::Check(int nId, bool bCheck) {
     Set(nId, &CControl::bChecked, bCheck, EControlChange::Checked);
 }

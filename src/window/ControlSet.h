@@ -39,7 +39,6 @@ class CControlSet {
     void Show(int nId, bool bShow);
     void Show(std::span<const int> arrIds, bool bShow);
     void Enable(int nId, bool bEnable);
-    void Enable(std::span<const int> arrIds, bool bEnable);
     void Check(int nId, bool bCheck);
     void SetText(int nId, const std::string& strText);
     void Move(int nId, const CRect& rcPlace);

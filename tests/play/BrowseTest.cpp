@@ -40,6 +40,13 @@ TEST_F(BrowseTest, StartsOnTheFolderOfThePortraits) {
               "  \"我的电脑\" open\n    \"磁盘 (C:)\" open\n      \"a\" closed\n      \"b\"\n");
 }
 
+// On the way to a folder all above it open, and the hand takes the keyboard along.
+TEST_F(BrowseTest, OpensWhatItPasses) {
+    EXPECT_EQ(Browse("tree select C:/a/in\nstate tree\nlist key delete\nstate focus\ncommand 1027\n"
+                     "select 1041 0\nstate focus"),
+              "tree \"C:/a/in/\"\nfocus 1117\nfocus 1041\n");
+}
+
 // A drive that comes or goes is seen when the drives are read the next time.
 TEST_F(BrowseTest, DrivesComeAndGo) {
     EXPECT_EQ(Browse("drive D\ndrive E c\ntree close /\ntree open /\nshow 1033"),

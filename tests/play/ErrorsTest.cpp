@@ -46,6 +46,7 @@ TEST_F(ScriptTest, NamesTheLineThatCannotBeDone) {
         {"dump work a.ppm", "test:1: there is no picture\n"},
         {"answer box maybe", "test:1: there is no such answer\n"},
         {"answer color gg8000", "test:1: there is no such answer\n"},
+        {"answer color ff80", "test:1: there is no such answer\n"},
         {"answer font 黑体 bold\ncommand 1000",
          "test:2: no answer waits for a question of the kind open, but one of the kind font\n"},
         {"answer box yes\nwindow press left 40 680",

@@ -132,6 +132,35 @@ TEST(ControlScreen, EveryChangeOfAControlShowsAtOnce) {
     }
 }
 
+// Pixel by pixel: whoever changes a look means to, and puts its new sum here.
+TEST(ControlScreen, LooksOfControlsWithoutText) {
+    CTestScrollView view{{60, 60}};
+    CShownDialog shown(kDialog, Skin(), {.pView = &view});
+    CControlSet& controls = shown.Controls();
+    view.SetScrollSizes({500, 500});
+    controls.SetItems(17, {{"1", 0}, {"2", 1}});
+    controls.SetPosition(19, 40);
+    const auto fnLooks = [&] {
+        std::vector<int> arrSums;
+        for (const int nId : {12, 13, 16, 17, 19, 20}) {
+            Settle();
+            const QImage image = shown.Widget(nId)
+                                     ->grab(nId == 13 ? QRect(0, 0, 15, 14) : QRect(0, 0, -1, -1))
+                                     .toImage()
+                                     .convertToFormat(QImage::Format_RGB32);
+            arrSums.push_back(qChecksum(QByteArrayView(image.bits(), image.sizeInBytes())));
+        }
+        return arrSums;
+    };
+    EXPECT_EQ(fnLooks(), (std::vector<int>{19815, 31421, 47141, 46221, 11410, 35149}));
+    for (const int nId : {12, 13}) controls.Check(nId, true);
+    controls.Select(17, 1);
+    controls.SetFocus(13);
+    EXPECT_EQ(fnLooks(), (std::vector<int>{13466, 45857, 47141, 46221, 11410, 35149})) << "chosen";
+    for (const int nId : {12, 13, 16, 17, 19}) controls.Enable(nId, false);
+    EXPECT_EQ(fnLooks(), (std::vector<int>{23078, 35795, 16401, 46221, 11410, 35149})) << "disabled";
+}
+
 // What the keys, lists and lines of the window are called, and where the lists have a border.
 TEST_F(Screen, SpeaksAndFramesAsTheTemplateSays) {
     for (const auto& [nId, szName] : {std::pair{kCmdOpen, "打开"},

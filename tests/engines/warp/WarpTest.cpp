@@ -150,19 +150,19 @@ TEST(TextWarp, ResamplesEveryLineAsTheNaiveForm) {
             if (bWhole) f = static_cast<float>(static_cast<int>(f));
         }
         if (random.Once(10)) map[static_cast<std::size_t>(random.Int(0, static_cast<int>(n) - 1))] = kNaN;
-        for (const auto pass : {CLineResampler::EPass::Row, CLineResampler::EPass::Column}) {
-            const std::vector<std::uint8_t> expected =
-                NaiveLine(map, line, pass == CLineResampler::EPass::Column);
-            for (const bool bPlain : {false, true}) {
-                std::optional<CPlainLoops> plain;
-                if (bPlain) plain.emplace();
-                CLineResampler resampler(n);
-                std::vector<float> mapWithEnd = map;
-                mapWithEnd.push_back(0);
-                std::vector<std::uint8_t> out(n, 7);
-                resampler.Run(mapWithEnd, line.data(), out.data(), pass);
-                ASSERT_EQ(out, expected) << "seed " << nSeed << (bPlain ? ", plain" : ", wide");
-            }
+        // The end stays where it is, so that both passes find the same.
+        const std::vector<std::uint8_t> expected = NaiveLine(map, line, false);
+        ASSERT_EQ(NaiveLine(map, line, true), expected);
+        for (const bool bPlain : {false, true}) {
+            std::optional<CPlainLoops> plain;
+            if (bPlain) plain.emplace();
+            CLineResampler resampler(n);
+            std::ranges::copy(line, resampler.Source());
+            std::vector<float> mapWithEnd = map;
+            mapWithEnd.push_back(0);
+            std::vector<std::uint8_t> out(n, 7);
+            resampler.Run(mapWithEnd, out.data());
+            ASSERT_EQ(out, expected) << "seed " << nSeed << (bPlain ? ", plain" : ", wide");
         }
     }
 }

@@ -70,8 +70,9 @@ void InvertMapPlain(const float* pMap, int* pCount, int* pPixel, float* pPlace, 
 
 // Both ends of a source pixel: two neighbours of the map at once.
 FOTARIUM_AVX2_PART __m128 TwoOf(const float* pMap, int u, int v) {
-    const __m128d low = _mm_load_sd(reinterpret_cast<const double*>(pMap + u));
-    return _mm_castpd_ps(_mm_loadh_pd(low, reinterpret_cast<const double*>(pMap + v)));
+    const __m128i low = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(pMap + u));
+    const __m128i high = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(pMap + v));
+    return _mm_castsi128_ps(_mm_unpacklo_epi64(low, high));
 }
 
 FOTARIUM_AVX2 void InvertMapWide(const float* pMap, int* pCount, int* pPixel, float* pPlace, int n) {

@@ -2,11 +2,7 @@
 
 #include <cstring>
 
-#include "image/CpuChoice.h"
-
-#if FOTARIUM_HAS_AVX2
-#include <immintrin.h>
-#endif
+#include "engines/warp/FourBytes.h"
 
 namespace {
 
@@ -78,7 +74,7 @@ FOTARIUM_AVX2_PART __m128i FourMeans(const std::uint8_t* pIn, __m128 from, __m12
                                      __m128i last) {
     const __m128i low = _mm_set1_epi32(255);
     const __m128i steps = _mm_sub_epi32(last, first);
-    const __m128i bytes = _mm_i32gather_epi32(reinterpret_cast<const int*>(pIn), first, 1);
+    const __m128i bytes = FourBytesAt(pIn, first);
     const __m256d b0 = _mm256_cvtepi32_pd(_mm_and_si128(bytes, low));
     const __m256d b1 = _mm256_cvtepi32_pd(_mm_and_si128(_mm_srli_epi32(bytes, 8), low));
     const __m256d bLast =

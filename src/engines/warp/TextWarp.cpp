@@ -93,7 +93,7 @@ bool CTextWarp::RenderProjection(const TextArtParam& param, CConstGreyView mask,
     const CRect rc = VisibleOf(param.nBoxX, param.nBoxY, param.nBoxWidth, param.nBoxHeight, out);
     if (rc.IsEmpty()) return true;
     // Row by row, so that no plane of the box's size is needed.
-    CProjection projection(mask, param.fQuad, rc.left, rc.Width());
+    const CProjection projection(mask, param.fQuad, rc.left, rc.Width());
     std::vector<std::uint8_t> row(static_cast<std::size_t>(rc.Width()));
     if (!out.Separate()) return false;
     const CPixelView view = out.MutableView();

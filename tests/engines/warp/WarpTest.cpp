@@ -273,7 +273,7 @@ TEST(TextWarp, RendersAnewFromTheBaseAndSharesWhatItDoesNotChange) {
     CTextWarp warp;
     EXPECT_FALSE(warp.Render(param));
     warp.SetBase(base);
-    EXPECT_EQ(CSize(warp.GetWidth(), warp.GetHeight()), CSize(60, 40));
+    EXPECT_EQ((CSize{warp.GetWidth(), warp.GetHeight()}), (CSize{60, 40}));
     EXPECT_FALSE(warp.Render(param)) << "no mask";
     EXPECT_TRUE(warp.Result().SharesWith(base));
     ASSERT_TRUE(warp.SetMask(mask.bytes, 6, 6));

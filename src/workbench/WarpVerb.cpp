@@ -119,7 +119,10 @@ std::string ReadParam(const std::string& strPath, TextArtParam& param) {
     for (std::string strLine; std::getline(in, strLine);) {
         const std::string strError = TakeLine(strLine, param);
         ++nLine;
-        if (!strError.empty()) return strPath + " line " + std::to_string(nLine) + ": " + strError;
+        if (strError.empty()) continue;
+        std::ostringstream text;
+        text << strPath << " line " << nLine << ": " << strError;
+        return text.str();
     }
     return in.bad() ? strPath + " cannot be read" : std::string();
 }

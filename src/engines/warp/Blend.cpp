@@ -30,7 +30,7 @@ void BlendBytes(const CInk& ink, std::uint8_t* __restrict pBytes, std::size_t n)
 }
 
 void BlendPlain(const std::uint8_t* pMask, CColor cr, std::uint8_t* pPixels, std::size_t n) {
-    CInk ink;
+    CInk ink{};
     for (std::size_t i = 0; i < 3 * kChunk; i += 3) {
         ink.colour[i] = cr.r;
         ink.colour[i + 1] = cr.g;
@@ -38,6 +38,8 @@ void BlendPlain(const std::uint8_t* pMask, CColor cr, std::uint8_t* pPixels, std
     }
     for (std::size_t x = 0; x < n; x += kChunk) {
         const std::size_t nPixels = std::min(kChunk, n - x);
+        // Most of a box has no ink.
+        if (std::all_of(pMask + x, pMask + x + nPixels, [](std::uint8_t m) { return m == kNoInk; })) continue;
         for (std::size_t i = 0; i < nPixels; ++i)
             ink.mask[3 * i] = ink.mask[3 * i + 1] = ink.mask[3 * i + 2] = pMask[x + i];
         BlendBytes(ink, pPixels + 3 * x, 3 * nPixels);
@@ -95,10 +97,5 @@ constexpr auto BlendWide = BlendPlain;
 }  // namespace
 
 void BlendRow(const std::uint8_t* pMask, CColor cr, std::uint8_t* pPixels, std::size_t n) {
-    // Most of a box has no ink; what lies before the first letter and behind the last is passed over.
-    const auto hasInk = [](std::uint8_t nMask) { return nMask != kNoInk; };
-    const auto nFirst = static_cast<std::size_t>(std::find_if(pMask, pMask + n, hasInk) - pMask);
-    if (nFirst == n) return;
-    while (!hasInk(pMask[n - 1])) --n;
-    (UseAvx2() ? BlendWide : BlendPlain)(pMask + nFirst, cr, pPixels + 3 * nFirst, n - nFirst);
+    (UseAvx2() ? BlendWide : BlendPlain)(pMask, cr, pPixels, n);
 }

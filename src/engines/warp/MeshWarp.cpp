@@ -148,28 +148,24 @@ class CMeshWarp {
     CLineResampler m_resampler;
 };
 
+}  // namespace
+
 bool HasSplines(const TextArtParam& param) {
     constexpr auto kFewest = static_cast<int>(kFewestKnots);
     return param.nMeshCols >= kFewest && param.nMeshRows >= kFewest &&
            param.nMeshCols <= kMeshPoints / param.nMeshRows;
 }
 
-}  // namespace
-
 void MeshWarp(const TextArtParam& param, CGreyView plane) {
-    std::size_t nDone = 0;
-    if (HasSplines(param)) {
-        CMeshWarp warp(param, plane);
-        if (warp.WarpRows()) nDone = warp.WarpColumns();
-    }
+    CMeshWarp warp(param, plane);
+    const std::size_t nDone = warp.WarpRows() ? warp.WarpColumns() : 0;
     const std::size_t nLeft = static_cast<std::size_t>(plane.nWidth) - nDone;
     if (nLeft == 0) return;
     for (int y = 0; y < plane.nHeight; ++y) std::memset(plane.Row(y) + nDone, kNoInk, nLeft);
 }
 
-std::size_t MeshWarpMemory(const TextArtParam& param, int nWidth, int nHeight) {
-    if (!HasSplines(param)) return 0;
-    const auto nLongest = static_cast<std::size_t>(std::max(nWidth, nHeight));
+std::size_t MeshWarpMemory(int nWidth, int nHeight) {
     constexpr std::size_t kTables = 2 * kMeshPoints / kFewestKnots * sizeof(float);
-    return nLongest * (kTables + 2 * sizeof(float) + 2 * sizeof(int) + kBlockColumns + 1);
+    constexpr std::size_t kLines = 2 * sizeof(float) + 2 * sizeof(int) + kBlockColumns + 1;
+    return static_cast<std::size_t>(std::max(nWidth, nHeight)) * (kTables + kLines);
 }

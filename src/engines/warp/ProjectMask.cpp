@@ -57,14 +57,21 @@ std::uint8_t Sample(CConstGreyView mask, float s, float t) {
     return static_cast<std::uint8_t>(static_cast<int>((1.0 - fy) * fTop + fy * fBottom));
 }
 
+// Columns whose places are worked out at a time.
 constexpr std::size_t kChunk = 128;
+
+struct CPlaces {
+    std::array<float, kChunk> s;
+    std::array<float, kChunk> t;
+};
 
 // The places in the mask of n columns from nFirst on. A z of 0 makes them infinite or no numbers; both lie
 // outside the mask.
-void PlacesPlain(const CRow& in, std::size_t nFirst, std::size_t n, float* __restrict pS,
-                 float* __restrict pT) {
+FOTARIUM_INLINE void PlacesBody(const CRow& in, std::size_t nFirst, std::size_t n, CPlaces& places) {
     const CRow row = in;
     const double* const __restrict pAcross = row.pAcross + nFirst;
+    float* const __restrict pS = places.s.data();
+    float* const __restrict pT = places.t.data();
     const double fWidth = row.mask.nWidth;
     const double fHeight = row.mask.nHeight;
     for (std::size_t x = 0; x < n; ++x) {
@@ -74,29 +81,29 @@ void PlacesPlain(const CRow& in, std::size_t nFirst, std::size_t n, float* __res
     }
 }
 
-// From column nFirst on.
-void ProjectPlain(const CRow& row, std::uint8_t* pOut, std::size_t nFirst) {
-    const double fRight = row.mask.nWidth - 1;
-    const double fBottom = row.mask.nHeight - 1;
-    std::array<float, kChunk> s, t;
-    for (std::size_t x = nFirst; x < row.nCount; x += kChunk) {
+// One place after the other, n of them.
+void SamplePlaces(CConstGreyView mask, const float* pS, const float* pT, std::uint8_t* pOut, std::size_t n) {
+    const double fRight = mask.nWidth - 1;
+    const double fBottom = mask.nHeight - 1;
+    for (std::size_t i = 0; i < n; ++i) {
+        // Rounded, a place has to lie inside the outermost pixels.
+        const double s = pS[i] + 0.5;
+        const double t = pT[i] + 0.5;
+        const bool bInside = s >= 1.0 && s < fRight && t >= 1.0 && t < fBottom;
+        pOut[i] = bInside ? Sample(mask, pS[i], pT[i]) : kNoInk;
+    }
+}
+
+void ProjectPlain(const CRow& row, std::uint8_t* pOut) {
+    CPlaces places{};
+    for (std::size_t x = 0; x < row.nCount; x += kChunk) {
         const std::size_t n = std::min(kChunk, row.nCount - x);
-        PlacesPlain(row, x, n, s.data(), t.data());
-        for (std::size_t i = 0; i < n; ++i) {
-            // Rounded, a place has to lie inside the outermost pixels.
-            const bool bInside =
-                s[i] + 0.5 >= 1.0 && s[i] + 0.5 < fRight && t[i] + 0.5 >= 1.0 && t[i] + 0.5 < fBottom;
-            pOut[x + i] = bInside ? Sample(row.mask, s[i], t[i]) : kNoInk;
-        }
+        PlacesBody(row, x, n, places);
+        SamplePlaces(row.mask, places.s.data(), places.t.data(), pOut + x, n);
     }
 }
 
 #if FOTARIUM_HAS_AVX2
-
-FOTARIUM_AVX2_PART __m256d FourAt(const CRowShares& shares, __m256d across) {
-    const __m256d column = _mm256_mul_pd(_mm256_set1_pd(shares.fColumn), across);
-    return _mm256_add_pd(_mm256_add_pd(column, _mm256_set1_pd(shares.fRow)), _mm256_set1_pd(shares.fFixed));
-}
 
 // The sides up to which half a pixel from a whole one is a float.
 constexpr int kWidestWide = 1 << 22;
@@ -135,27 +142,28 @@ FOTARIUM_AVX2_PART __m128i FourSamples(CConstGreyView mask, __m128 s, __m128 t) 
     return _mm256_cvttpd_epi32(_mm256_add_pd(_mm256_mul_pd(rest, top), _mm256_mul_pd(fy, bottom)));
 }
 
-FOTARIUM_AVX2 void ProjectWide(const CRow& in, std::uint8_t* pOut, std::size_t nFirst) {
-    const CRow row = in;
-    const __m256d width = _mm256_set1_pd(row.mask.nWidth);
-    const __m256d height = _mm256_set1_pd(row.mask.nHeight);
-    std::size_t x = nFirst;
-    for (; x + 4 <= row.nCount; x += 4) {
-        const __m256d across = _mm256_loadu_pd(row.pAcross + x);
-        const __m256d z = _mm256_cvtps_pd(_mm256_cvtpd_ps(FourAt(row.z, across)));
-        const __m128 s = _mm256_cvtpd_ps(_mm256_div_pd(_mm256_mul_pd(width, FourAt(row.s, across)), z));
-        const __m128 t = _mm256_cvtpd_ps(_mm256_div_pd(_mm256_mul_pd(height, FourAt(row.t, across)), z));
-        const __m128 inside = _mm_and_ps(FourInside(s, row.mask.nWidth), FourInside(t, row.mask.nHeight));
-        int nFour = -1;
-        if (_mm_movemask_ps(inside) != 0) {
-            // Places outside become the mask's first, where a sample may be taken.
-            const __m128i samples = FourSamples(row.mask, _mm_and_ps(s, inside), _mm_and_ps(t, inside));
-            const __m128i shown = _mm_blendv_epi8(_mm_set1_epi32(kNoInk), samples, _mm_castps_si128(inside));
-            nFour = _mm_cvtsi128_si32(_mm_shuffle_epi8(shown, _mm_set1_epi32(0x0C080400)));
+FOTARIUM_AVX2 void ProjectWide(const CRow& row, std::uint8_t* pOut) {
+    CPlaces places{};
+    for (std::size_t x = 0; x < row.nCount; x += kChunk) {
+        const std::size_t n = std::min(kChunk, row.nCount - x);
+        PlacesBody(row, x, n, places);
+        std::size_t i = 0;
+        for (; i + 4 <= n; i += 4) {
+            const __m128 s = _mm_loadu_ps(places.s.data() + i);
+            const __m128 t = _mm_loadu_ps(places.t.data() + i);
+            const __m128 inside = _mm_and_ps(FourInside(s, row.mask.nWidth), FourInside(t, row.mask.nHeight));
+            int nFour = -1;
+            if (_mm_movemask_ps(inside) != 0) {
+                // Places outside become the mask's first, where a sample may be taken.
+                const __m128i samples = FourSamples(row.mask, _mm_and_ps(s, inside), _mm_and_ps(t, inside));
+                const __m128i shown =
+                    _mm_blendv_epi8(_mm_set1_epi32(kNoInk), samples, _mm_castps_si128(inside));
+                nFour = _mm_cvtsi128_si32(_mm_shuffle_epi8(shown, _mm_set1_epi32(0x0C080400)));
+            }
+            std::memcpy(pOut + x + i, &nFour, sizeof nFour);
         }
-        std::memcpy(pOut + x, &nFour, sizeof nFour);
+        SamplePlaces(row.mask, places.s.data() + i, places.t.data() + i, pOut + x + i, n - i);
     }
-    ProjectPlain(row, pOut, x);
 }
 
 #else
@@ -218,5 +226,5 @@ void CProjection::Row(int y, std::uint8_t* pOut) const {
     const double fDown = static_cast<double>(y) / m_mask.nHeight;
     const CRow row{m_mask, m_arrColumn.data(), InRow(m_s, fDown), InRow(m_t, fDown), InRow(m_z, fDown), n};
     const bool bWide = UseAvx2() && std::max(m_mask.nWidth, m_mask.nHeight) <= kWidestWide;
-    (bWide ? ProjectWide : ProjectPlain)(row, pOut, 0);
+    (bWide ? ProjectWide : ProjectPlain)(row, pOut);
 }

@@ -10,7 +10,8 @@
 // the inverse table are single-precision numbers, all other arithmetic is in double precision.
 class CLineResampler {
   public:
-    // For lines of up to nLongest pixels, at least 1. May throw std::bad_alloc.
+    // For lines of up to nLongest pixels: at least 1, at most 2^24, as places are floats. May throw
+    // std::bad_alloc.
     explicit CLineResampler(std::size_t nLongest);
 
     // Where the source line is to be written before each run, as it has no ink behind its end.

@@ -80,8 +80,9 @@ std::vector<CFloats> NaiveGridLines(const MeshValues& along, const MeshValues& a
     for (int i = 0; i < nLines; ++i) {
         CFloats X, Y;
         for (int k = 0; k < nPoints; ++k) {
-            X.push_back(along[static_cast<std::size_t>(i * nStep + k * nStride)]);
-            Y.push_back(across[static_cast<std::size_t>(i * nStep + k * nStride)]);
+            const auto nPoint = static_cast<unsigned>(i * nStep + k * nStride);
+            X.push_back(along[nPoint]);
+            Y.push_back(across[nPoint]);
         }
         lines.push_back(NaiveSpline(X, Y, nCount));
         if (lines.back().empty()) return {};
@@ -248,8 +249,9 @@ CNaiveMask NaiveMesh(const CNaiveMask& T, const TextArtParam& param) {
     for (int y = 0; y < T.h; ++y) {
         const CFloats map = NaiveSpline(Across(TS, y), Across(TD, y), T.w);
         if (map.empty()) return out;
-        std::vector<std::uint8_t> line;
-        for (int x = 0; x < T.w; ++x) line.push_back(static_cast<std::uint8_t>(T.At(x, y)));
+        std::vector<std::uint8_t> line(static_cast<std::size_t>(T.w));
+        for (int x = 0; x < T.w; ++x)
+            line[static_cast<std::size_t>(x)] = static_cast<std::uint8_t>(T.At(x, y));
         line = NaiveLine(map, line, false);
         for (int x = 0; x < T.w; ++x) I.Set(x, y, line[static_cast<std::size_t>(x)]);
     }
@@ -259,8 +261,9 @@ CNaiveMask NaiveMesh(const CNaiveMask& T, const TextArtParam& param) {
     for (int x = 0; x < T.w; ++x) {
         const CFloats map = NaiveSpline(Across(S2, x), Across(D2, x), T.h);
         if (map.empty()) return out;
-        std::vector<std::uint8_t> line;
-        for (int y = 0; y < T.h; ++y) line.push_back(static_cast<std::uint8_t>(I.At(x, y)));
+        std::vector<std::uint8_t> line(static_cast<std::size_t>(T.h));
+        for (int y = 0; y < T.h; ++y)
+            line[static_cast<std::size_t>(y)] = static_cast<std::uint8_t>(I.At(x, y));
         line = NaiveLine(map, line, true);
         for (int y = 0; y < T.h; ++y) out.Set(x, y, line[static_cast<std::size_t>(y)]);
     }

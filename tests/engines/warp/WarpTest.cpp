@@ -142,10 +142,11 @@ TEST(TextWarp, ResamplesEveryLineAsTheNaiveForm) {
         std::vector<float> map(n);
         const float fStep = random.Float(0.0F, 2.5F), fShake = random.Once(2) ? 0.0F : random.Float(0, 3);
         const bool bWhole = random.Once(4);
+        const float fSize = random.Once(8) ? 1e5F : 1.0F;
         float f = random.Once(2) ? 0.0F : random.Float(-3, 3);
         for (std::size_t i = 0; i < n; ++i) {
             line[i] = static_cast<std::uint8_t>(random.Int(0, 255));
-            map[i] = f;
+            map[i] = f * fSize;
             f += fStep + random.Float(-fShake, fShake);
             if (bWhole) f = static_cast<float>(static_cast<int>(f));
         }

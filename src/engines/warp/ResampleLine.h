@@ -14,7 +14,7 @@ class CLineResampler {
     // std::bad_alloc.
     explicit CLineResampler(std::size_t nLongest);
 
-    // Where the source line is to be written before each run, as it has no ink behind its end.
+    // Where the source line is to be written before each run, which puts a pixel without ink behind it.
     std::uint8_t* Source() { return m_arrSource.data(); }
 
     // map[i] is where source pixel i goes, ascending; it has one entry more than the line, which this sets:

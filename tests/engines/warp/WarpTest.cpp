@@ -141,11 +141,12 @@ TEST(TextWarp, ResamplesEveryLineAsTheNaiveForm) {
         std::vector<std::uint8_t> line(n);
         std::vector<float> map(n);
         const float fStep = random.Float(0.0F, 2.5F), fShake = random.Once(2) ? 0.0F : random.Float(0, 3);
-        const bool bWhole = random.Once(4);
+        const bool bWhole = random.Once(4), bEven = random.Once(3);
         const float fSize = random.Once(8) ? 1e5F : 1.0F;
         float f = random.Once(2) ? 0.0F : random.Float(-3, 3);
         for (std::size_t i = 0; i < n; ++i) {
-            line[i] = static_cast<std::uint8_t>(random.Int(0, 255));
+            // Of all lines an even one shows best how the means were rounded.
+            line[i] = bEven ? 255 : static_cast<std::uint8_t>(random.Int(0, 255));
             map[i] = f * fSize;
             f += fStep + random.Float(-fShake, fShake);
             if (bWhole) f = static_cast<float>(static_cast<int>(f));
@@ -166,6 +167,36 @@ TEST(TextWarp, ResamplesEveryLineAsTheNaiveForm) {
             ASSERT_EQ(out, expected) << "seed " << nSeed << (bPlain ? ", plain" : ", wide");
         }
     }
+}
+
+// The first fold makes a target pixel as wide as that many source pixels; the limit for 8 of them is 4,224.
+TEST(TextWarp, GivesUpOnALineThatComesToNoEnd) {
+    for (const bool bBeyond : {false, true}) {
+        const float fWidth = bBeyond ? 4225.5F : 4224.5F;
+        std::vector<float> map = {1 + fWidth / 4, 0.75F + fWidth / 4, 2, 3, 4, 5, 6, 7, 8};
+        CLineResampler resampler(8);
+        std::fill_n(resampler.Source(), 8, std::uint8_t{0});
+        std::vector<std::uint8_t> out(8);
+        resampler.Run(map, out.data());
+        EXPECT_EQ(out[0], bBeyond ? 255 : 254);
+        EXPECT_EQ(out[7], 255);
+    }
+}
+
+// A spline swings below the last line of the plane behind the third of four points.
+TEST(TextWarp, StopsAtTheFirstColumnThatTheMeshDoesNotReachOver) {
+    TextArtParam param;
+    param.nWarpKind = kWarpMesh;
+    param.nMeshWidth = param.nMeshHeight = 90;
+    param.fMeshSrcX = param.fMeshDstX = RegularMeshX(90);
+    param.fMeshSrcY = param.fMeshDstY = RegularMeshY(90);
+    for (unsigned i = 12; i < 16; ++i) param.fMeshSrcY[i] = i % 2 == 0 ? 89 : 130;
+    const CPixels base = CPixels::MakeFilled(90, 90, {255, 255, 255});
+    const CNaiveMask mask{90, 90, std::vector<std::uint8_t>(8100)};
+    Compare(base, mask, param);
+    const CPixels out = Rendered(base, mask, param);
+    EXPECT_EQ(PixelAt(out, 60, 20), (CColor{217, 40, 200}));
+    EXPECT_EQ(PixelAt(out, 62, 20), (CColor{255, 255, 255}));
 }
 
 // ---- values worked out by hand

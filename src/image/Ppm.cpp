@@ -48,26 +48,59 @@ class CPpmHead {
     std::string_view m_strRest;
 };
 
+struct CPpmFile {
+    int nWidth = 0;
+    int nHeight = 0;
+    std::string_view strBody;  // all pixels and perhaps more, in the file's bytes
+    std::string strError;
+};
+
+// Takes the head of a file whose format has that mark and so many bytes a pixel.
+CPpmFile ReadHead(const CSharedBytes& bytes, std::string_view strMark, const char* szFormat,
+                  std::uint64_t nChannels) {
+    CPpmFile file;
+    const auto Fail = [&](const std::string& strError) {
+        file.strError = strError;
+        return file;
+    };
+    if (bytes.IsEmpty()) return Fail("cannot be read");
+    CPpmHead head({reinterpret_cast<const char*>(bytes.Data()), bytes.Size()});
+    if (head.Word() != strMark) return Fail(std::string("is no binary ") + szFormat);
+    const std::optional<int> nWidth = head.Number();
+    const std::optional<int> nHeight = head.Number();
+    const std::optional<int> nHighest = head.Number();
+    if (!nWidth || !nHeight || *nWidth <= 0 || *nHeight <= 0) return Fail("has no width and height");
+    if (nHighest != 255) return Fail("has another highest value than 255");
+    const std::uint64_t nPixels = static_cast<std::uint64_t>(*nWidth) * static_cast<std::uint64_t>(*nHeight);
+    if (!CSharedBytes::Fits(nChannels * nPixels)) return Fail("is too large");
+    file.strBody = head.Body();
+    if (file.strBody.size() < nChannels * nPixels) return Fail("ends before its last pixel");
+    file.nWidth = *nWidth;
+    file.nHeight = *nHeight;
+    return file;
+}
+
 }  // namespace
 
 CPpmPicture ReadPpm(const std::string& strPath) {
     const CSharedBytes bytes = ReadFileBytes(strPath);
-    if (bytes.IsEmpty()) return {{}, "cannot be read"};
-    CPpmHead head({reinterpret_cast<const char*>(bytes.Data()), bytes.Size()});
-    if (head.Word() != "P6") return {{}, "is no binary PPM"};
-    const std::optional<int> nWidth = head.Number();
-    const std::optional<int> nHeight = head.Number();
-    const std::optional<int> nHighest = head.Number();
-    if (!nWidth || !nHeight || *nWidth <= 0 || *nHeight <= 0) return {{}, "has no width and height"};
-    if (nHighest != 255) return {{}, "has another highest value than 255"};
-    if (!CPixels::Fits(*nWidth, *nHeight)) return {{}, "is too large"};
-    const std::string_view strBody = head.Body();
-    const std::size_t nSize =
-        std::size_t{3} * static_cast<std::size_t>(*nWidth) * static_cast<std::size_t>(*nHeight);
-    if (strBody.size() < nSize) return {{}, "ends before its last pixel"};
+    const CPpmFile file = ReadHead(bytes, "P6", "PPM", 3);
+    if (!file.strError.empty()) return {{}, file.strError};
     CPpmPicture picture;
-    if (!picture.pixels.CreateRaw(*nWidth, *nHeight)) return {{}, "is too large"};
-    std::copy_n(strBody.begin(), nSize, picture.pixels.MutableBytes().begin());
+    if (!picture.pixels.CreateRaw(file.nWidth, file.nHeight)) return {{}, "is too large"};
+    const std::span<std::uint8_t> pixels = picture.pixels.MutableBytes();
+    std::copy_n(file.strBody.begin(), pixels.size(), pixels.begin());
+    return picture;
+}
+
+CPgmPicture ReadPgm(const std::string& strPath) {
+    const CSharedBytes bytes = ReadFileBytes(strPath);
+    const CPpmFile file = ReadHead(bytes, "P5", "PGM", 1);
+    if (!file.strError.empty()) return {{}, 0, 0, file.strError};
+    CPgmPicture picture{{}, file.nWidth, file.nHeight, {}};
+    const std::size_t nSize = static_cast<std::size_t>(file.nWidth) * static_cast<std::size_t>(file.nHeight);
+    if (!picture.bytes.Allocate(nSize)) return {{}, 0, 0, "is too large"};
+    std::copy_n(file.strBody.begin(), nSize, picture.bytes.MutableData());
     return picture;
 }
 

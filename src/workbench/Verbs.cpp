@@ -26,6 +26,20 @@ constexpr CWorkVerb kVerbs[] = {
      "      STRETCH sw sh ROWS dx dy dw dh sx sy sW sH   a picture of sw by sh, rows parted by /, of which\n"
      "                                 the block sx sy sW sH is stretched onto the block dx dy dw dh\n",
      RunFiguresVerb},
+    {"warp", "PARAMS BASE.ppm MASK.pgm OUT.ppm",
+     "    Warps a text over a picture. The mask is a binary PGM, 0 full ink and 255 none. PARAMS is a text\n"
+     "    file with one setting a line; # begins a comment. What is not set: kind 0, effect 0, colour\n"
+     "    217 40 200, both boxes 176 by 144 at 0 0 and the corners on the box, grid 4 4, regular 176 144.\n"
+     "      kind K        0 projection, 1 mesh\n"
+     "      effect E      0 plain, 1 shaded, 2 outlined, 3 reversed\n"
+     "      colour R G B  from 0 to 255\n"
+     "      quad x0 y0 x1 y1 x2 y2 x3 y3   top left, top right, bottom right, bottom left, in the box\n"
+     "      box X Y WIDTH HEIGHT           where the projection's box is in the picture\n"
+     "      mesh X Y WIDTH HEIGHT          where the mesh's box is\n"
+     "      grid COLS ROWS                 the points of the mesh: 3 or more each way, 20 at most\n"
+     "      regular WIDTH HEIGHT           4 by 4 points, regular over that size before and after the warp\n"
+     "      srcx, srcy, dstx, dsty N ...   up to 20 numbers: the points before and after, row by row\n",
+     RunWarpVerb},
 };
 
 }  // namespace

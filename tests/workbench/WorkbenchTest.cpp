@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "engines/effects/ImageEffect.h"
+#include "engines/warp/TextWarp.h"
 #include "image/Ppm.h"
 #include "support/Pictures.h"
 #include "support/TempFolder.h"
@@ -123,6 +124,7 @@ TEST_F(Workbench, HelpNamesEveryVerbAndEffect) {
     for (const CEffectRow& row : kEffects) EXPECT_NE(m_strOut.find(row.szLabel), std::string::npos);
     EXPECT_NE(m_strOut.find("effect ID LEVEL IN.ppm OUT.ppm [--full-width N] [--seed N]"), std::string::npos);
     EXPECT_NE(m_strOut.find("figures CASES OUT"), std::string::npos);
+    EXPECT_NE(m_strOut.find("warp PARAMS BASE.ppm MASK.pgm OUT.ppm"), std::string::npos);
 }
 
 TEST_F(Workbench, DrawsFiguresFromText) {
@@ -149,6 +151,93 @@ TEST_F(Workbench, DrawsFiguresFromText) {
     EXPECT_EQ(Run({"figures", "@cases"}), kWrongCall);
     EXPECT_EQ(m_strError, "workbench: it is figures CASES OUT\n");
     EXPECT_EQ(m_folder.Names(), (std::set<std::string>{"again", "cases", "out"}));
+}
+
+TEST_F(Workbench, WarpsAMaskByWhatAFileSets) {
+    ASSERT_TRUE(WritePpm(m_folder.Path("in.ppm"), m_src));
+    std::string strMask;
+    for (int i = 0; i < 12 * 10; ++i) strMask += static_cast<char>(i * 2);
+    m_folder.Write("mask.pgm", "P5\n12 10\n255\n" + strMask);
+    CTextWarp warp;
+    warp.SetBase(m_src);
+    const std::vector<std::uint8_t> mask(strMask.begin(), strMask.end());
+    ASSERT_TRUE(warp.SetMask(mask, 12, 10));
+    const auto ExpectAs = [&](const std::string& strSettings, const TextArtParam& param) {
+        m_folder.Write("params", strSettings);
+        ASSERT_EQ(Run({"warp", "@params", "@in.ppm", "@mask.pgm", "@out.ppm"}), kDone) << m_strError;
+        ASSERT_TRUE(warp.Render(param));
+        EXPECT_NE(warp.Result(), m_src);
+        EXPECT_EQ(Written("out.ppm"), warp.Result());
+    };
+    TextArtParam param;
+    ExpectAs("", param);
+    param.byRed = 1;
+    param.byGreen = 22;
+    param.byBlue = 255;
+    param.nTextEffect = kTextReversed;
+    param.fQuad = {1.5, 0, 30, -2, 28, 19, 0.25, 20};
+    param.nBoxX = -2;
+    param.nBoxY = 3;
+    param.nBoxWidth = 31;
+    param.nBoxHeight = 21;
+    ExpectAs(
+        "# words\r\n\ncolour 1 22 255 # ink\n  effect 3\r\nquad 1.5 0 30 -2 28 19 .25 2e1\nbox -2 3 31 21",
+        param);
+    param.nWarpKind = kWarpMesh;
+    param.nMeshX = 4;
+    param.nMeshY = -1;
+    param.nMeshWidth = 20;
+    param.nMeshHeight = 25;
+    param.fMeshSrcX = param.fMeshDstX = RegularMeshX(20);
+    param.fMeshSrcY = param.fMeshDstY = RegularMeshY(25);
+    const std::string strMesh =
+        "colour 1 22 255\neffect 3\nkind 1\nmesh 4 -1 20 25\ngrid 5 4\nregular 20 25\n";
+    ExpectAs(strMesh, param);
+    // The first points; the rest stays as it is.
+    const MeshValues x = {0, 9, 12, 20, 0, 8}, y = {0, 0, 0, 0, 7, 9};
+    std::copy_n(x.begin(), 6, param.fMeshDstX.begin());
+    std::copy_n(y.begin(), 6, param.fMeshDstY.begin());
+    ExpectAs(strMesh + "dstx 0 9 12 20 0 8\ndsty 0 0 0 0 7 9", param);
+    param.nMeshCols = 3;
+    param.nMeshRows = 3;
+    param.fMeshSrcX = param.fMeshDstX = {0, 10, 20, 0, 10, 20, 0, 10, 20};
+    param.fMeshSrcY = param.fMeshDstY = {0, 0, 0, 12, 12, 12, 25, 25, 25};
+    const std::string strX = "0 10 20 0 10 20 0 10 20\n", strY = "0 0 0 12 12 12 25 25 25\n";
+    ExpectAs(strMesh + "grid 3 3\nsrcx " + strX + "dstx " + strX + "srcy " + strY + "dsty " + strY, param);
+}
+
+TEST_F(Workbench, TellsWhatIsWrongWithAWarp) {
+    ASSERT_TRUE(WritePpm(m_folder.Path("in.ppm"), m_src));
+    m_folder.Write("mask.pgm", "P5\n1 1\n255\nx");
+    const CWorkWords arrCall = {"warp", "@params", "@in.ppm", "@mask.pgm", "@out.ppm"};
+    const std::pair<std::string, std::string> arrLines[] = {
+        {"kind 2", "wrong numbers for kind"},
+        {"kind", "wrong numbers for kind"},
+        {"effect 1.5", "wrong numbers for effect"},
+        {"colour 1 2 256", "wrong numbers for colour"},
+        {"quad 1 2 3 4 5 6 7", "wrong numbers for quad"},
+        {"quad 1 2 3 4 5 6 7 8 9", "wrong numbers for quad"},
+        {"box 1 2 3 x", "wrong numbers for box"},
+        {"grid 2 4", "wrong numbers for grid"},
+        {"grid 5 5", "wrong numbers for grid"},
+        {"srcx 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21", "wrong numbers for srcx"},
+        {"dsty 1 2,5", "wrong numbers for dsty"},
+        {"size 1 2", "size is no setting"},
+    };
+    for (const auto& [strLine, strError] : arrLines) {
+        m_folder.Write("params", "kind 0\n#\n" + strLine + "\n");
+        EXPECT_EQ(Run(arrCall), kCannotBeDone);
+        EXPECT_EQ(m_strError, "workbench: " + m_folder.Path("params") + " line 3: " + strError + "\n");
+    }
+    m_folder.Write("params", "");
+    EXPECT_EQ(Run({"warp", "@params", "@in.ppm", "@in.ppm", "@out.ppm"}), kCannotBeDone);
+    EXPECT_EQ(m_strError, "workbench: " + m_folder.Path("in.ppm") + " is no binary PGM\n");
+    EXPECT_EQ(Run({"warp", "@params", "@in.ppm", "@mask.pgm", "@no/out.ppm"}), kCannotBeDone);
+    EXPECT_EQ(Run({"warp", "@no", "@in.ppm", "@mask.pgm", "@out.ppm"}), kCannotBeDone);
+    EXPECT_EQ(m_strError, "workbench: " + m_folder.Path("no") + " cannot be read\n");
+    EXPECT_EQ(Run({"warp", "@params", "@in.ppm", "@mask.pgm"}), kWrongCall);
+    EXPECT_EQ(m_strError, "workbench: it is warp PARAMS BASE.ppm MASK.pgm OUT.ppm\n");
+    EXPECT_EQ(m_folder.Names(), (std::set<std::string>{"in.ppm", "mask.pgm", "params"}));
 }
 
 // The program itself hands its words on and gives the status back.

@@ -110,10 +110,10 @@ void Warp(benchmark::State& state, int nKind, bool bPlain, double fAtMost) {
     state.counters["passes"] = LeastTime(state, [&] { return warp->Render(param); }) / fPass;
     state.counters["at_most"] = fAtMost;
 }
-BENCHMARK_CAPTURE(Warp, Projection/Wide, kWarpProjection, false, 40)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Warp, Projection/Plain, kWarpProjection, true, 100)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Warp, Mesh/Wide, kWarpMesh, false, 120)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Warp, Mesh/Plain, kWarpMesh, true, 200)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Warp, ProjectionWide, kWarpProjection, false, 40)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Warp, ProjectionPlain, kWarpProjection, true, 100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Warp, MeshWide, kWarpMesh, false, 120)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Warp, MeshPlain, kWarpMesh, true, 200)->Unit(benchmark::kMillisecond);
 
 using TextEffect = void (*)(CConstGreyView, CGreyView);
 
@@ -129,8 +129,8 @@ void Effect(benchmark::State& state, TextEffect effect, bool bPlain) {
     state.counters["ms"] = 1000 * fTime;
     state.counters["at_most"] = 3;
 }
-BENCHMARK_CAPTURE(Effect, Shaded/Wide, ShadeText, false)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Effect, Shaded/Plain, ShadeText, true)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Effect, ShadedWide, ShadeText, false)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Effect, ShadedPlain, ShadeText, true)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Effect, Outlined, OutlineText, false)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Effect, Reversed, ReverseText, false)->Unit(benchmark::kMillisecond);
 
@@ -156,10 +156,10 @@ void ButtonUp(benchmark::State& state, int nKind, bool bPlain) {
     state.counters["ms"] = 1000 * fTime;
     state.counters["at_most"] = 20;
 }
-BENCHMARK_CAPTURE(ButtonUp, Projection/Wide, kWarpProjection, false)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(ButtonUp, Projection/Plain, kWarpProjection, true)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(ButtonUp, Mesh/Wide, kWarpMesh, false)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(ButtonUp, Mesh/Plain, kWarpMesh, true)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ButtonUp, ProjectionWide, kWarpProjection, false)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ButtonUp, ProjectionPlain, kWarpProjection, true)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ButtonUp, MeshWide, kWarpMesh, false)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ButtonUp, MeshPlain, kWarpMesh, true)->Unit(benchmark::kMillisecond);
 
 // What the passes are counted in.
 void PlainPass(benchmark::State& state) {

@@ -89,12 +89,11 @@ class CMeshWarp {
                         m_nHeight))
             return false;
         std::vector<float> map(m_nWidth + 1);
-        std::vector<std::uint8_t> row(m_nWidth);
         for (std::size_t y = 0; y < m_nHeight; ++y) {
             if (!columns.MapAt(y, m_nCols, map)) return false;
             std::uint8_t* const pRow = m_plane.Row(static_cast<int>(y));
-            std::memcpy(row.data(), pRow, m_nWidth);
-            m_resampler.Run(map, row.data(), pRow, CLineResampler::EPass::Row);
+            std::memcpy(m_resampler.Source(), pRow, m_nWidth);
+            m_resampler.Run(map, pRow);
         }
         return true;
     }
@@ -109,15 +108,14 @@ class CMeshWarp {
             return 0;
         std::vector<float> map(m_nHeight + 1);
         std::vector<std::uint8_t> block((m_nHeight + kLinePad) * kBlockColumns);
-        std::vector<std::uint8_t> line(m_nHeight);
         for (std::size_t xBlock = 0; xBlock < m_nWidth; xBlock += kBlockColumns) {
             const std::size_t nColumns = std::min(kBlockColumns, m_nWidth - xBlock);
             LayOut(xBlock, nColumns, block);
             std::size_t i = 0;
             for (; i < nColumns && rows.MapAt(xBlock + i, m_nRows, map); ++i) {
                 std::uint8_t* const pLine = block.data() + i * (m_nHeight + kLinePad);
-                std::memcpy(line.data(), pLine, m_nHeight);
-                m_resampler.Run(map, line.data(), pLine, CLineResampler::EPass::Column);
+                std::memcpy(m_resampler.Source(), pLine, m_nHeight);
+                m_resampler.Run(map, pLine);
             }
             PutBack(xBlock, i, block);
             if (i < nColumns) return xBlock + i;
@@ -150,28 +148,24 @@ class CMeshWarp {
     CLineResampler m_resampler;
 };
 
+}  // namespace
+
 bool HasSplines(const TextArtParam& param) {
     constexpr auto kFewest = static_cast<int>(kFewestKnots);
     return param.nMeshCols >= kFewest && param.nMeshRows >= kFewest &&
            param.nMeshCols <= kMeshPoints / param.nMeshRows;
 }
 
-}  // namespace
-
 void MeshWarp(const TextArtParam& param, CGreyView plane) {
-    std::size_t nDone = 0;
-    if (HasSplines(param)) {
-        CMeshWarp warp(param, plane);
-        if (warp.WarpRows()) nDone = warp.WarpColumns();
-    }
+    CMeshWarp warp(param, plane);
+    const std::size_t nDone = warp.WarpRows() ? warp.WarpColumns() : 0;
     const std::size_t nLeft = static_cast<std::size_t>(plane.nWidth) - nDone;
     if (nLeft == 0) return;
     for (int y = 0; y < plane.nHeight; ++y) std::memset(plane.Row(y) + nDone, kNoInk, nLeft);
 }
 
-std::size_t MeshWarpMemory(const TextArtParam& param, int nWidth, int nHeight) {
-    if (!HasSplines(param)) return 0;
-    const auto nLongest = static_cast<std::size_t>(std::max(nWidth, nHeight));
+std::size_t MeshWarpMemory(int nWidth, int nHeight) {
     constexpr std::size_t kTables = 2 * kMeshPoints / kFewestKnots * sizeof(float);
-    return nLongest * (kTables + 2 * sizeof(float) + kBlockColumns + 1);
+    constexpr std::size_t kLines = 2 * sizeof(float) + 2 * sizeof(int) + kBlockColumns + 1;
+    return static_cast<std::size_t>(std::max(nWidth, nHeight)) * (kTables + kLines);
 }

@@ -20,7 +20,7 @@ class CProjection {
     CProjection(CConstGreyView mask, const std::array<float, 8>& quad, int nFirst, int nCount);
 
     // Writes these columns of row y of the box, y from 0 on.
-    void Row(int y, std::uint8_t* pOut);
+    void Row(int y, std::uint8_t* pOut) const;
 
     // The share of a column, of a row, and of neither in a place, all over the shares in z.
     struct CShares {
@@ -38,6 +38,4 @@ class CProjection {
     CShares m_t;
     CShares m_z;
     std::vector<double> m_arrColumn;  // each column over the mask's width
-    std::vector<float> m_arrS;        // the places of a row in the mask
-    std::vector<float> m_arrT;
 };

@@ -84,7 +84,8 @@ void ScaleMask(CConstGreyView mask, CGreyView target) {
     if (mask.nHeight <= kRowsLeftOut) return;
     const int nWidth = target.nWidth - 1;
     const float fScaleX = static_cast<float>(target.nWidth) / static_cast<float>(mask.nWidth);
-    const float fScaleY = static_cast<float>(target.nHeight) / static_cast<float>(mask.nHeight - kRowsLeftOut);
+    const float fScaleY =
+        static_cast<float>(target.nHeight) / static_cast<float>(mask.nHeight - kRowsLeftOut);
     CStretchedRows rows(mask, nWidth, fScaleX);
     const auto mixRows = UseAvx2() ? MixRowsWide : MixRowsPlain;
     for (int y = 0; y < target.nHeight - 1; ++y) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 #include "image/CpuChoice.h"
 
@@ -77,8 +76,17 @@ FOTARIUM_AVX2 void EvaluateWide(const CPiece& piece, float* pOut, int nFirst, in
 
 // The first place from nFirst on that is above the end of a piece.
 int FirstAbove(float fEnd, int nFirst, int nCount) {
-    const auto places = std::views::iota(nFirst, nCount);
-    return *std::ranges::partition_point(places, [fEnd](int i) { return !(static_cast<float>(i) > fEnd); });
+    int nBelow = nFirst;  // nothing before it is above
+    int nAbove = nCount;
+    while (nBelow < nAbove) {
+        const int nMiddle = nBelow + (nAbove - nBelow) / 2;
+        if (static_cast<float>(nMiddle) > fEnd) {
+            nAbove = nMiddle;
+        } else {
+            nBelow = nMiddle + 1;
+        }
+    }
+    return nAbove;
 }
 
 }  // namespace

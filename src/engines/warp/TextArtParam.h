@@ -22,13 +22,17 @@ using MeshValues = std::array<float, kMeshPoints>;
 // The x of a mesh of 4 by 4 points that is regular over that width: 0, a third, two thirds, all of it.
 constexpr MeshValues RegularMeshX(float fWidth) {
     MeshValues values{};
-    for (unsigned i = 0; i < 16; ++i) values[i] = fWidth * static_cast<float>(i % 4) / 3.0F;
+    unsigned i = 0;
+    for (int nRow = 0; nRow < 4; ++nRow)
+        for (int nCol = 0; nCol < 4; ++nCol) values[i++] = fWidth * static_cast<float>(nCol) / 3.0F;
     return values;
 }
 // The y of it, for the height.
 constexpr MeshValues RegularMeshY(float fHeight) {
     MeshValues values{};
-    for (unsigned i = 0; i < 16; ++i) values[i] = fHeight * static_cast<float>(i / 4) / 3.0F;
+    unsigned i = 0;
+    for (int nRow = 0; nRow < 4; ++nRow)
+        for (int nCol = 0; nCol < 4; ++nCol) values[i++] = fHeight * static_cast<float>(nRow) / 3.0F;
     return values;
 }
 

@@ -93,7 +93,7 @@ bool CTextWarp::RenderProjection(const TextArtParam& param, CConstGreyView mask,
     const CRect rc = VisibleOf(param.nBoxX, param.nBoxY, param.nBoxWidth, param.nBoxHeight, out);
     if (rc.IsEmpty()) return true;
     // Row by row, so that no plane of the box's size is needed.
-    CProjection projection(mask, param.fQuad, rc.left, rc.Width());
+    const CProjection projection(mask, param.fQuad, rc.left, rc.Width());
     std::vector<std::uint8_t> row(static_cast<std::size_t>(rc.Width()));
     if (!out.Separate()) return false;
     const CPixelView view = out.MutableView();
@@ -107,11 +107,11 @@ bool CTextWarp::RenderProjection(const TextArtParam& param, CConstGreyView mask,
 
 bool CTextWarp::RenderMesh(const TextArtParam& param, CConstGreyView mask, CPixels& out) {
     const CRect rc = VisibleOf(param.nMeshX, param.nMeshY, param.nMeshWidth, param.nMeshHeight, out);
-    if (rc.IsEmpty()) return true;
+    if (rc.IsEmpty() || !HasSplines(param)) return true;
     CSharedBytes bytes;
     const std::size_t nSize =
         static_cast<std::size_t>(param.nMeshWidth) * static_cast<std::size_t>(param.nMeshHeight);
-    if (!CSharedBytes::Fits(nSize + MeshWarpMemory(param, param.nMeshWidth, param.nMeshHeight)) ||
+    if (!CSharedBytes::Fits(nSize + MeshWarpMemory(param.nMeshWidth, param.nMeshHeight)) ||
         !bytes.Allocate(nSize))
         return false;
     const CGreyView plane{bytes.MutableData(), param.nMeshWidth, param.nMeshHeight};

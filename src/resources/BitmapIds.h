@@ -31,6 +31,9 @@ inline constexpr int kBmpEffectNormal = 229;
 // The list of text effects: one picture an effect in each form, in the order of their numbers
 inline constexpr int kBmpTextEffectNormal = 265;
 inline constexpr int kBmpTextEffectSelected = 269;
+// The frame list: a strip of all its pictures, and each by itself; the first stands for no frame
+inline constexpr int kBmpFrameStrip = 165;
+inline constexpr int kBmpFrameCell = 700;
 // The slider
 inline constexpr int kBmpSliderChannel = 606;
 inline constexpr int kBmpSliderThumb = 610;

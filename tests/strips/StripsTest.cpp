@@ -8,8 +8,9 @@
 #include <set>
 
 #include "strips/EffectCells.h"
+#include "strips/FrameCells.h"
 
-// The rendered pictures of the effect list, looked at as the list uses them.
+// The rendered pictures of the effect list and the frame list, looked at as the lists use them.
 
 namespace {
 
@@ -17,6 +18,8 @@ const QString kSkinFolder = FOTARIUM_SKIN_DIR;
 const QString kSamples = FOTARIUM_SOURCE_DIR "/src/resources/samples";
 constexpr int kFirstSelected = 198;
 constexpr int kFirstNormal = 229;
+constexpr int kFirstFrame = 700;
+const QString kFrames = FOTARIUM_FRAMES_DIR;
 
 QImage Picture(int nNumber, int nDensity) {
     return QImage(QString("%1/%2x/%3.png").arg(kSkinFolder).arg(nDensity).arg(nNumber))
@@ -114,12 +117,37 @@ TEST(Strips, TheSelectedFormIsSeenAtOnce) {
     }
 }
 
+// Each frame can be told from the others by its border, and leaves the photograph of the first cell to be
+// seen in its middle.
+TEST(Strips, EveryFrameHasItsCellInBothSizes) {
+    const QRect rcMiddle(30, 24, 30, 20);
+    const QRect rcSign(68, 46, 18, 18);
+    for (const int nDensity : {1, 2}) {
+        const QImage strip = Picture(165, nDensity);
+        ASSERT_EQ(strip.size(), QSize(1183, 69) * nDensity);
+        std::vector<QImage> arrCells;
+        for (int i = 0; i < CFrameCells::kCount; ++i) {
+            const QImage cell = Picture(kFirstFrame + i, nDensity);
+            EXPECT_EQ(cell, Cut(strip, QRect(i * 91, 0, 91, 69), nDensity)) << i;
+            for (const QImage& other : arrCells) EXPECT_GT(MeanDifference(cell, other), 10) << i;
+            arrCells.push_back(cell);
+            EXPECT_EQ(Cut(cell, rcMiddle, nDensity), Cut(arrCells[0], rcMiddle, nDensity)) << i;
+        }
+        EXPECT_GT(CountColors(Cut(arrCells[0], rcMiddle, nDensity)), 100) << "a photograph";
+        int nInk = 0;
+        const QImage sign = Cut(arrCells[0], rcSign, nDensity);
+        for (int y = 0; y < sign.height(); ++y)
+            for (int x = 0; x < sign.width(); ++x) nInk += qGray(sign.pixel(x, y)) > 220;
+        EXPECT_GT(nInk, 20 * nDensity * nDensity) << "the sign for none";
+    }
+}
+
 TEST(Strips, ComeOutTheSameOnEveryRun) {
     QTemporaryDir folder;
-    ASSERT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {folder.path(), kSamples}), 0);
+    ASSERT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {folder.path(), kSamples, kFrames}), 0);
     for (const char* szSub : {"/1x", "/2x"}) {
         const QStringList arrNames = QDir(folder.path() + szSub).entryList(QDir::Files);
-        EXPECT_EQ(arrNames.size(), 2 * kEffectCount + 1);
+        EXPECT_EQ(arrNames.size(), 2 * kEffectCount + 1 + CFrameCells::kCount + 1);
         for (const QString& strName : arrNames) {
             EXPECT_EQ(Bytes(folder.path() + szSub + '/' + strName),
                       Bytes(kSkinFolder + szSub + '/' + strName))
@@ -131,10 +159,13 @@ TEST(Strips, ComeOutTheSameOnEveryRun) {
 TEST(Strips, ToolSaysWhenItCannotWork) {
     QTemporaryDir folder;
     EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {}), 1);
-    EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {folder.path(), folder.path()}), 1) << "no photographs";
+    EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {folder.path(), folder.path(), kFrames}), 1)
+        << "no photographs";
+    EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {folder.path(), kSamples, folder.path()}), 1)
+        << "no frames";
     EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {"--contact", "none.jpg", folder.filePath("a.png")}),
               1);
     QFile file(folder.filePath("taken"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {file.fileName(), kSamples}), 1);
+    EXPECT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {file.fileName(), kSamples, kFrames}), 1);
 }

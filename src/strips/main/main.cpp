@@ -5,8 +5,9 @@
 
 #include "resources/BitmapIds.h"
 #include "strips/EffectCells.h"
+#include "strips/FrameCells.h"
 
-// fotarium-strips OUTDIR SAMPLEDIR         renders the pictures of the lists into OUTDIR/1x and OUTDIR/2x
+// fotarium-strips OUTDIR SAMPLEDIR FRAMEDIR renders the pictures of the lists into OUTDIR/1x and OUTDIR/2x
 // fotarium-strips --contact PHOTO OUT.png  all effects on one photograph, for looking at
 
 namespace {
@@ -38,6 +39,24 @@ QString WriteEffects(const QString& strFolder, CEffectSamples& samples, int nDen
     return save(strip, kBmpEffectStrip) ? QString() : "cannot write to " + strFolder;
 }
 
+// Writes each picture of the frame list at one density, and the strip of all. Returns as above.
+QString WriteFrames(const QString& strFolder, const CFrameCells& cells, int nDensity) {
+    const QSize sizeCell = CFrameCells::kCell * nDensity;
+    QImage strip(sizeCell.width() * CFrameCells::kCount, sizeCell.height(), QImage::Format_RGB888);
+    QPainter painter(&strip);
+    const auto save = [&](const QImage& image, int nNumber) {
+        return image.save(QStringLiteral("%1/%2.png").arg(strFolder).arg(nNumber), "PNG");
+    };
+    for (int nFrame = 0; nFrame < CFrameCells::kCount; ++nFrame) {
+        const QImage cell = cells.Render(nFrame, nDensity);
+        if (cell.isNull()) return "the frames or their photograph cannot be read";
+        if (!save(cell, kBmpFrameCell + nFrame)) return "cannot write to " + strFolder;
+        painter.drawImage(nFrame * sizeCell.width(), 0, cell);
+    }
+    painter.end();
+    return save(strip, kBmpFrameStrip) ? QString() : "cannot write to " + strFolder;
+}
+
 int WriteContactSheet(const QString& strPhoto, const QString& strOut) {
     const QImage sheet = RenderContactSheet(CxImage(strPhoto.toStdString(), ImageType::kJpeg));
     if (sheet.isNull()) return Fail("cannot read " + strPhoto);
@@ -50,14 +69,18 @@ int main(int nArgs, char** apArgs) {
     QGuiApplication app(nArgs, apArgs);
     const QStringList arrArgs = app.arguments().mid(1);
     if (arrArgs.size() == 3 && arrArgs[0] == "--contact") return WriteContactSheet(arrArgs[1], arrArgs[2]);
-    if (arrArgs.size() != 2 || arrArgs[0].startsWith('-'))
+    if (arrArgs.size() != 3 || arrArgs[0].startsWith('-'))
         return Fail(
-            "usage: fotarium-strips OUTDIR SAMPLEDIR\n       fotarium-strips --contact PHOTO OUT.png");
+            "usage: fotarium-strips OUTDIR SAMPLEDIR FRAMEDIR\n       fotarium-strips --contact PHOTO "
+            "OUT.png");
     CEffectSamples samples(arrArgs[1]);
+    const CFrameCells frames(arrArgs[1], arrArgs[2]);
     for (const int nDensity : {1, 2}) {
         const QString strFolder = QStringLiteral("%1/%2x").arg(arrArgs[0]).arg(nDensity);
         if (!QDir().mkpath(strFolder)) return Fail("cannot write to " + strFolder);
         if (const QString strWhy = WriteEffects(strFolder, samples, nDensity); !strWhy.isEmpty())
+            return Fail(strWhy);
+        if (const QString strWhy = WriteFrames(strFolder, frames, nDensity); !strWhy.isEmpty())
             return Fail(strWhy);
     }
     return 0;

@@ -28,6 +28,9 @@ inline constexpr int kBmpFolderLit = 415;
 inline constexpr int kBmpEffectStrip = 196;
 inline constexpr int kBmpEffectSelected = 198;
 inline constexpr int kBmpEffectNormal = 229;
+// The frame list: a strip of all its pictures, and each by itself; the first stands for no frame
+inline constexpr int kBmpFrameStrip = 165;
+inline constexpr int kBmpFrameCell = 700;
 // The slider
 inline constexpr int kBmpSliderChannel = 606;
 inline constexpr int kBmpSliderThumb = 610;

@@ -29,6 +29,7 @@ QRgb ColorOf(int nItem) {
 
 std::vector<CListItem> Items() {
     std::vector<CListItem> arrItems;
+    arrItems.reserve(kCount);
     for (int i = 0; i < kCount; ++i)
         arrItems.push_back({std::to_string(700 + i), -1, "spoken " + std::to_string(i)});
     return arrItems;

@@ -23,6 +23,8 @@ CMainDlg::CMainDlg(const CPlatform& platform)
       m_thum(platform.drives, {Controls(), platform.folders, platform.shell, platform.boxes, platform.timers,
                                platform.wait, platform.bitmaps, *this, m_desk}),
       m_effects({m_state, m_images, Controls(), *this, m_desk, platform.wait, m_editor, m_random}),
+      m_frames({m_state, m_images, Controls(), m_canvas, m_editor, platform.boxes, platform.wait,
+                platform.libraries}),
       m_textArt({m_state, m_images, Controls(), m_canvas, *this, m_editor, platform.colors, platform.fonts,
                  platform.text, platform.wait}),
       m_modes({m_state, m_images, Controls(), m_desk, m_canvas, m_draw, m_tools, m_editor, m_lines, m_thum,
@@ -35,6 +37,7 @@ void CMainDlg::OnInitDialog() {
     Controls().Check(kCheckLines, true);
     Controls().Check(kRadioImageSize, true);
     m_effects.Init();
+    m_frames.Init();
     m_textArt.Init();
     m_thum.Build();
     m_thum.ShowCurrentFolder();

@@ -99,5 +99,6 @@ void CMainDlg::OnNotify(int nId, ENotice notice) {
         if (nId == kTextEffectList) m_textArt.OnSelChangeTextEffect();
     }
     if (notice == ENotice::Scrolled && nId == kEffectSlider) m_effects.OnVScroll();
-    if (notice == ENotice::Clicked && nId == kFrameList) m_frames.OnClickStickerList();
+    if (notice == ENotice::Clicked && nId == kFrameList)
+        m_frames.OnClickStickerList(Controls().Selection(kFrameList));
 }

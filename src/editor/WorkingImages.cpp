@@ -34,8 +34,12 @@ bool CEditPictures::RebuildDisplay(EMode mode, CSize size) {
 
 CUndoEntry CEditPictures::MakeEntry(const CxImage& imgWork) const {
     const CSize size = RuledSize();
-    return {m_bFrameOn, IsPhoneSize(), static_cast<std::int16_t>(size.cx), static_cast<std::int16_t>(size.cy),
-            imgWork};
+    return {m_bFrameOn,
+            IsPhoneSize(),
+            static_cast<std::int16_t>(size.cx),
+            static_cast<std::int16_t>(size.cy),
+            imgWork,
+            m_bFrameOn ? m_imgNoFrame : CxImage()};
 }
 
 void CEditPictures::TakeEntry(const CUndoEntry& entry) {
@@ -43,7 +47,7 @@ void CEditPictures::TakeEntry(const CUndoEntry& entry) {
     SetDisplaySize({entry.nWidth, entry.nHeight});
     m_sizeRule = entry.bPhoneSize ? ESizeRule::PhoneScreen : ESizeRule::Picture;
     m_bFrameOn = entry.bFrameOn;
-    if (m_bFrameOn) m_imgNoFrame = m_imgWork;
+    if (m_bFrameOn) m_imgNoFrame = entry.imgNoFrame;
 }
 
 void CWorkingImages::TakePicture(const CxImage& image) {

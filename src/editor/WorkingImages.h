@@ -17,6 +17,8 @@ struct CUndoEntry {
     std::int16_t nWidth = 0;  // display size: what the size rule gave when pushed
     std::int16_t nHeight = 0;
     CxImage image;  // the working image; shares its pixels until one of both changes
+    // With a frame on also the picture without it, so that the next frame is not laid over this one.
+    CxImage imgNoFrame;
 };
 
 // The pictures that an edit changes, and the rule that ties them together. All changes land on the working

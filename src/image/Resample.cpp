@@ -6,18 +6,6 @@
 
 namespace {
 
-// The source index of every index of the new side. Rounding may carry the product of a long side to the
-// source's end, where there is no pixel; the last one stands for it.
-std::vector<std::uint32_t> SourceIndices(int nSrc, int nDst) {
-    const float fStep = static_cast<float>(nSrc) / static_cast<float>(nDst);
-    std::vector<std::uint32_t> indices(static_cast<std::size_t>(nDst));
-    for (int i = 0; i < nDst; ++i) {
-        const int n = static_cast<int>(static_cast<float>(i) * fStep);
-        indices[static_cast<std::size_t>(i)] = static_cast<std::uint32_t>(std::min(n, nSrc - 1));
-    }
-    return indices;
-}
-
 // Four bytes are moved for a pixel of three: the fourth is overwritten by the next pixel, by the next row, or
 // falls into the slack. Rows must therefore be made from the top.
 void PickPixels(const std::uint8_t* pSrc, std::uint8_t* pDst, const std::vector<std::uint32_t>& offsets) {
@@ -35,10 +23,22 @@ void PickBytes(const std::uint8_t* pSrc, std::uint8_t* pDst, const std::vector<s
 
 }  // namespace
 
+// Rounding may carry the product of a long side to the source's end, where there is no pixel; the last one
+// stands for it.
+std::vector<std::uint32_t> NearestPixels(int nSrc, int nDst) {
+    const float fStep = static_cast<float>(nSrc) / static_cast<float>(nDst);
+    std::vector<std::uint32_t> indices(static_cast<std::size_t>(nDst));
+    for (int i = 0; i < nDst; ++i) {
+        const int n = static_cast<int>(static_cast<float>(i) * fStep);
+        indices[static_cast<std::size_t>(i)] = static_cast<std::uint32_t>(std::min(n, nSrc - 1));
+    }
+    return indices;
+}
+
 void ResamplePlane(const std::uint8_t* pSrc, CSize sizeSrc, std::uint8_t* pDst, CSize sizeDst,
                    int nChannels) {
-    std::vector<std::uint32_t> columns = SourceIndices(sizeSrc.cx, sizeDst.cx);
-    const std::vector<std::uint32_t> rows = SourceIndices(sizeSrc.cy, sizeDst.cy);
+    std::vector<std::uint32_t> columns = NearestPixels(sizeSrc.cx, sizeDst.cx);
+    const std::vector<std::uint32_t> rows = NearestPixels(sizeSrc.cy, sizeDst.cy);
     for (std::uint32_t& n : columns) n *= static_cast<std::uint32_t>(nChannels);
 
     const std::size_t nSrcStride = static_cast<std::size_t>(sizeSrc.cx) * static_cast<std::size_t>(nChannels);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "image/Geometry.h"
 
@@ -9,3 +10,6 @@
 // row y is row trunc(y * sy), rows counted from the bottom in both, with sx and sy = src side / dst side in
 // single precision.
 void ResamplePlane(const std::uint8_t* pSrc, CSize sizeSrc, std::uint8_t* pDst, CSize sizeDst, int nChannels);
+
+// Of one side: the source's pixel for every pixel of dst. For who scales row by row.
+std::vector<std::uint32_t> NearestPixels(int nSrc, int nDst);

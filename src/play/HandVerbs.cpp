@@ -87,7 +87,11 @@ std::string Text(CStage& stage, const CWords& arrWords) {
 
 std::string Key(CStage& stage, const CWords& arrWords) {
     const std::optional<CKeyEvent> event = ParseChord(arrWords[0]);
-    return event ? stage.host.Key(*event) : NotA(arrWords[0], "key");
+    if (!event) return NotA(arrWords[0], "key");
+    const CControl* pFocus = stage.dialog.Controls().Find(stage.dialog.Controls().Focus());
+    const bool bGrid = pFocus != nullptr && pFocus->kind == EControlKind::PictureGrid;
+    const bool bMoves = event->nKey >= kKeySpace && event->nKey <= kKeyDown;
+    return bMoves && !bGrid ? "that key is for the frame list" : stage.host.Key(*event);
 }
 
 // The words of a mouse event: what, which button, where, with which keys.
@@ -175,7 +179,11 @@ constexpr CVerb kVerbs[] = {
     {"mode", "N", 1, 1, Mode,
      "Clicks a tab: 0 THUM, 1 DRAW, 2 EFFECT, 3 FONT, 4 STICK. The active one has no tab to click.",
      "mode 1"},
-    {"select", "ID ROW", 2, 2, Select, "Clicks a row of a list; rows count from 0.", "select 1041 3"},
+    {"select", "ID ROW", 2, 2, Select,
+     "Clicks a row of a list, or a picture of the frame list; they count from 0. Row -1 is a click beside "
+     "all "
+     "pictures of a frame or file list.",
+     "select 1146 3"},
     {"slider", "POS", 1, 1, Slider,
      "Moves the slider of the effect's level. Its top, the highest level, is the lowest position.",
      "slider -20"},
@@ -188,7 +196,9 @@ constexpr CVerb kVerbs[] = {
      "Replaces the text of an edit. What is beyond its most characters does not go in.",
      "text 1051 \"新年快乐\""},
     {"key", "CHORD", 1, 1, Key,
-     "Presses a key: a letter, a digit, enter, esc, delete, with ctrl+ and shift+.", "key ctrl+z"},
+     "Presses a key: a letter, a digit, enter, esc, delete, with ctrl+ and shift+. In the frame list also "
+     "left, right, up, down, home, end, pageup, pagedown and space.",
+     "key ctrl+z"},
     {"mouse", "press|move|release|double left|right X Y [shift] [ctrl]", 3, 6, Mouse,
      "A mouse event on the canvas, in client pixels of the canvas. A press moves nothing, and a double click "
      "is press, release, double, release. A move needs no button; one that it names counts as held.",

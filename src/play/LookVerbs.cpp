@@ -49,7 +49,8 @@ std::string Show(CStage& stage, const CWords& arrWords) {
               << (pControl->bChecked ? " checked " : " unchecked ") << Quote(pControl->strText);
     if (pControl->kind == EControlKind::Slider || pControl->kind == EControlKind::Progress)
         stage.out << " at " << pControl->nPos << " of " << pControl->nMin << " to " << pControl->nMax;
-    const bool bList = pControl->kind == EControlKind::PictureList || pControl->kind == EControlKind::Combo;
+    const bool bList = pControl->kind == EControlKind::PictureList ||
+                       pControl->kind == EControlKind::PictureGrid || pControl->kind == EControlKind::Combo;
     if (bList) stage.out << " row " << pControl->nSel << " of " << pControl->arrItems.size();
     stage.out << '\n';
     const CTreeModel* pTree = stage.dialog.TreeOf(pControl->nId);

@@ -30,6 +30,18 @@ std::string Bin(CMachine& machine, const CWords& arrWords) {
     return {};
 }
 
+std::string Libraries(CMachine& machine, const CWords& arrWords) {
+    if (arrWords[0] == "none") {
+        machine.platform.Libraries().SetFolders({});
+        return {};
+    }
+    const std::string strPath = machine.PathOf(arrWords[0]);
+    std::error_code error;
+    if (!std::filesystem::is_directory(strPath, error)) return "there is no folder " + Quote(strPath);
+    machine.platform.Libraries().SetFolders({strPath});
+    return {};
+}
+
 constexpr CVerb kVerbs[] = {
     {"drive", "LETTER [PATH]", 1, 2, nullptr,
      "Gives the machine a drive whose top is that folder, or takes the drive away. The program sees it when "
@@ -40,6 +52,10 @@ constexpr CVerb kVerbs[] = {
      "goes there is refused and stays. What does not go there is deleted for good. refuse lets every delete "
      "be refused until a folder is given again.",
      "bin thrown-away", Bin},
+    {"libraries", "PATH|none", 1, 1, nullptr,
+     "The folder that has the program's libraries, or that there are none. Without this they are looked for "
+     "in lib/fotarium beside the program's folder, and with the program.",
+     "libraries none", Libraries},
 };
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "play/ScriptedPlatform.h"
 #include "window/DialogKeys.h"
 #include "window/Marks.h"
+#include "window/PictureGridHand.h"
 
 namespace {
 
@@ -144,6 +145,7 @@ std::string CPlayHost::SelectRow(int nId, int nRow) {
     const CControl* pControl = nullptr;
     if (std::string strWhy = Reach(nId, pControl); !strWhy.empty()) return strWhy;
     if (pControl->kind == EControlKind::IconList) return ClickIcon(nId, nRow);
+    if (pControl->kind == EControlKind::PictureGrid) return ClickGrid(nId, nRow);
     if (!IsList(pControl->kind)) return std::string("control ") + std::to_string(nId) + " has no rows";
     const int nRows = static_cast<int>(pControl->arrItems.size());
     if (nRow < 0 || nRow >= nRows)
@@ -155,6 +157,20 @@ std::string CPlayHost::SelectRow(int nId, int nRow) {
         m_dialog.OnNotify(nId, ENotice::SelectionChanged);
     }
     if (pControl->kind != EControlKind::Combo) m_dialog.OnNotify(nId, ENotice::Clicked);
+    return Done();
+}
+
+std::string CPlayHost::ClickGrid(int nId, int nItem) {
+    const CControl* pControl = nullptr;
+    if (std::string strWhy = Reach(nId, pControl); !strWhy.empty()) return strWhy;
+    const int nItems = static_cast<int>(pControl->arrItems.size());
+    if (pControl->kind != EControlKind::PictureGrid || nItem < -1 || nItem >= nItems)
+        return std::string("grid ") + std::to_string(nId) + " has no item " + std::to_string(nItem);
+    TakeFocus(nId);
+    CPictureGridHand hand(m_dialog, nId);
+    if (nItem >= 0) hand.BringIntoSight(nItem);
+    hand.OnPress(nItem);
+    hand.OnRelease(nItem);
     return Done();
 }
 
@@ -207,6 +223,9 @@ std::string CPlayHost::Key(const CKeyEvent& event) {
 }
 
 void CPlayHost::KeyToControl(const CKeyEvent& event) {
+    const CControl* pControl = m_dialog.Controls().Find(m_dialog.Controls().Focus());
+    const bool bGrid = pControl != nullptr && pControl->kind == EControlKind::PictureGrid;
+    if (bGrid && CPictureGridHand(m_dialog, pControl->nId).OnKey(event.nKey)) return;
     CIconListModel* pIcons = IconsOf(m_dialog.Controls().Focus());
     if (pIcons != nullptr && HandOf(*pIcons).OnKey(event)) return;
     DoDialogKey(m_dialog, event);

@@ -42,12 +42,14 @@ class CPlayHost : private CDialogHost, private CViewHost, private CIconListObser
     [[nodiscard]] std::string Click(int nId);
     // A click on a row of a list, or on an item of a list of icons.
     [[nodiscard]] std::string SelectRow(int nId, int nRow);
+    // A click on a picture of a grid, which is scrolled to it, or beside all of them for -1.
+    [[nodiscard]] std::string ClickGrid(int nId, int nItem);
     [[nodiscard]] std::string MoveSlider(int nId, int nPos);
     // Replaces the text of an edit; what is beyond its most characters does not go in.
     [[nodiscard]] std::string Type(int nId, const std::string& strText);
     [[nodiscard]] std::string ScrollView(int nId, CPoint pt);
-    // A key that the dialog does not take goes to the list of icons that has the focus, or means Ok and
-    // Cancel as in every dialog.
+    // A key that the dialog does not take goes to the list of icons or grid of pictures that has the focus,
+    // or means Ok and Cancel as in every dialog.
     [[nodiscard]] std::string Key(const CKeyEvent& event);
     // pt in client pixels of the view in that control.
     [[nodiscard]] std::string MouseOnView(int nId, EMouseAction action, EMouseButton button, CPoint pt,

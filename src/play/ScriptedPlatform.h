@@ -9,6 +9,7 @@
 #include "image/TextRasterizer.h"
 #include "play/Answer.h"
 #include "play/PlayHost.h"
+#include "play/ScriptedLibraries.h"
 #include "play/VirtualTimers.h"
 #include "window/Bitmaps.h"
 #include "window/Clipboard.h"
@@ -123,6 +124,8 @@ class CScriptedPlatform : private CMessageBoxes,
     // The pictures of all dialogs that the program runs; may be null.
     void SetBitmaps(CBitmaps* pBitmaps) { m_pBitmaps = pBitmaps; }
     CBitmaps* Bitmaps() { return m_pBitmaps; }
+    // None at first.
+    CScriptedLibraries& Libraries() { return m_libraries; }
     void SetInstallValue(const std::string& strValue) { m_strInstallValue = strValue; }
     std::optional<std::vector<std::uint8_t>>& ClipboardPicture() { return m_clipboard; }
 
@@ -169,6 +172,7 @@ class CScriptedPlatform : private CMessageBoxes,
     std::map<int, CRunner> m_mapRunners;
     std::vector<CPlayHost*> m_arrHosts;
     CVirtualTimers m_timers;
+    CScriptedLibraries m_libraries;
     CBitmaps* m_pBitmaps = nullptr;
     std::optional<std::vector<std::uint8_t>> m_clipboard;
     std::string m_strInstallValue;

@@ -41,6 +41,7 @@ class CComposer {
     void DrawButton(const CControl& control);
     void DrawMark(const CControl& control);
     void DrawRows(const CControl& control);
+    void DrawGrid(const CControl& control);
     void DrawSlider(const CControl& control);
     void DrawShare(const CControl& control);
     void DrawView(const CControl& control);
@@ -105,6 +106,25 @@ void CComposer::DrawRows(const CControl& control) {
             m_surface.DrawPart(pImage->Pixels(), CRect::FromPlace(0, 0, rc.Width(), nHeight), rc.left,
                                rc.top + nRow * nHeight);
         ++nRow;
+    }
+}
+
+// A grid of pictures as far as it has scrolled.
+void CComposer::DrawGrid(const CControl& control) {
+    const CGridLayout& grid = *control.look.grid;
+    CRect rc = control.rcPlace;
+    DrawBox(rc, Grounds::kList);
+    if (HasBorder(control)) rc = {rc.left + 1, rc.top + 1, rc.right - 1, rc.bottom - 1};
+    int nItem = 0;
+    for (const CListItem& item : control.arrItems) {
+        const CRect rcItem = grid.PlaceOf(nItem).Offset(rc.left, rc.top - control.nPos);
+        const CRect rcRim{rcItem.left - 2, rcItem.top - 2, rcItem.right + 2, rcItem.bottom + 2};
+        if (nItem++ == control.nSel) m_surface.FillRect(rcRim.Intersect(rc), kMark);
+        const CRect rcSeen = rcItem.Intersect(rc);
+        const CxImage* pImage = m_pBitmaps == nullptr ? nullptr : m_pBitmaps->Find(item.strText, 1);
+        if (pImage == nullptr || rcSeen.IsEmpty()) continue;
+        m_surface.DrawPart(pImage->Pixels(), rcSeen.Offset(-rcItem.left, -rcItem.top), rcSeen.left,
+                           rcSeen.top);
     }
 }
 
@@ -201,6 +221,8 @@ void CComposer::Draw(const CControl& control) {
             return DrawBox(control.rcPlace, kPaper);
         case EControlKind::PictureList:
             return DrawRows(control);
+        case EControlKind::PictureGrid:
+            return DrawGrid(control);
         case EControlKind::IconList:
             return DrawIcons(control);
         case EControlKind::Tree:

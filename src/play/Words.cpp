@@ -1,9 +1,25 @@
 #include "play/Words.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 namespace {
+
+constexpr std::array kNamedKeys = std::to_array<std::pair<std::string_view, int>>({
+    {"enter", kKeyEnter},
+    {"esc", kKeyEscape},
+    {"delete", kKeyDelete},
+    {"space", kKeySpace},
+    {"pageup", kKeyPageUp},
+    {"pagedown", kKeyPageDown},
+    {"end", kKeyEnd},
+    {"home", kKeyHome},
+    {"left", kKeyLeft},
+    {"up", kKeyUp},
+    {"right", kKeyRight},
+    {"down", kKeyDown},
+});
 
 bool IsBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r';
@@ -105,9 +121,8 @@ std::optional<CKeyEvent> ParseChord(std::string_view strWord) {
             strRest.erase(0, 6);
         }
     }
-    if (strRest == "enter") event.nKey = kKeyEnter;
-    if (strRest == "esc") event.nKey = kKeyEscape;
-    if (strRest == "delete") event.nKey = kKeyDelete;
+    for (const auto& [strName, nKey] : kNamedKeys)
+        if (strRest == strName) event.nKey = nKey;
     if (strRest.size() == 1) {
         const auto c = static_cast<unsigned char>(strRest[0]);
         if (c >= 'a' && c <= 'z') event.nKey = c - 'a' + 'A';

@@ -6,6 +6,7 @@
 #include "qt/EditWidget.h"
 #include "qt/IconListWidget.h"
 #include "qt/MarkBox.h"
+#include "qt/PictureGridWidget.h"
 #include "qt/PictureListWidget.h"
 #include "qt/PlainButton.h"
 #include "qt/ProgressWidget.h"
@@ -37,6 +38,8 @@ std::unique_ptr<CControlWidget> CreateControlWidget(const CControlContext& conte
             return std::make_unique<CComboWidget>(context);
         case EControlKind::PictureList:
             return std::make_unique<CPictureListWidget>(context);
+        case EControlKind::PictureGrid:
+            return std::make_unique<CPictureGridWidget>(context);
         case EControlKind::IconList:
             return std::make_unique<CIconListWidget>(context);
         case EControlKind::Tree:

@@ -15,6 +15,8 @@ int KeyCodeOf(int nQtKey) {
             return kKeyEscape;
         case Qt::Key_Delete:
             return kKeyDelete;
+        case Qt::Key_Space:
+            return kKeySpace;
         case Qt::Key_PageUp:
             return kKeyPageUp;
         case Qt::Key_PageDown:

@@ -7,6 +7,7 @@
 #include "qt/QtFileDialogs.h"
 #include "qt/QtFolders.h"
 #include "qt/QtFontDialogs.h"
+#include "qt/QtLibraries.h"
 #include "qt/QtMessageBoxes.h"
 #include "qt/QtModalDialogs.h"
 #include "qt/QtPopupMenus.h"
@@ -24,8 +25,8 @@ class CQtPlatform {
           m_modals(m_pictures, m_timers),
           m_files(m_pictures, m_timers),
           m_shell(m_boxes),
-          m_platform{m_boxes, m_modals,    m_files,   m_colors, m_fonts,  m_menus, m_timers,
-                     m_wait,  m_clipboard, m_folders, m_text,   m_drives, m_shell, bitmaps} {}
+          m_platform{m_boxes,     m_modals,  m_files, m_colors, m_fonts, m_menus, m_timers,   m_wait,
+                     m_clipboard, m_folders, m_text,  m_drives, m_shell, bitmaps, m_libraries} {}
     CQtPlatform(const CQtPlatform&) = delete;
     CQtPlatform& operator=(const CQtPlatform&) = delete;
 
@@ -47,5 +48,6 @@ class CQtPlatform {
     CQtTextRasterizer m_text;
     CQtDrives m_drives;
     CQtShell m_shell;
+    CQtLibraries m_libraries;
     CPlatform m_platform;
 };

@@ -62,7 +62,7 @@ constexpr CControlTemplate kControls[] = {
     {kRadioPhoneSize, Radio, At(71, 199, 14, 14), "", false},
     {kLabelImageSize, BitmapLabel, At(87, 177, 80, 15), "1246", false},
     {kLabelPhoneSize, BitmapLabel, At(87, 199, 80, 15), "1247", false},
-    {kFrameList, IconList, At(56, 242, 211, 409), "", false},
+    {kFrameList, PictureGrid, At(56, 242, 211, 409), "", false},
     // FONT
     {kTextGroup, Group, At(57, 154, 0, 0), "", false},
     {kFontGroup, Group, At(57, 235, 0, 0), "", false},

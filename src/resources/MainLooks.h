@@ -12,6 +12,13 @@ inline constexpr CColor kLit{235, 235, 235};  // text on the skin
 
 inline constexpr CControlLook kInfoLine{.colorText = kLit, .colorGround = Grounds::kInfo};
 
+inline constexpr CGridLayout kFrameGrid{.sizeCell = {91, 69},
+                                        .ptFirst = {2, 8},
+                                        .sizeStep = {95, 80},
+                                        .nColumns = 2,
+                                        .nScrollRange = 210,
+                                        .nScrollPage = 50};
+
 // clang-format off
 inline constexpr CControlLookRow kTable[] = {
     {kCmdOpen, {.szSpoken = "打开"}},
@@ -46,6 +53,7 @@ inline constexpr CControlLookRow kTable[] = {
     {kEffectLevel, {.colorText = kLit, .colorGround = Grounds::kLevel}},
     {kConfirm, {.szSpoken = "确定"}},
     {kCancel, {.szSpoken = "取消"}},
+    {kFrameList, {.szSpoken = "相框", .border = EBorder::Sunken, .grid = kFrameGrid}},
     {kRadioImageSize, {.szSpoken = "当前图片大小"}},
     {kLabelImageSize, {.szSpoken = "当前图片大小"}},
     {kRadioPhoneSize, {.szSpoken = "手机屏幕大小"}},

@@ -26,6 +26,9 @@ inline constexpr char kTextTooLarge[] = "最大以上的大小";
 inline constexpr char kTextTooSmall[] = "最小以下的大小";
 inline constexpr char kTextNoPhoneSizes[] = "无手机信息，请先连接手机";
 
+// Frames
+inline constexpr char kTextNoFrames[] = "没有搜索到StickerFrameData.dll文件";
+
 // The paint clipboard
 inline constexpr char kTextNothingToCopy[] = "先选择复制区域";
 inline constexpr char kTextNothingToCut[] = "请先选择剪切区域";

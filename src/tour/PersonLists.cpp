@@ -123,6 +123,13 @@ QImage CPerson::LookAtItem(const QString& strName) const {
     return pList->viewport()->grab(rc).toImage();
 }
 
+void CPerson::ClickFrame(int nItem) {
+    auto* pList = qobject_cast<QListView*>(Widget(kFrameList));
+    const QModelIndex index = pList == nullptr ? QModelIndex() : pList->model()->index(nItem, 0);
+    const QPoint pt = Aim(pList, index, QStringLiteral("frame %1").arg(nItem));
+    if (m_strFault.isEmpty()) QTest::mouseClick(pList->viewport(), Qt::LeftButton, Qt::NoModifier, pt);
+}
+
 void CPerson::TypeOver(int nId, const QString& strText) {
     auto* pEdit = qobject_cast<QLineEdit*>(Widget(nId));
     if (pEdit == nullptr || !pEdit->isVisible()) {

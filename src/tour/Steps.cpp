@@ -16,6 +16,7 @@ std::vector<CTourStep> MakeSteps(const CTourFiles& files) {
     AddShape(steps);
     AddOpen(steps, files);
     AddModes(steps);
+    AddFrames(steps);
     AddHistory(steps);
     AddEffects(steps);
     AddBroken(steps, files);

@@ -6,6 +6,7 @@
 
 #include "image/Color.h"
 #include "image/Geometry.h"
+#include "window/GridLayout.h"
 
 // What the user can operate or read in a dialog, as plain data. The window layer turns each of these into a
 // widget; the logic reads and writes the data and never sees the widget.
@@ -22,6 +23,7 @@ enum class EControlKind {
     Edit,         // one line of text to type
     Combo,        // drop-down list of texts
     PictureList,  // list box whose rows are pictures
+    PictureGrid,  // pictures that stand where its look says; tells each click
     IconList,     // list of pictures with names below
     Tree,
     Slider,
@@ -38,6 +40,7 @@ struct CControlLook {
     std::optional<CColor> colorText{};    // of a line of text
     std::optional<CColor> colorGround{};  // below the text; none lets the dialog's ground through
     EBorder border = EBorder::ByKind;
+    std::optional<CGridLayout> grid{};  // of a PictureGrid, and only there
 };
 
 // Row of a list; which fields count depends on the kind.
@@ -59,7 +62,7 @@ struct CControl {
     bool bEnabled = true;
     bool bChecked = false;
     int nMaxText = 0;  // most characters that can be typed; 0 for no limit
-    int nMin = 0;      // range of sliders and progress bars
+    int nMin = 0;      // range of sliders and progress bars; how far a PictureGrid has scrolled and can
     int nMax = 100;
     int nPos = 0;
     int nSel = -1;  // selected row; -1 for none

@@ -19,7 +19,10 @@ CControlSet::CControlSet(std::span<const CControlTemplate> arrTemplate,
         m_arrControls.push_back(std::move(control));
     }
     for (const CControlLookRow& row : arrLooks)
-        if (CControl* pControl = Get(row.nId); pControl != nullptr) pControl->look = row.look;
+        if (CControl* pControl = Get(row.nId); pControl != nullptr) {
+            pControl->look = row.look;
+            if (row.look.grid) pControl->nMax = row.look.grid->ScrollLimit();
+        }
 }
 
 CControl* CControlSet::Get(int nId) {

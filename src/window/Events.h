@@ -23,6 +23,7 @@ struct CMouseEvent {
 // Key codes as the platform numbers them; letters and digits are their upper-case characters.
 inline constexpr int kKeyEnter = 13;
 inline constexpr int kKeyEscape = 27;
+inline constexpr int kKeySpace = 32;
 inline constexpr int kKeyPageUp = 33;
 inline constexpr int kKeyPageDown = 34;
 inline constexpr int kKeyEnd = 35;

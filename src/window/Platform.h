@@ -7,6 +7,7 @@ class CDrives;
 class CFileDialogs;
 class CFolders;
 class CFontDialogs;
+class CLibraries;
 class CMessageBoxes;
 class CModalDialogs;
 class CPopupMenus;
@@ -32,4 +33,5 @@ struct CPlatform {
     CDrives& drives;
     CShell& shell;
     CBitmaps& bitmaps;
+    CLibraries& libraries;
 };

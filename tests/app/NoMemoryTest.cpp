@@ -5,6 +5,7 @@
 #include <new>
 
 #include "app/PaintWorkshop.h"
+#include "compose/FrameRecord.h"
 #include "support/ShortMemory.h"
 
 namespace {
@@ -18,7 +19,9 @@ struct CEditNow {
     bool bFloating = false;
     bool bMarked = false;
     ETool tool = ETool::SelectRect;
-    std::pair<int, int> listAndSlider;
+    std::vector<int> arrMarks;  // of lists and slider
+    bool bFrameOn = false;
+    CPixels noFrame;
     bool operator==(const CEditNow&) const = default;
 };
 
@@ -30,9 +33,15 @@ class NoMemoryTest : public PaintWorkshop {
     }
 
     CEditNow Now() {
-        return {Snapshot(),          Draw().Paper().Committed().Pixels(),
-                Draw().IsFloating(), Draw().Selection().IsMarked(),
-                Tools().m_nTool,     {Controls().Selection(kEffectList), Controls().Position(kEffectSlider)}};
+        return {Snapshot(),
+                Draw().Paper().Committed().Pixels(),
+                Draw().IsFloating(),
+                Draw().Selection().IsMarked(),
+                Tools().m_nTool,
+                {Controls().Selection(kEffectList), Controls().Position(kEffectSlider),
+                 Controls().Selection(kFrameList)},
+                Images().m_bFrameOn,
+                Images().m_imgNoFrame.Pixels()};
     }
     // Runs it with the first, second, ... large block refused until it needs no more of them. nElse: so many
     // come first that belong to something else, a dialog's window for one.
@@ -173,6 +182,30 @@ TEST_F(NoMemoryTest, Effects) {
         }
         TryCommand(kConfirm);
     }
+}
+
+TEST_F(NoMemoryTest, Frames) {
+    static const std::vector<std::uint8_t> arrRecord(kFrameRecordBytes, 9);
+    using CRecordFunction = const std::uint8_t* (*)();
+    const CRecordFunction pRecord = [] { return arrRecord.data(); };
+    for (const int nFrame : {3, 5})
+        m_platform.Libraries().AddFunction("FuncStickerFrameData_" + std::to_string(nFrame),
+                                           reinterpret_cast<void*>(pRecord));
+    OpenPicture();
+    GoTo(EMode::Stick);
+    for (const int nRadio : {kRadioImageSize, kRadioPhoneSize}) {
+        Click(nRadio);
+        m_dialog.OnCommand(nRadio == kRadioImageSize ? kCmdLarge : kCmdFlipVertical);
+        for (const int nItem : {3, 5, 0})
+            Try("frame " + std::to_string(nItem), [=, this] {
+                Controls().Select(kFrameList, nItem);
+                m_dialog.OnNotify(kFrameList, ENotice::Clicked);
+            });
+    }
+    EXPECT_EQ(m_platform.Libraries().LoadedCount(), 0);
+    Click(kRadioImageSize);
+    EXPECT_EQ(m_host.SelectRow(kFrameList, 3), "");
+    for (const int nId : {kCmdFlipVertical, kCmdTurnLeft, kCmdUndo}) TryCommand(nId);
 }
 
 TEST_F(NoMemoryTest, CommandsOfDraw) {

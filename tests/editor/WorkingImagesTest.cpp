@@ -64,6 +64,7 @@ TEST(WorkingImages, AnEntryBringsBackSizeRuleAndFrame) {
             images.SetDisplaySize({90, 61});
             images.m_sizeRule = bPhone ? ESizeRule::PhoneScreen : ESizeRule::Picture;
             images.m_bFrameOn = bFrame;
+            images.m_imgNoFrame = NumberedImage(30, 20);
             const CUndoEntry entry = images.MakeEntry(images.m_imgWork);
             // The entry holds what was seen, so under the phone's size that size.
             const CSize sizeEntry = bPhone ? CSize{176, 144} : CSize{90, 61};
@@ -80,7 +81,7 @@ TEST(WorkingImages, AnEntryBringsBackSizeRuleAndFrame) {
             EXPECT_EQ(images.IsPhoneSize(), bPhone);
             EXPECT_EQ(images.m_bFrameOn, bFrame);
             // What was kept without a frame follows only where a frame is on.
-            EXPECT_EQ(images.m_imgNoFrame.Pixels() == NumberedPixels(60, 40), bFrame);
+            EXPECT_EQ(images.m_imgNoFrame.Pixels() == NumberedPixels(30, 20), bFrame);
         }
 }
 

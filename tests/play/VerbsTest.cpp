@@ -62,3 +62,15 @@ TEST_F(ScriptTest, OneSeedRepeatsAirbrushAndEffects) {
     EXPECT_EQ(PixelsOf("tile.ppm"), PixelsOf("same.ppm"));
     EXPECT_NE(PixelsOf("tile.ppm"), PixelsOf("later.ppm"));
 }
+
+// Frames by mouse and key, from a library or without one; a person's arrow means nothing elsewhere.
+TEST_F(ScriptTest, FramesAndTheirLibrary) {
+    MakePicture("a.png", 30, 20);
+    EXPECT_EQ(Print("libraries none\nopen a.png\nmode 4\nselect 1146 12\nshow 1146\nboxes\nstate frame\n"
+                    "key left\nshow 1146\nselect 1146 -1\nstate undo\nselect 1146 0\nstate frame"),
+              "show 1146 shown enabled unchecked \"\" row 12 of 13\nboxes 1\n"
+              "box \"Orvo Fotarium V 1.0\" exclamation \"没有搜索到StickerFrameData.dll文件\"\nframe 1\n"
+              "show 1146 shown enabled unchecked \"\" row 11 of 13\nundo 3\nframe 0\n");
+    EXPECT_FALSE(Play("libraries nowhere").bDone);
+    EXPECT_FALSE(Play("open a.png\nkey down").bDone);
+}

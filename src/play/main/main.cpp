@@ -30,6 +30,7 @@ int Play(const std::string& strScript, bool bStrict, const char* szSelf) {
     CBitmapStore bitmaps((FolderOfProgram(szSelf) / "../share/fotarium/skin").string());
     CScriptedPlatform platform;
     platform.SetBitmaps(&bitmaps);
+    platform.Libraries().SetFolders(FoldersOfLibraries(FolderOfProgram(szSelf).string()));
     CPlayer player(platform, std::cout, std::cerr);
     player.SetStrict(bStrict);
     return player.Play(bStandardInput ? std::cin : file, strScript) ? 0 : kCannotBeDone;

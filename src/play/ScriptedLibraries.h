@@ -1,0 +1,28 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "window/LibraryFolders.h"
+
+// Real libraries from folders that are told, or, once a function has been added, one made of such functions
+// in the place of every other.
+class CScriptedLibraries : public CLibraries {
+  public:
+    void SetFolders(std::vector<std::string> arrFolders) { m_arrFolders = std::move(arrFolders); }
+    void AddFunction(const std::string& strName, void* pFunction) { m_mapFunctions[strName] = pFunction; }
+    void RemoveFunctions() { m_mapFunctions.clear(); }
+    // What the program has loaded and not let go.
+    int LoadedCount() const { return m_nLoaded; }
+    // The names of the files that it has asked for.
+    const std::vector<std::string>& Asked() const { return m_arrAsked; }
+
+    [[nodiscard]] std::unique_ptr<CLibrary> Load(const std::string& strFileName) override;
+
+  private:
+    std::vector<std::string> m_arrFolders;
+    std::map<std::string, void*> m_mapFunctions;
+    std::vector<std::string> m_arrAsked;
+    int m_nLoaded = 0;
+};

@@ -28,6 +28,7 @@ enum {
 extern "C" {
 #endif
 
+/* Their names are the contract. NOLINTBEGIN(readability-identifier-naming,modernize-*) */
 STICKER_FRAME_EXPORT const unsigned char* FuncStickerFrameData_1(void);
 STICKER_FRAME_EXPORT const unsigned char* FuncStickerFrameData_2(void);
 STICKER_FRAME_EXPORT const unsigned char* FuncStickerFrameData_3(void);
@@ -40,6 +41,7 @@ STICKER_FRAME_EXPORT const unsigned char* FuncStickerFrameData_9(void);
 STICKER_FRAME_EXPORT const unsigned char* FuncStickerFrameData_10(void);
 STICKER_FRAME_EXPORT const unsigned char* FuncStickerFrameData_11(void);
 STICKER_FRAME_EXPORT const unsigned char* FuncStickerFrameData_12(void);
+/* NOLINTEND(readability-identifier-naming,modernize-*) */
 
 #ifdef __cplusplus
 }

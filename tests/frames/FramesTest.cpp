@@ -166,7 +166,8 @@ TEST(FrameDrawing, MovesAsideWhatWouldPassForTheKey) {
     ASSERT_EQ(record.size(), 21);
     for (std::size_t i = 0; i < 7; ++i) {
         const auto* p = reinterpret_cast<const unsigned char*>(record.constData()) + i * 3;
-        EXPECT_EQ(CPixel(p[0], p[1], p[2]), arrTo[i]) << i;
+        const CPixel pixel{p[0], p[1], p[2]};
+        EXPECT_EQ(pixel, arrTo[i]) << i;
     }
 }
 

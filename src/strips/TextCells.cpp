@@ -17,7 +17,7 @@ constexpr int kTopMargin = 2;
 const QColor kWarm(232, 143, 54);
 
 // The words as a mask: ink 0, ground 255.
-bool MakeMask(CTextWarp& warp) {
+bool MakeMask(CTextWarp& warp, QSize& size) {
     QFont font("WenQuanYi Zen Hei");
     font.setPixelSize(kTypeHeight * 5 / 6);
     const QFontMetrics metrics(font);
@@ -31,6 +31,7 @@ bool MakeMask(CTextWarp& warp) {
     std::vector<std::uint8_t> mask;
     for (int y = 0; y < image.height(); ++y)
         mask.insert(mask.end(), image.constScanLine(y), image.constScanLine(y) + image.width());
+    size = image.size();
     return warp.SetMask(mask, image.width(), image.height());
 }
 
@@ -50,16 +51,18 @@ QImage RenderTextCell(int nTextEffect, bool bSelected, int nDensity) {
     TextArtParam param;
     param.nTextEffect = nTextEffect;
     Colour(param, bSelected);
+    CTextWarp warp;
+    QSize sizeMask;
+    if (!MakeMask(warp, sizeMask)) return {};
     param.nBoxX = kSideMargin * nDensity;
     param.nBoxY = kTopMargin * nDensity;
-    param.nBoxWidth = size.width() - 2 * param.nBoxX;
     param.nBoxHeight = size.height() - 2 * param.nBoxY;
+    param.nBoxWidth = sizeMask.width() * param.nBoxHeight / sizeMask.height();
     const auto w = static_cast<float>(param.nBoxWidth);
     const auto h = static_cast<float>(param.nBoxHeight);
     param.fQuad = {0, 0, w, 0, w, h, 0, h};
-    CTextWarp warp;
     warp.SetBase(CPixels::MakeFilled(size.width(), size.height(), ground));
-    if (!MakeMask(warp) || !warp.Render(param)) return {};
+    if (!warp.Render(param)) return {};
     const CPixels& pixels = warp.Result();
     QImage image = QImage(pixels.Bytes().data(), size.width(), size.height(),
                           static_cast<qsizetype>(pixels.Stride()), QImage::Format_RGB888)

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <set>
 
+#include "resources/Texts.h"
 #include "strips/EffectCells.h"
 #include "strips/FrameCells.h"
 
@@ -142,12 +143,24 @@ TEST(Strips, EveryFrameHasItsCellInBothSizes) {
     }
 }
 
+// Each style's words can be told from the others', at rest and lit.
+TEST(Strips, EveryTextEffectHasBothFormsInBothSizes) {
+    for (const int nDensity : {1, 2}) {
+        for (int i = 0; i < kTextEffectCount; ++i) {
+            const QImage normal = Picture(265 + i, nDensity);
+            ASSERT_EQ(normal.size(), QSize(209, 24) * nDensity);
+            EXPECT_GT(MeanDifference(normal, Picture(269 + i, nDensity)), 30) << i;
+            for (int k = 0; k < i; ++k) EXPECT_GT(MeanDifference(normal, Picture(265 + k, nDensity)), 3) << i;
+        }
+    }
+}
+
 TEST(Strips, ComeOutTheSameOnEveryRun) {
     QTemporaryDir folder;
     ASSERT_EQ(QProcess::execute(FOTARIUM_STRIPS_TOOL, {folder.path(), kSamples, kFrames}), 0);
     for (const char* szSub : {"/1x", "/2x"}) {
         const QStringList arrNames = QDir(folder.path() + szSub).entryList(QDir::Files);
-        EXPECT_EQ(arrNames.size(), 2 * kEffectCount + 1 + CFrameCells::kCount + 1);
+        EXPECT_EQ(arrNames.size(), 2 * kEffectCount + 1 + CFrameCells::kCount + 1 + 2 * kTextEffectCount);
         for (const QString& strName : arrNames) {
             EXPECT_EQ(Bytes(folder.path() + szSub + '/' + strName),
                       Bytes(kSkinFolder + szSub + '/' + strName))

@@ -4,8 +4,10 @@
 #include <cstdio>
 
 #include "resources/BitmapIds.h"
+#include "resources/Texts.h"
 #include "strips/EffectCells.h"
 #include "strips/FrameCells.h"
+#include "strips/TextCells.h"
 
 // fotarium-strips OUTDIR SAMPLEDIR FRAMEDIR renders the pictures of the lists into OUTDIR/1x and OUTDIR/2x
 // fotarium-strips --contact PHOTO OUT.png  all effects on one photograph, for looking at
@@ -57,6 +59,19 @@ QString WriteFrames(const QString& strFolder, const CFrameCells& cells, int nDen
     return save(strip, kBmpFrameStrip) ? QString() : "cannot write to " + strFolder;
 }
 
+// Writes each text effect's two forms at one density. Returns as above.
+QString WriteTextEffects(const QString& strFolder, int nDensity) {
+    for (int nEffect = 0; nEffect < kTextEffectCount; ++nEffect) {
+        for (const bool bSelected : {false, true}) {
+            const int nNumber = (bSelected ? kBmpTextEffectSelected : kBmpTextEffectNormal) + nEffect;
+            const QImage cell = RenderTextCell(nEffect, bSelected, nDensity);
+            if (!cell.save(QStringLiteral("%1/%2.png").arg(strFolder).arg(nNumber), "PNG"))
+                return "cannot write to " + strFolder;
+        }
+    }
+    return {};
+}
+
 int WriteContactSheet(const QString& strPhoto, const QString& strOut) {
     const QImage sheet = RenderContactSheet(CxImage(strPhoto.toStdString(), ImageType::kJpeg));
     if (sheet.isNull()) return Fail("cannot read " + strPhoto);
@@ -81,6 +96,8 @@ int main(int nArgs, char** apArgs) {
         if (const QString strWhy = WriteEffects(strFolder, samples, nDensity); !strWhy.isEmpty())
             return Fail(strWhy);
         if (const QString strWhy = WriteFrames(strFolder, frames, nDensity); !strWhy.isEmpty())
+            return Fail(strWhy);
+        if (const QString strWhy = WriteTextEffects(strFolder, nDensity); !strWhy.isEmpty())
             return Fail(strWhy);
     }
     return 0;

@@ -29,7 +29,7 @@ QString CheckNew(const CPerson& person, CSeen& seen) {
 }
 
 CTourStep Frame(const char* szName, const char* szTells, int nItem, const CSeenPtr& pSeen) {
-    return {szName, szTells, [nItem](CPerson& person) { person.ClickFrame(nItem); },
+    return {szName, szTells, [nItem](CPerson& person) { person.ClickPicture(kFrameList, nItem); },
             [pSeen](CPerson& person) { return CheckNew(person, *pSeen); }};
 }
 
@@ -37,7 +37,7 @@ CTourStep Bare(const char* szName, const char* szTells, const CSeenPtr& pSeen) {
     return {szName, szTells,
             [pSeen](CPerson& person) {
                 pSeen->imageFramed = person.LookAt(kCanvas);
-                person.ClickFrame(0);
+                person.ClickPicture(kFrameList, 0);
             },
             [pSeen](CPerson& person) {
                 pSeen->imageLast = person.LookAt(kCanvas);
@@ -66,7 +66,7 @@ void AddPhoneSize(CSteps& steps, const CSeenPtr& pSeen) {
     steps.push_back({"frame-phone-framed", "a frame at that size",
                      [pSeen](CPerson& person) {
                          pSeen->imageLast = person.LookAt(kCanvas);
-                         person.ClickFrame(8);
+                         person.ClickPicture(kFrameList, 8);
                      },
                      [pSeen](CPerson& person) {
                          if (!Differs(person.LookAt(kCanvas), pSeen->imageLast))

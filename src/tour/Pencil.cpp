@@ -1,5 +1,6 @@
 #include "tour/Pencil.h"
 
+#include <QMouseEvent>
 #include <QTest>
 #include <algorithm>
 
@@ -25,15 +26,21 @@ QPoint CPencil::OnCanvas(QPoint pt) const {
 }
 
 void CPencil::Press(QPoint pt, Qt::MouseButton button) {
-    QTest::mousePress(Canvas(), button, Qt::NoModifier, OnCanvas(pt));
+    m_buttons = button;
+    QTest::mousePress(Canvas(), button, m_keys, OnCanvas(pt));
 }
 
 void CPencil::Move(QPoint pt) {
-    QTest::mouseMove(Canvas(), OnCanvas(pt));
+    if (m_keys == Qt::NoModifier) return QTest::mouseMove(Canvas(), OnCanvas(pt));
+    const QPoint ptCanvas = OnCanvas(pt);
+    QMouseEvent event(QEvent::MouseMove, ptCanvas, Canvas()->mapToGlobal(ptCanvas), Qt::NoButton, m_buttons,
+                      m_keys);
+    QCoreApplication::sendEvent(Canvas(), &event);
 }
 
 void CPencil::Release(QPoint pt, Qt::MouseButton button) {
-    QTest::mouseRelease(Canvas(), button, Qt::NoModifier, OnCanvas(pt));
+    m_buttons = Qt::NoButton;
+    QTest::mouseRelease(Canvas(), button, m_keys, OnCanvas(pt));
 }
 
 void CPencil::Stroke(std::initializer_list<QPoint> points, Qt::MouseButton button) {

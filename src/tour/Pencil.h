@@ -12,7 +12,8 @@
 // their way when the next step begins.
 class CPencil {
   public:
-    CPencil(CPerson& person, QSize sizePage) : m_person(person), m_sizePage(sizePage) {}
+    CPencil(CPerson& person, QSize sizePage, Qt::KeyboardModifiers keys = Qt::NoModifier)
+        : m_person(person), m_sizePage(sizePage), m_keys(keys) {}
 
     void Press(QPoint pt, Qt::MouseButton button = Qt::LeftButton);
     void Move(QPoint pt);
@@ -31,4 +32,6 @@ class CPencil {
 
     CPerson& m_person;
     QSize m_sizePage;
+    Qt::MouseButtons m_buttons;    // that are down
+    Qt::KeyboardModifiers m_keys;  // held all the time
 };

@@ -53,8 +53,8 @@ class CPerson {
     QStringList SelectedNames() const;
     QImage LookAtItem(const QString& strName) const;
 
-    // In the list of frames, which is scrolled to the item.
-    void ClickFrame(int nItem);
+    // In a list of pictures, which is scrolled to the item.
+    void ClickPicture(int nId, int nItem);
 
     // In a line of text of the dialog on top: what stands there is replaced.
     void TypeOver(int nId, const QString& strText);

@@ -1,5 +1,6 @@
 // How the person deals with the folder tree, the list of photographs and lines of text.
 
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
@@ -123,10 +124,10 @@ QImage CPerson::LookAtItem(const QString& strName) const {
     return pList->viewport()->grab(rc).toImage();
 }
 
-void CPerson::ClickFrame(int nItem) {
-    auto* pList = qobject_cast<QListView*>(Widget(kFrameList));
+void CPerson::ClickPicture(int nId, int nItem) {
+    auto* pList = qobject_cast<QListView*>(Widget(nId));
     const QModelIndex index = pList == nullptr ? QModelIndex() : pList->model()->index(nItem, 0);
-    const QPoint pt = Aim(pList, index, QStringLiteral("frame %1").arg(nItem));
+    const QPoint pt = Aim(pList, index, QStringLiteral("picture %1 of list %2").arg(nItem).arg(nId));
     if (m_strFault.isEmpty()) QTest::mouseClick(pList->viewport(), Qt::LeftButton, Qt::NoModifier, pt);
 }
 
@@ -138,7 +139,10 @@ void CPerson::TypeOver(int nId, const QString& strText) {
     }
     pEdit->setFocus(Qt::MouseFocusReason);
     pEdit->selectAll();
-    QTest::keyClicks(pEdit, strText);
+    // What has no key of its own comes from an input method.
+    QInputMethodEvent event;
+    event.setCommitString(strText);
+    QCoreApplication::sendEvent(pEdit, &event);
 }
 
 QString CPerson::TypedIn(int nId) const {

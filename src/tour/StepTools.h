@@ -38,6 +38,7 @@ void AddNew(CSteps& steps);
 void AddOpen(CSteps& steps, const CTourFiles& files);
 void AddModes(CSteps& steps);
 void AddFrames(CSteps& steps);
+void AddText(CSteps& steps);
 void AddHistory(CSteps& steps);
 void AddBroken(CSteps& steps, const CTourFiles& files);
 void AddSave(CSteps& steps, const CTourFiles& files);

@@ -18,6 +18,7 @@ std::vector<CTourStep> MakeSteps(const CTourFiles& files) {
     AddModes(steps);
     AddFrames(steps);
     AddHistory(steps);
+    AddText(steps);
     AddEffects(steps);
     AddBroken(steps, files);
     AddSave(steps, files);

@@ -29,7 +29,6 @@ void Colour(TextArtParam& param, CColor color) {
 
 CTextArtFlow::CTextArtFlow(const CEnvironment& env)
     : m_env(env),
-      m_color{m_textParam.byRed, m_textParam.byGreen, m_textParam.byBlue},
       m_list(env.controls, kTextEffectList),
       m_guest({env.images, env.canvas, m_textParam, [this] {
                    if (RunTextArt(Words())) m_env.canvas.Invalidate();
@@ -37,6 +36,7 @@ CTextArtFlow::CTextArtFlow(const CEnvironment& env)
 
 void CTextArtFlow::Init() {
     std::vector<std::string> arrCells;
+    arrCells.reserve(kTextEffectCount);
     for (int i = 0; i < kTextEffectCount; ++i) arrCells.push_back(PictureOf(i, i == m_nTextEffectShown));
     m_list.SetImageList(std::move(arrCells), kTextEffectCellSize);
     for (int i = 0; i < kTextEffectCount; ++i) m_list.AddItem(i, 0, kTextEffectNames[i]);

@@ -80,8 +80,8 @@ class CTextArtFlow {
     CEnvironment m_env;
     std::string m_strTextInput;
     CFontChoice m_font{"黑体", false};
-    CColor m_color;
     TextArtParam m_textParam;
+    CColor m_color{m_textParam.byRed, m_textParam.byGreen, m_textParam.byBlue};
     CTextWarp m_textWarp;
     bool m_bTextBaseLoaded = false;  // the engine's base is the picture that FONT began with
     CImageListBox m_list;

@@ -134,8 +134,8 @@ bool CTextHandles::MoveAll(const CTextView& view, TextArtParam& param, CPoint pt
 void CTextHandles::TellQuad(const CTextView& view, TextArtParam& param) const {
     CQuad quad;
     std::ranges::transform(m_ptQuad, quad.begin(), [&](CPoint pt) { return view.ScreenToImage(pt); });
-    const auto [xLeast, xMost] = std::ranges::minmax({quad[0].x, quad[1].x, quad[2].x, quad[3].x});
-    const auto [yLeast, yMost] = std::ranges::minmax({quad[0].y, quad[1].y, quad[2].y, quad[3].y});
+    const auto [xLeast, xMost] = std::minmax({quad[0].x, quad[1].x, quad[2].x, quad[3].x});
+    const auto [yLeast, yMost] = std::minmax({quad[0].y, quad[1].y, quad[2].y, quad[3].y});
     param.nBoxX = xLeast;
     param.nBoxY = yLeast;
     param.nBoxWidth = xMost - xLeast;

@@ -13,7 +13,6 @@ namespace {
 constexpr QSize kShown(653, 490);
 constexpr QPoint kTopLeft(163, 184);
 constexpr QPoint kTopRight(489, 184);
-constexpr QPoint kBottomRight(489, 306);
 constexpr QPoint kMiddle(326, 245);
 
 constexpr int kSteps = 7;  // words three times, styles four times

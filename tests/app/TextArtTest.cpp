@@ -50,6 +50,8 @@ TEST_F(TextArtTest, WordsAreDrawnOverThePictureAsItWas) {
     EXPECT_EQ((CPoint{Param().nBoxX, Param().nBoxY}), (CPoint{329 - 75 - 177, 271 - 25 - 169}));
     Apply("Ab");
     EXPECT_EQ(Undos(), 1);
+    EXPECT_EQ(m_dialog.TextArt().TextColor(), (CColor{217, 40, 200}));
+    EXPECT_EQ((CColor{Param().byRed, Param().byGreen, Param().byBlue}), (CColor{217, 40, 200}));
     EXPECT_EQ(Work(), Words("Ab", Param()));
     EXPECT_NE(Work(), m_before);
     EXPECT_EQ(Images().m_imgDisplay.Pixels(), Work());

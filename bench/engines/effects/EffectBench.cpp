@@ -4,13 +4,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ctime>
 #include <optional>
 #include <random>
 #include <string>
 
 #include "engines/effects/ImageEffect.h"
 #include "image/CpuChoice.h"
+#include "support/PassTime.h"
 
 namespace {
 
@@ -41,22 +41,10 @@ const CxImage& Picture() {
     return image;
 }
 
-// Time of the processor, not of the clock on the wall: other programs on the machine count little.
-double Now() {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-}
-
 double PlainPassTime() {
     static const double fBest = [] {
         CPixels pixels = MakePicture();
-        double fLeast = 1e9;
-        for (int i = 0; i < 100; ++i) {
-            const double fStart = Now();
-            for (std::uint8_t& n : pixels.MutableBytes()) n = static_cast<std::uint8_t>(255 - n);
-            benchmark::ClobberMemory();
-            fLeast = std::min(fLeast, Now() - fStart);
-        }
-        return fLeast;
+        return PlainPassTime(pixels);
     }();
     return fBest;
 }
@@ -71,12 +59,12 @@ void Run(benchmark::State& state, const CEffectBenchRow& row, bool bPlain) {
     if (row.bAlone && image.MutableBytes().empty()) return state.SkipWithError("no memory for the picture");
     double fLeast = 1e9;
     for (auto _ : state) {
-        const double fStart = Now();
+        const double fStart = ProcessorTime();
         if (!row.bAlone) image = Picture();
         if (!ApplyEffect(image, row.effect, row.nLevel, kWidth, random))
             state.SkipWithError("no memory for the picture");
         benchmark::ClobberMemory();
-        fLeast = std::min(fLeast, Now() - fStart);
+        fLeast = std::min(fLeast, ProcessorTime() - fStart);
     }
     state.counters["passes"] = fLeast / fPass;
     state.counters["at_most"] = bPlain ? 3 * row.fAtMost : row.fAtMost;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ctime>
 #include <optional>
 #include <random>
 #include <string>
@@ -12,6 +11,7 @@
 #include "engines/warp/TextWarp.h"
 #include "image/CpuChoice.h"
 #include "image/Image.h"
+#include "support/PassTime.h"
 
 namespace {
 
@@ -39,36 +39,23 @@ std::vector<std::uint8_t> MakeMask() {
     return mask;
 }
 
-// Time of the processor, not of the clock on the wall: other programs on the machine count little.
-double Now() {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-}
-
 // The least time of a call among those of a state.
 template <class TCall>
 double LeastTime(benchmark::State& state, const TCall& call) {
     double fLeast = 1e9;
     for (auto _ : state) {
-        const double fStart = Now();
+        const double fStart = ProcessorTime();
         if (!call()) state.SkipWithError("no memory for the picture");
         benchmark::ClobberMemory();
-        fLeast = std::min(fLeast, Now() - fStart);
+        fLeast = std::min(fLeast, ProcessorTime() - fStart);
     }
     return fLeast;
 }
 
-// What passes are counted in: x = 255 - x in place over the picture, which nothing can beat by much.
 double PlainPassTime() {
     static const double fBest = [] {
         CPixels pixels = MakePicture(kWidth, kHeight);
-        double fLeast = 1e9;
-        for (int i = 0; i < 100; ++i) {
-            const double fStart = Now();
-            for (std::uint8_t& n : pixels.MutableBytes()) n = static_cast<std::uint8_t>(255 - n);
-            benchmark::ClobberMemory();
-            fLeast = std::min(fLeast, Now() - fStart);
-        }
-        return fLeast;
+        return PlainPassTime(pixels);
     }();
     return fBest;
 }

@@ -26,6 +26,15 @@ bool ShowsPhotograph(const CPerson& person) {
     return person.IsSeen(kCanvas) && CountColors(person.LookAt(kCanvas), kManyColors) >= kManyColors;
 }
 
+QString CheckNew(const CPerson& person, CLooks& looks) {
+    if (person.Asking() != nullptr) return person.AskedText();
+    const QImage image = person.LookAt(kCanvas);
+    if (!ShowsPhotograph(person)) return QStringLiteral("the canvas shows no photograph");
+    if (!Differs(image, looks.imageLast)) return QStringLiteral("the canvas shows the same as before");
+    looks.imageLast = image;
+    return {};
+}
+
 CTourStep Tab(const char* szName, const char* szTells, int nTab, CTourCheck fnCheck) {
     return {szName, szTells, [nTab](CPerson& person) { person.Click(nTab); },
             [nTab, fnCheck = std::move(fnCheck)](CPerson& person) {

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <vector>
 
 #include "tour/Steps.h"
@@ -19,6 +20,15 @@ QString CheckKeys(const CPerson& person, std::initializer_list<int> arrOn, std::
 // The tab of the mode that is up is not there as a button; the others are.
 QString CheckTabs(const CPerson& person, int nHidden);
 bool ShowsPhotograph(const CPerson& person);
+
+// What the steps on one photograph compare with: the canvas at its last look, and as it was before them.
+struct CLooks {
+    QImage imageLast;
+    QImage imageBare;
+};
+using CLooksPtr = std::shared_ptr<CLooks>;
+// The canvas shows a photograph that is not what it showed at the last look; this is the next one.
+QString CheckNew(const CPerson& person, CLooks& looks);
 
 // A click on a tab.
 CTourStep Tab(const char* szName, const char* szTells, int nTab, CTourCheck fnCheck);

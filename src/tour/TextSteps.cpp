@@ -1,7 +1,5 @@
 // FONT: words on a photograph, shaped by the hand.
 
-#include <memory>
-
 #include "resources/Ids.h"
 #include "tour/Pencil.h"
 #include "tour/Screen.h"
@@ -17,103 +15,89 @@ constexpr QPoint kMiddle(326, 245);
 
 constexpr int kSteps = 7;  // words three times, styles four times
 
-struct CSeen {
-    QImage imageLast;
-    QImage imageBare;
-};
-using CSeenPtr = std::shared_ptr<CSeen>;
-
-QString CheckNew(const CPerson& person, CSeen& seen) {
-    if (person.Asking() != nullptr) return person.AskedText();
-    const QImage image = person.LookAt(kCanvas);
-    if (!ShowsPhotograph(person)) return QStringLiteral("the canvas shows no photograph");
-    if (!Differs(image, seen.imageLast)) return QStringLiteral("the canvas shows the same as before");
-    seen.imageLast = image;
-    return {};
-}
-
 CTourStep Changes(const char* szName, const char* szTells, std::function<void(CPerson&)> fnDo,
-                  const CSeenPtr& pSeen) {
-    return {szName, szTells, std::move(fnDo), [pSeen](CPerson& person) { return CheckNew(person, *pSeen); }};
+                  const CLooksPtr& pLooks) {
+    return {szName, szTells, std::move(fnDo),
+            [pLooks](CPerson& person) { return CheckNew(person, *pLooks); }};
 }
 
-CTourStep Words(const char* szName, const char* szTells, const char* szWords, const CSeenPtr& pSeen) {
+CTourStep Words(const char* szName, const char* szTells, const char* szWords, const CLooksPtr& pLooks) {
     return Changes(
         szName, szTells,
         [szWords](CPerson& person) {
             person.TypeOver(kTextInput, szWords);
             person.Click(kTextApply);
         },
-        pSeen);
+        pLooks);
 }
 
-CTourStep Stroke(const char* szName, const char* szTells, QPoint ptFrom, QPoint ptTo, const CSeenPtr& pSeen,
+CTourStep Stroke(const char* szName, const char* szTells, QPoint ptFrom, QPoint ptTo, const CLooksPtr& pLooks,
                  Qt::KeyboardModifiers keys = Qt::NoModifier) {
     return Changes(
         szName, szTells,
         [=](CPerson& person) {
             CPencil(person, kShown, keys).Stroke({ptFrom, ptTo});
         },
-        pSeen);
+        pLooks);
 }
 
-CTourStep Style(const char* szName, const char* szTells, int nRow, const CSeenPtr& pSeen) {
+CTourStep Style(const char* szName, const char* szTells, int nRow, const CLooksPtr& pLooks) {
     return Changes(
-        szName, szTells, [nRow](CPerson& person) { person.ClickPicture(kTextEffectList, nRow); }, pSeen);
+        szName, szTells, [nRow](CPerson& person) { person.ClickPicture(kTextEffectList, nRow); }, pLooks);
 }
 
-void AddShapes(CSteps& steps, const CSeenPtr& pSeen) {
+void AddShapes(CSteps& steps, const CLooksPtr& pLooks) {
     steps.push_back(Stroke("text-corner", "a corner dragged: the words in perspective", kTopRight,
-                           kTopRight + QPoint(90, -110), pSeen));
+                           kTopRight + QPoint(90, -110), pLooks));
     steps.push_back(Stroke("text-moved", "dragged off the corners the whole moves", kMiddle,
-                           kMiddle + QPoint(-40, 90), pSeen));
+                           kMiddle + QPoint(-40, 90), pLooks));
     steps.push_back(Stroke("text-anew", "with Shift the shape is drawn anew", QPoint(60, 60),
-                           QPoint(590, 190), pSeen, Qt::ShiftModifier));
+                           QPoint(590, 190), pLooks, Qt::ShiftModifier));
     steps.push_back(Changes(
         "text-mesh", "the mesh, where the words have not been yet",
-        [](CPerson& person) { person.Click(kLabelMesh); }, pSeen));
+        [](CPerson& person) { person.Click(kLabelMesh); }, pLooks));
     steps.push_back(Stroke("text-bent", "one of its points dragged: the words bend",
-                           kTopLeft + QPoint(108, 40), kTopLeft + QPoint(120, 90), pSeen));
+                           kTopLeft + QPoint(108, 40), kTopLeft + QPoint(120, 90), pLooks));
 }
 
-void AddStyles(CSteps& steps, const CSeenPtr& pSeen) {
-    steps.push_back(Style("text-shaded", "the words in relief", 1, pSeen));
-    steps.push_back(Style("text-outlined", "their outline only", 2, pSeen));
-    steps.push_back(Style("text-reversed", "a box with the words left out", 3, pSeen));
-    steps.push_back(Style("text-plain", "plain words again", 0, pSeen));
-    steps.push_back(Words("text-chinese", "words in Chinese", "万家灯火", pSeen));
-    steps.push_back(Words("text-korean", "words in Korean", "한국어 사진", pSeen));
+void AddStyles(CSteps& steps, const CLooksPtr& pLooks) {
+    steps.push_back(Style("text-shaded", "the words in relief", 1, pLooks));
+    steps.push_back(Style("text-outlined", "their outline only", 2, pLooks));
+    steps.push_back(Style("text-reversed", "a box with the words left out", 3, pLooks));
+    steps.push_back(Style("text-plain", "plain words again", 0, pLooks));
+    steps.push_back(Words("text-chinese", "words in Chinese", "万家灯火", pLooks));
+    steps.push_back(Words("text-korean", "words in Korean", "한국어 사진", pLooks));
     steps.push_back(Changes(
         "text-no-lines", "the lines of the shape are hidden",
-        [](CPerson& person) { person.Click(kLabelLines); }, pSeen));
+        [](CPerson& person) { person.Click(kLabelLines); }, pLooks));
 }
 
 }  // namespace
 
 void AddText(CSteps& steps) {
-    const auto pSeen = std::make_shared<CSeen>();
+    const auto pLooks = std::make_shared<CLooks>();
     steps.push_back({"text", "FONT: the shape of the words stands over the photograph",
-                     [pSeen](CPerson& person) {
-                         pSeen->imageBare = person.LookAt(kCanvas);
+                     [pLooks](CPerson& person) {
+                         pLooks->imageBare = person.LookAt(kCanvas);
                          person.Click(kTabFont);
                      },
-                     [pSeen](CPerson& person) { return CheckNew(person, *pSeen); }});
-    steps.push_back(Words("text-words", "words are typed and applied", "Lanterns", pSeen));
-    AddShapes(steps, pSeen);
-    AddStyles(steps, pSeen);
+                     [pLooks](CPerson& person) { return CheckNew(person, *pLooks); }});
+    steps.push_back(Words("text-words", "words are typed and applied", "Lanterns", pLooks));
+    AddShapes(steps, pLooks);
+    AddStyles(steps, pLooks);
     steps.push_back(Changes(
-        "text-lines", "and shown again", [](CPerson& person) { person.Click(kLabelLines); }, pSeen));
+        "text-lines", "and shown again", [](CPerson& person) { person.Click(kLabelLines); }, pLooks));
     steps.push_back(Tab("text-left", "EFFECT: the words belong to the picture", kTabEffect,
                         [](CPerson& person) { return Unless(ShowsPhotograph(person), "no picture"); }));
     steps.push_back(Tab("text-back", "FONT again, with a shape at its start", kTabFont,
-                        [pSeen](CPerson& person) { return CheckNew(person, *pSeen); }));
+                        [pLooks](CPerson& person) { return CheckNew(person, *pLooks); }));
     steps.push_back(Changes(
         "text-undo", "its steps taken back: the photograph without words",
         [](CPerson& person) {
             for (int i = 0; i < kSteps; ++i) person.Click(kCmdUndo);
         },
-        pSeen));
-    steps.push_back(Tab("text-done", "EFFECT again, as before", kTabEffect, [pSeen](CPerson& person) {
-        return Unless(!Differs(person.LookAt(kCanvas), pSeen->imageBare), "words are left");
+        pLooks));
+    steps.push_back(Tab("text-done", "EFFECT again, as before", kTabEffect, [pLooks](CPerson& person) {
+        return Unless(!Differs(person.LookAt(kCanvas), pLooks->imageBare), "words are left");
     }));
 }

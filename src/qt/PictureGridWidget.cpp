@@ -12,9 +12,6 @@
 
 namespace {
 
-constexpr char kStyle[] = "QListView { border: none; background: %1; }";
-constexpr char kBorderStyle[] =
-    "QListView { border: 1px solid; border-color: #4a5458 #aab5ac #aab5ac #4a5458; background: %1; }";
 constexpr int kWheelPixels = 20;  // three of these a notch
 constexpr int kRim = 2;           // of the mark, around its picture
 
@@ -25,13 +22,7 @@ CPictureGridWidget::CPictureGridWidget(const CControlContext& context)
       m_context(context),
       m_delegate(context.pictures, context.nDensity),
       m_hand(context.dialog, context.control.nId) {
-    setStyleSheet(
-        QString(HasBorder(context.control) ? kBorderStyle : kStyle).arg(SkinColors::kListGround.name()) +
-        kScrollBarStyle);
-    setModel(&m_model);
-    setItemDelegate(&m_delegate);
-    setEditTriggers(NoEditTriggers);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    SetUpPictures(*this, context.control, m_model, m_delegate);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollMode(ScrollPerPixel);
     MirrorItems();

@@ -13,9 +13,6 @@
 
 namespace {
 
-constexpr char kStyle[] = "QListView { border: none; background: %1; }";
-constexpr char kBorderStyle[] =
-    "QListView { border: 1px solid; border-color: #4a5458 #aab5ac #aab5ac #4a5458; background: %1; }";
 constexpr int kWheelNotch = 120;  // what a wheel reports for one click
 
 bool MovesRow(int nKey) {
@@ -45,15 +42,23 @@ QSize CPictureDelegate::sizeHint(const QStyleOptionViewItem& option, const QMode
     return pPixmap == nullptr ? QStyledItemDelegate::sizeHint(option, index) : pPixmap->size() / m_nDensity;
 }
 
+void SetUpPictures(QListView& view, const CControl& control, QStandardItemModel& model,
+                   CPictureDelegate& delegate) {
+    const char* const szBorder = HasBorder(control)
+                                     ? "border: 1px solid; border-color: #4a5458 #aab5ac #aab5ac #4a5458;"
+                                     : "border: none;";
+    view.setStyleSheet(
+        QString("QListView { %1 background: %2; }").arg(szBorder, SkinColors::kListGround.name()) +
+        kScrollBarStyle);
+    view.setModel(&model);
+    view.setItemDelegate(&delegate);
+    view.setEditTriggers(QListView::NoEditTriggers);
+    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
 CPictureListWidget::CPictureListWidget(const CControlContext& context)
     : QListView(context.pParent), m_context(context), m_delegate(context.pictures, context.nDensity) {
-    setStyleSheet(
-        QString(HasBorder(context.control) ? kBorderStyle : kStyle).arg(SkinColors::kListGround.name()) +
-        kScrollBarStyle);
-    setModel(&m_model);
-    setItemDelegate(&m_delegate);
-    setEditTriggers(NoEditTriggers);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    SetUpPictures(*this, context.control, m_model, m_delegate);
     setVerticalScrollMode(ScrollPerItem);
     setUniformItemSizes(true);
     MirrorRows();

@@ -25,6 +25,11 @@ class CPictureDelegate : public QStyledItemDelegate {
     int m_nDensity;
 };
 
+// What every view of pictures has in common: border, ground and scroll bar as the control says, its model and
+// delegate, and no editing.
+void SetUpPictures(QListView& view, const CControl& control, QStandardItemModel& model,
+                   CPictureDelegate& delegate);
+
 // A list box whose rows are pictures, one below the other, with a scroll bar if they do not all fit. It
 // scrolls by whole rows. A selected row looks as its picture does: whoever owns the list changes that.
 class CPictureListWidget : public QListView, public CControlWidget {

@@ -180,14 +180,14 @@ void CTextArtFlow::ShowEffect() {
     m_list.Select(m_nTextEffectShown);
 }
 
-// Without memory the selection goes back.
+// The selection goes back first: without memory it stays there.
 void CTextArtFlow::OnSelChangeTextEffect() {
     const int nEffect = m_list.Selection();
     if (!m_env.state.m_bImageOpen || nEffect < 0 || nEffect >= kTextEffectCount) return;
+    m_list.Select(m_nTextEffectShown);
     const bool bChanged = Change([nEffect](CWords& words, CEditPictures& /*next*/) {
         words.param.nTextEffect = nEffect;
         return true;
     });
-    if (!bChanged) m_env.panel.Invalidate();
-    ShowEffect();
+    if (bChanged) ShowEffect();
 }

@@ -279,3 +279,29 @@ TEST_F(NoMemoryTest, Strokes) {
     Try("beside the float", [this] { Drag({208, 188}, {100, 100}); });
     EXPECT_FALSE(Draw().IsFloating());
 }
+
+TEST_F(NoMemoryTest, Words) {
+    OpenPicture();
+    GoTo(EMode::Font);
+    TryCommand(kTextApply);
+    Try("colour", [this] {
+        m_platform.AnswerColor({1, 2, 3});
+        m_dialog.OnCommand(kTextColor);
+    });
+    EXPECT_EQ(m_dialog.TextArt().TextColor(), (CColor{1, 2, 3}));
+    Try("font", [this] {
+        m_platform.AnswerFont("黑体", true);
+        m_dialog.OnCommand(kTextFont);
+    });
+    Try("style", [this] {
+        Controls().Select(kTextEffectList, 2);
+        m_dialog.OnNotify(kTextEffectList, ENotice::SelectionChanged);
+    });
+    EXPECT_EQ(m_dialog.TextArt().Param().nTextEffect, 2);
+    for (const int nShape : {kRadioMesh, kRadioProjection}) TryCommand(nShape);
+    const CPoint pt = m_dialog.TextArt().Guest().Handles().Quad()[0];
+    Try("shape", [&] {
+        for (const auto action : {EMouseAction::Press, EMouseAction::Release})
+            EXPECT_EQ(m_host.MouseOnView(kCanvas, action, EMouseButton::Left, pt), "");
+    });
+}

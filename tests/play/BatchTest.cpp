@@ -17,6 +17,14 @@ class ProgramTest : public ScriptTest {
         EXPECT_EQ(ReadBytes("out.txt"), ReadBytes(strScript + ".expected"));
         EXPECT_EQ(ReadBytes("err.txt"), "");
     }
+    // What a script dumped is the picture of that name in this folder.
+    static void ExpectPictures(std::initializer_list<std::string> arrNames) {
+        for (const std::string& strName : arrNames) {
+            const CPixels expected = PixelsOf(FOTARIUM_SOURCE_DIR "/tests/play/" + strName + ".png");
+            ASSERT_FALSE(expected.IsEmpty());
+            EXPECT_EQ(Difference(PixelsOf(strName + ".ppm"), expected), "") << strName;
+        }
+    }
 };
 
 TEST_F(ProgramTest, PlaysTheWalk) {
@@ -54,11 +62,19 @@ TEST_F(ProgramTest, PlaysTheBrowse) {
 TEST_F(ProgramTest, PlaysThePaint) {
     ASSERT_TRUE(FlatImage(160, 120, {255, 255, 255}).Save("white.png", ImageType::kPng));
     ExpectPlays("paint");
-    for (const char* szName : {"painted", "floating", "cropped"}) {
-        const CPixels expected = PixelsOf(std::string(FOTARIUM_SOURCE_DIR "/tests/play/") + szName + ".png");
-        ASSERT_FALSE(expected.IsEmpty());
-        EXPECT_EQ(Difference(PixelsOf(std::string(szName) + ".ppm"), expected), "") << szName;
+    ExpectPictures({"painted", "floating", "cropped"});
+}
+
+// Words on photographs: in perspective, and bent by the mesh.
+TEST_F(ProgramTest, PlaysTheWords) {
+    for (const auto& [szSample, szName] : {std::pair("静物", "photo.png"), {"湖光", "lake.png"}}) {
+        const std::string strSample = FOTARIUM_SOURCE_DIR "/src/resources/samples/" + std::string(szSample);
+        CxImage image(strSample + ".jpg", ImageType::kJpeg);
+        ASSERT_TRUE(image.Resample(320, 240) && image.Save(szName, ImageType::kPng));
     }
+    ExpectPlays("words");
+    ExpectPlays("mesh");
+    ExpectPictures({"projected", "bent", "outlined"});
 }
 
 TEST_F(ProgramTest, ExitStatus) {

@@ -33,6 +33,11 @@ class CBenchProgram {
         Command(kCmdSize);
     }
     void Pump() { m_host.Pump(); }
+    // The left button on the canvas, in client pixels, with the paints that follow.
+    void Hand(EMouseAction action, CPoint pt, unsigned nKeys = 0) {
+        const EMouseButton button = action == EMouseAction::Move ? EMouseButton::None : EMouseButton::Left;
+        if (!m_host.MouseOnView(kCanvas, action, button, pt, nKeys).empty()) std::abort();
+    }
 
   private:
     CScriptedPlatform m_platform;

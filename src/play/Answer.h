@@ -42,7 +42,7 @@ struct CAsked {
     CColor colorStart;
     CFontChoice fontStart;
     std::vector<CMenuItem> arrItems;
-    int nDialog = 0;  // number of the program's own dialog
+    int nDialog = 0;  // number of the program's own dialog, or of the panel in one of the system's
 };
 
 // What went amiss between questions and answers.

@@ -200,9 +200,13 @@ CFileChoice CScriptedPlatform::EnterFolderOf(const std::string& strPath) {
 
 std::optional<CFileChoice> CScriptedPlatform::RunOpen(const CFileDialogRequest& request,
                                                       CFileDialogPanel* pPanel) {
-    Ask(EQuestion::Open).request = request;
+    CAsked& asked = Ask(EQuestion::Open);
+    asked.request = request;
     std::optional<CPlayHost> host;
-    if (pPanel != nullptr) host.emplace(*this, *pPanel, m_pBitmaps).Init();
+    if (pPanel != nullptr) {
+        asked.nDialog = pPanel->Template().nId;
+        host.emplace(*this, *pPanel, m_pBitmaps).Init();
+    }
     const std::optional<CAnswer> answer = TakeAnswer(EQuestion::Open);
     if (!answer) return std::nullopt;
     // The user clicks the file before he takes it.

@@ -189,6 +189,9 @@ TEST_F(TextArtTest, LinesAreDrawnOverThePictureAndGoWithoutATrace) {
     EXPECT_EQ(Canvas(ptCorner.x - 3, ptCorner.y - 3), (CColor{}));
     EXPECT_EQ(Canvas(ptCorner.x + 2, ptCorner.y + 2), (CColor{}));
     EXPECT_NE(Canvas(ptCorner.x - 4, ptCorner.y - 4), (CColor{}));
+    int nInk = 0;
+    for (int i = 5; i < 105; ++i) nInk += Canvas(ptCorner.x + i, ptCorner.y) == CColor{} ? 1 : 0;
+    EXPECT_TRUE(nInk > 40 && nInk < 90) << "dashes and dots, not a whole line";
     Mouse(EMouseAction::Press, ptCorner);
     for (int i = 1; i < 40; ++i) Mouse(EMouseAction::Move, {ptCorner.x - i, ptCorner.y + i % 7});
     EXPECT_NE(m_dialog.Canvas().Surface().Pixels(), shown);

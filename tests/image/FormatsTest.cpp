@@ -69,6 +69,12 @@ TEST_F(Formats, EveryTypeOfTheTableComesBackWithItsAlphaWhereItHasOne) {
             EXPECT_EQ(it, file.end()) << strTime;
         }
 
+        if (format.type == ImageType::kPng) {
+            const Bytes density = {'p', 'H', 'Y', 's', 0, 0, 0x0E, 0xC3, 0, 0, 0x0E, 0xC3, 1};
+            EXPECT_NE(std::search(file.begin(), file.end(), density.begin(), density.end()), file.end())
+                << "96 dots to an inch, told by the metre";
+        }
+
         // Cut files, from the header to the last quarter.
         for (std::size_t n = 0; n <= file.size() * 3 / 4; n += file.size() / 16 + 1) {
             WriteBytes(strPath, std::span(file).first(n));

@@ -107,6 +107,7 @@ TEST(DialogView, MouseBesideControlsIsTheDialogs) {
 
 TEST(DialogView, HoverIsToldOncePerMoveAndNotWhileAButtonIsHeld) {
     CShownDialog shown(kDialog);
+    EXPECT_TRUE(shown.view->hasMouseTracking()) << "no button need be held";
     for (const int nId : {13, 10}) Move(*shown.view, shown.Centre(nId));
     Press(*shown.view, shown.Centre(10));
     Move(*shown.view, shown.Centre(11));

@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "TestDialog.h"
 #include "qt/QtPlatform.h"
@@ -226,7 +227,9 @@ TEST(Choosers, FontKeepsAFaceThatTheMachineLacks) {
         EXPECT_NE(fnSample().family(), strFace) << "the sample follows the face";
         for (QListWidget* pList : arrLists)
             if (pList->count() > 2) pList->setCurrentRow(pList->count() - 1);
-        pWindow->accept();
+        for (auto* pButton : pWindow->findChildren<QPushButton*>())
+            if (pButton->text() == "确定") pButton->click();
+        if (pWindow->isVisible()) pWindow->reject();
     });
     const auto choice = test.platform.fonts.Run({"黑体", true});
     ASSERT_TRUE(choice.has_value());

@@ -98,6 +98,7 @@ TEST_F(FileDialogs, MatchingFilesAreListedAndThePanelFollowsTheSelection) {
             if (index.data().toString() != "sub") pList->setCurrentIndex(index);
         }
         EXPECT_EQ(Window().nameFilters(), QStringList{"JPG Files (*.JPG)"});
+        EXPECT_EQ(Window().labelText(QFileDialog::Accept), "打开(&O)");
         EXPECT_EQ(panel.m_nInits, 1);
         // Name, size and date stand in columns.
         const auto* pTree = Window().findChild<QTreeView*>("treeView");

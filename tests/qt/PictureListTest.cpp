@@ -136,6 +136,7 @@ TEST_F(PictureList, KeysMoveFromTheRowWithTheRim) {
                                     {Qt::Key_Down, 1},
                                     {Qt::Key_Right, 2},
                                     {Qt::Key_Left, 1},
+                                    {Qt::Key_A, 1},
                                     {Qt::Key_End, 30}}) {
         QTest::keyClick(View(), key);
         EXPECT_EQ(Selected(), nRow);

@@ -70,6 +70,8 @@ TEST(ScrollView, WheelAndBarsScroll) {
     EXPECT_EQ(test.view.ScrollPosition().x, 0);
     for (QScrollBar* pBar : test.Widget().findChildren<QScrollBar*>()) pBar->setValue(99999);
     EXPECT_EQ(test.view.ScrollPosition(), test.view.ScrollLimit());
+    for (QScrollBar* pBar : test.Widget().findChildren<QScrollBar*>()) pBar->setValue(0);
+    EXPECT_EQ(test.view.ScrollPosition(), CPoint{});
     test.view.ScrollTo({3, 4});
     for (const QScrollBar* pBar : test.Widget().findChildren<QScrollBar*>())
         EXPECT_EQ(pBar->value(), pBar->orientation() == Qt::Horizontal ? 3 : 4);

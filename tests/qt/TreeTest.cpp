@@ -225,6 +225,10 @@ TEST_F(Tree, ADeepNameCanBeScrolledTo) {
     const QRect rc = Row(item);
     EXPECT_TRUE(View().viewport()->rect().contains(QPoint(rc.left() + 20, rc.center().y())));
     EXPECT_GT(View().horizontalScrollBar()->maximum(), 0);
+    for (int i = 0; i < 30; ++i) item = tree.InsertLast(lazy, "below", ETreeIcon::Folder, false);
+    tree.Select(item);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(View().viewport()->rect().contains(Row(item).center()));
 }
 
 // A few pixels of each: a rim, the body's fall from light to dark, what tells it from the others.

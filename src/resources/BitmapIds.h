@@ -1,5 +1,7 @@
 #pragma once
 
+#include "image/Geometry.h"
+
 // The pictures of the skin by their numbers. Where each stands is the affair of whoever draws it; buttons
 // find theirs by their captions.
 
@@ -47,3 +49,23 @@ inline constexpr int kBmpSprayLargeLit = 174;
 // The two pages of the size dialog
 inline constexpr int kBmpSizeOwn = 497;
 inline constexpr int kBmpSizePhone = 498;
+// The phone's dialogs: their grounds; what runs while they wait, one picture a step of 386 by 182 at
+// kLinkFrameAt; the strips of 369 by 26 below that, at kLinkStripAt
+inline constexpr int kBmpLink = 637;
+inline constexpr int kBmpTransfer = 550;
+inline constexpr int kBmpPhoneFiles = 546;
+inline constexpr int kBmpPhoneSize = 544;
+inline constexpr int kBmpPortSelect = 565;
+inline constexpr int kBmpConnectFrame = 619;
+inline constexpr int kConnectFrames = 17;
+inline constexpr int kBmpTakeFrame = 647;
+inline constexpr int kBmpSendFrame = 639;
+inline constexpr int kTransferFrames = 8;
+inline constexpr int kBmpStripConnect = 638;
+inline constexpr int kBmpStripRestart = 658;
+inline constexpr int kBmpStripTake = 602;
+inline constexpr int kBmpStripTaken = 601;
+inline constexpr int kBmpStripSend = 603;
+inline constexpr int kBmpStripSent = 604;
+inline constexpr CPoint kLinkFrameAt{7, 7};
+inline constexpr CPoint kLinkStripAt{22, 240};

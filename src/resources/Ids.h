@@ -5,7 +5,12 @@
 inline constexpr int kDlgPreview = 101;
 inline constexpr int kDlgMain = 102;
 inline constexpr int kDlgSize = 154;
+inline constexpr int kDlgPortSelect = 159;
+inline constexpr int kDlgPhoneFile = 160;
 inline constexpr int kDlgSplash = 273;
+inline constexpr int kDlgPhoneSize = 543;
+inline constexpr int kDlgTransfer = 549;
+inline constexpr int kDlgLink = 553;
 
 // Files and history
 inline constexpr int kCmdOpen = 1000;
@@ -124,3 +129,25 @@ inline constexpr int kSizeKeepRatio = 1110;
 inline constexpr int kSizeKeepRatioLabel = 1252;
 inline constexpr int kSizeOk = 1103;
 inline constexpr int kSizeCancel = 1106;
+
+// The phone's dialogs: which port, which of its files, which of its sizes, and the line below a transfer
+inline constexpr int kPortList = 1124;
+inline constexpr int kPortOk = 1201;
+inline constexpr int kPortCancel = 1202;
+inline constexpr int kPhoneFiles = 1125;
+inline constexpr int kPhoneFilesAll = 1156;
+inline constexpr int kPhoneFilesAllLabel = 1253;
+inline constexpr int kPhoneFilesNone = 1127;
+inline constexpr int kPhoneFilesNoneLabel = 1254;
+inline constexpr int kPhoneFilesOk = 1199;
+inline constexpr int kPhoneFilesCancel = 1200;
+inline constexpr int kPhoneSizePicture = 1193;
+inline constexpr int kPhoneSizes = 1192;
+inline constexpr int kPhoneSizeOk = 1194;
+inline constexpr int kPhoneSizeCancel = 1195;
+inline constexpr int kTransferText = 1264;
+
+// The menu of the phone's files
+inline constexpr int kMenuSortNumber = 32786;
+inline constexpr int kMenuSortName = 32787;
+inline constexpr int kMenuSortSize = 32788;

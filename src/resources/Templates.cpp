@@ -36,6 +36,64 @@ constexpr CControlLookRow kSizeLooks[] = {
     {kSizePhoneList, {.border = EBorder::None}},
 };
 
+constexpr CControlTemplate kPortControls[] = {
+    {kPortList, EControlKind::TextList, CRect::FromPlace(17, 14, 229, 80)},
+    {kPortOk, EControlKind::BitmapButton, CRect::FromPlace(38, 102, 86, 24), "PORTSELOK"},
+    {kPortCancel, EControlKind::BitmapButton, CRect::FromPlace(140, 102, 86, 24), "PORTSELCANCEL"},
+};
+
+constexpr CControlLookRow kPortLooks[] = {
+    {kPortList, {.szSpoken = "端口"}},
+    {kPortOk, {.szSpoken = "确定"}},
+    {kPortCancel, {.szSpoken = "取消"}},
+};
+
+constexpr CControlTemplate kPhoneFileControls[] = {
+    {kPhoneFiles, EControlKind::CheckTable, CRect::FromPlace(7, 32, 386, 164)},
+    {kPhoneFilesAll, EControlKind::Check, CRect::FromPlace(59, 204, 14, 14)},
+    {kPhoneFilesAllLabel, EControlKind::BitmapLabel, CRect::FromPlace(75, 204, 76, 15), "662"},
+    {kPhoneFilesNone, EControlKind::Check, CRect::FromPlace(246, 204, 14, 14)},
+    {kPhoneFilesNoneLabel, EControlKind::BitmapLabel, CRect::FromPlace(262, 204, 76, 15), "663"},
+    {kPhoneFilesOk, EControlKind::BitmapButton, CRect::FromPlace(100, 255, 86, 24), "PCLINKOK"},
+    {kPhoneFilesCancel, EControlKind::BitmapButton, CRect::FromPlace(202, 255, 86, 24), "PCLINKCANCEL"},
+};
+
+constexpr CTableColumn kPhoneFileColumns[] = {{"Num", 47}, {"File Name", 182}, {"Size", 69}, {"Memory", 93}};
+
+constexpr CControlLookRow kPhoneFileLooks[] = {
+    {kPhoneFiles, {.szSpoken = "手机文件", .arrColumns = kPhoneFileColumns}},
+    {kPhoneFilesAll, {.szSpoken = "全部选择"}},
+    {kPhoneFilesAllLabel, {.szSpoken = "全部选择"}},
+    {kPhoneFilesNone, {.szSpoken = "全部取消"}},
+    {kPhoneFilesNoneLabel, {.szSpoken = "全部取消"}},
+    {kPhoneFilesOk, {.szSpoken = "确定"}},
+    {kPhoneFilesCancel, {.szSpoken = "取消"}},
+};
+
+constexpr CControlTemplate kPhoneSizeControls[] = {
+    {kPhoneSizePicture, EControlKind::BitmapButton, CRect::FromPlace(7, 20, 117, 24), "PHONEIMAGE"},
+    {kPhoneSizes, EControlKind::Combo, CRect::FromPlace(66, 96, 154, 24)},
+    {kPhoneSizeOk, EControlKind::BitmapButton, CRect::FromPlace(278, 69, 86, 24), "SIZEOK"},
+    {kPhoneSizeCancel, EControlKind::BitmapButton, CRect::FromPlace(278, 110, 86, 24), "SIZECANCEL"},
+};
+
+constexpr CControlLookRow kPhoneSizeLooks[] = {
+    {kPhoneSizes, {.szSpoken = "手机图片大小", .border = EBorder::None}},
+    {kPhoneSizeOk, {.szSpoken = "确定"}},
+    {kPhoneSizeCancel, {.szSpoken = "取消"}},
+};
+
+constexpr CControlTemplate kTransferControls[] = {
+    {kTransferText, EControlKind::Static, CRect::FromPlace(22, 206, 356, 20)},
+};
+
+constexpr CControlLookRow kTransferLooks[] = {
+    {kTransferText, {.colorText = CColor{0, 0, 0}, .colorGround = CColor{200, 200, 177}}},
+};
+
+constexpr CMenuItemTemplate kSortItems[] = {
+    {kMenuSortNumber, "按文件号码"}, {kMenuSortName, "按文件名"}, {kMenuSortSize, "按文件大小"}};
+
 constexpr CMenuItemTemplate kMenuItems[] = {
     {kMenuSize, "变更大小"}, {kMenuFlipVertical, "上下"}, {kMenuFlipHorizontal, "左右"},
     {kMenuTurnLeft, "-90°"}, {kMenuTurnRight, "+90°"},    {kMenuLarge, "扩大"},
@@ -50,3 +108,15 @@ const CDialogTemplate kPreviewPanel = {kDlgPreview, "", {142, 232}, EDialogFrame
 const CDialogTemplate kSizeDialog = {kDlgSize,      "大小变更", {400, 192}, EDialogFrame::Plain,
                                      kSizeControls, kSizeLooks, kSizeOk,    kSizeCancel};
 const std::span<const CMenuItemTemplate> kPictureMenu = kMenuItems;
+const CDialogTemplate kPortSelectDialog = {kDlgPortSelect, "포트 설정", {263, 136}, EDialogFrame::Plain,
+                                           kPortControls,  kPortLooks,  kPortOk,    kPortCancel};
+const CDialogTemplate kPhoneFileDialog = {kDlgPhoneFile,       "文件 选择",        {400, 290},
+                                          EDialogFrame::Plain, kPhoneFileControls, kPhoneFileLooks,
+                                          kPhoneFilesOk,       kPhoneFilesCancel};
+const CDialogTemplate kPhoneSizeDialog = {kDlgPhoneSize,       "大小变更",         {400, 192},
+                                          EDialogFrame::Plain, kPhoneSizeControls, kPhoneSizeLooks,
+                                          kPhoneSizeOk,        kPhoneSizeCancel};
+const CDialogTemplate kTransferDialog = {kDlgTransfer,  "", {400, 275}, EDialogFrame::None, kTransferControls,
+                                         kTransferLooks};
+const CDialogTemplate kLinkDialog = {kDlgLink, "", {400, 275}, EDialogFrame::None, {}};
+const std::span<const CMenuItemTemplate> kPhoneFileMenu = kSortItems;

@@ -12,3 +12,11 @@ extern const CDialogTemplate kPreviewPanel;
 extern const CDialogTemplate kSizeDialog;
 // The menu of a right click on the picture.
 extern const std::span<const CMenuItemTemplate> kPictureMenu;
+// The phone: which port, which of its files, with the menu of a right click there, which of its sizes; what
+// runs while files move, and while the program connects, prepares or waits.
+extern const CDialogTemplate kPortSelectDialog;
+extern const CDialogTemplate kPhoneFileDialog;
+extern const std::span<const CMenuItemTemplate> kPhoneFileMenu;
+extern const CDialogTemplate kPhoneSizeDialog;
+extern const CDialogTemplate kTransferDialog;
+extern const CDialogTemplate kLinkDialog;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -22,9 +23,11 @@ enum class EControlKind {
     Place,        // spot that the dialog itself draws on
     Edit,         // one line of text to type
     Combo,        // drop-down list of texts
+    TextList,     // list box whose rows are texts
     PictureList,  // list box whose rows are pictures
     PictureGrid,  // pictures that stand where its look says; tells each click
     IconList,     // list of pictures with names below
+    CheckTable,   // rows of texts in columns, each with a box to tick; see CCheckTableModel
     Tree,
     Slider,
     Progress,
@@ -34,13 +37,20 @@ enum class EControlKind {
 // One pixel around a control, inside its place. ByKind: edits and combos have one, the rest has none.
 enum class EBorder { ByKind, None, Sunken };
 
+// A column of a CheckTable: its title, and its width in pixels. Texts stand in the middle of it.
+struct CTableColumn {
+    const char* szTitle;
+    int nWidth;
+};
+
 // What a control is called where it shows no text, and how it looks where its kind leaves that open.
 struct CControlLook {
     const char* szSpoken = "";
     std::optional<CColor> colorText{};    // of a line of text
     std::optional<CColor> colorGround{};  // below the text; none lets the dialog's ground through
     EBorder border = EBorder::ByKind;
-    std::optional<CGridLayout> grid{};  // of a PictureGrid, and only there
+    std::optional<CGridLayout> grid{};           // of a PictureGrid, and only there
+    std::span<const CTableColumn> arrColumns{};  // of a CheckTable, and only there
 };
 
 // Row of a list; which fields count depends on the kind.

@@ -7,6 +7,7 @@
 #include "window/Template.h"
 #include "window/Timers.h"
 
+class CCheckTableModel;
 class CIconListModel;
 class CScrollView;
 class CTreeModel;
@@ -57,9 +58,11 @@ class CDialog : public CTimerTarget, public CPanelHost {
     // The close box or the system menu.
     virtual void OnClose() { EndDialog(kDialogCancel); }
     void OnTimer(int /*nTimer*/) override {}
-    // What a control of kind Tree, or of kind IconList, shows; null if the dialog has nothing for it.
+    // What a control of kind Tree, of kind IconList or of kind CheckTable, shows; null if the dialog has
+    // nothing for it.
     virtual CTreeModel* TreeOf(int /*nId*/) { return nullptr; }
     virtual CIconListModel* IconsOf(int /*nId*/) { return nullptr; }
+    virtual CCheckTableModel* TableOf(int /*nId*/) { return nullptr; }
     // The view that stands in a control of kind View; null if the dialog has none there.
     virtual CScrollView* ViewOf(int /*nId*/) { return nullptr; }
 

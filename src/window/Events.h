@@ -41,5 +41,14 @@ struct CKeyEvent {
 };
 
 // What a control tells its dialog beside a plain click.
-// TextChanged comes with every change that the user makes, TextDone when he leaves the edit.
-enum class ENotice { SelectionChanged, TextChanged, TextDone, Scrolled, Clicked };
+// TextChanged comes with every change that the user makes, TextDone when he leaves the edit. A CheckTable
+// tells RightClicked, and a TextList DoubleClicked.
+enum class ENotice {
+    SelectionChanged,
+    TextChanged,
+    TextDone,
+    Scrolled,
+    Clicked,
+    DoubleClicked,
+    RightClicked
+};

@@ -11,6 +11,7 @@ class CLibraries;
 class CMessageBoxes;
 class CModalDialogs;
 class CPopupMenus;
+class CSerialPorts;
 class CShell;
 class CTextRasterizer;
 class CTimers;
@@ -34,4 +35,5 @@ struct CPlatform {
     CShell& shell;
     CBitmaps& bitmaps;
     CLibraries& libraries;
+    CSerialPorts& ports;
 };

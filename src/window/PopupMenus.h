@@ -8,6 +8,7 @@ struct CMenuItem {
     int nId = 0;
     std::string strText;
     bool bEnabled = true;
+    bool bMarked = false;  // the chosen one of a group
 };
 
 // A menu that comes up at the mouse cursor.

@@ -98,6 +98,7 @@ void CMainDlg::OnNotify(int nId, ENotice notice) {
         if (nId == kEffectList) m_effects.OnSelChangeEffectList();
         if (nId == kTextEffectList) m_textArt.OnSelChangeTextEffect();
     }
+    if (notice == ENotice::TextChanged && nId == kTextInput) m_textArt.OnTextInput();
     if (notice == ENotice::Scrolled && nId == kEffectSlider) m_effects.OnVScroll();
     if (notice == ENotice::Clicked && nId == kFrameList)
         m_frames.OnClickStickerList(Controls().Selection(kFrameList));

@@ -28,10 +28,10 @@ void CMySCrollView::OnTimer(int nTimer) {
 
 // The line around the picture. Returns the place of the picture.
 CPoint CMySCrollView::DrawFrame(CSurface& surface) const {
-    const CSize sizeClient = ClientSize();
     const CSize sizePicture = PictureSize();
-    const CPoint pt{Centre(sizeClient.cx, sizePicture.cx) - ScrollPosition().x,
-                    Centre(sizeClient.cy, sizePicture.cy) - ScrollPosition().y};
+    const CPoint ptUnscrolled =
+        m_pGuest != nullptr ? m_pGuest->PictureAt(ClientSize()) : Centred(ClientSize(), sizePicture);
+    const CPoint pt{ptUnscrolled.x - ScrollPosition().x, ptUnscrolled.y - ScrollPosition().y};
     surface.FrameRect(CRect::FromPlace(pt.x - 1, pt.y - 1, sizePicture.cx + 2, sizePicture.cy + 2), kFrame);
     return pt;
 }

@@ -46,8 +46,6 @@ class CMySCrollView : public CScrollView {
         const CRect rcDrawn = draw(ClientSurface());
         if (!rcDrawn.IsEmpty()) Drawn(rcDrawn);
     }
-    // Where a picture of that extent begins in a client area, the fraction cut; 0 where it does not fit.
-    static int Centre(int nClient, int nPicture) { return nClient > nPicture ? (nClient - nPicture) / 2 : 0; }
 
   protected:
     void OnDraw(CSurface& surface) override;

@@ -55,7 +55,7 @@ void CTextArtFlow::InitTextArt() {
 
 void CTextArtFlow::Begin() {
     m_bTextBaseLoaded = false;
-    m_strTextInput = m_env.controls.Text(kTextInput);
+    OnTextInput();
     if (m_env.state.m_bImageOpen) m_guest.Begin();
 }
 
@@ -109,19 +109,20 @@ bool CTextArtFlow::RunTextArt(CWords words) {
 
 // --- the commands ---
 
+void CTextArtFlow::OnTextInput() {
+    m_strTextInput = m_env.controls.Text(kTextInput);
+}
+
 // With the words the frame below them becomes part of the picture for good.
 void CTextArtFlow::OnApplyText() {
     if (!m_env.state.m_bImageOpen) return;
-    const std::string strText = m_env.controls.Text(kTextInput);
     const bool bApplied = Change([&](CWords& words, CEditPictures& next) {
         next.m_bFrameOn = false;
         words.param.nWarpKind = m_env.controls.IsChecked(kRadioMesh) ? kWarpMesh : kWarpProjection;
         Colour(words.param, m_color);
-        return RenderTextMask(words, strText, m_font);
+        return RenderTextMask(words, m_strTextInput, m_font);
     });
-    if (!bApplied) return;
-    m_strTextInput = strText;
-    m_guest.SetShowLines(m_env.controls.IsChecked(kCheckLines));
+    if (bApplied) m_guest.SetShowLines(m_env.controls.IsChecked(kCheckLines));
 }
 
 // Without a picture nothing is chosen.

@@ -46,6 +46,8 @@ class CTextArtFlow {
     const TextArtParam& Param() const { return m_textParam; }
 
     // --- the commands ---
+    // The words have been typed into; the picture has them from the next command on.
+    void OnTextInput();
     void OnApplyText();
     void OnCharacter();
     void OnTextColor();

@@ -72,10 +72,7 @@ void CTextGuest::OnDraw(CSurface& surface, CPoint ptPicture) {
 // All of both shapes lies on the picture, so a part of it takes the old lines away.
 void CTextGuest::ShowLines() {
     m_env.canvas.DrawNow([this](CSurface& surface) {
-        const CSize sizeClient = m_env.canvas.ClientSize();
-        const CSize sizePicture = PictureSize();
-        const CPoint pt{CMySCrollView::Centre(sizeClient.cx, sizePicture.cx),
-                        CMySCrollView::Centre(sizeClient.cy, sizePicture.cy)};
+        const CPoint pt = PictureAt(m_env.canvas.ClientSize());
         const CRect rcOld = m_rcLines;
         surface.DrawPart(m_env.images.m_imgDisplay.Pixels(), rcOld.Offset(-pt.x, -pt.y), rcOld.left,
                          rcOld.top);
@@ -114,8 +111,10 @@ void CTextGuest::Move(CPoint pt, unsigned nFlags) {
     const bool bInside = view.IsInsideImage(pt);
     if (!m_bTextHandles) return;
     const bool bChanged = bInside && Drag(view, pt, nFlags);
-    const bool bOver = m_nHit >= 0 || (bInside && m_handles.HitTest(m_env.param, pt) >= 0);
-    const bool bMoves = bChanged && m_bMove && m_nHit < 0;
+    // A button that was let go beside the canvas is not heard of.
+    const bool bHeld = m_nHit >= 0 && (nFlags & kMouseLeftDown) != 0;
+    const bool bOver = bHeld || (bInside && m_handles.HitTest(m_env.param, pt) >= 0);
+    const bool bMoves = bChanged && m_bMove && !bHeld;
     m_env.canvas.SetCursor(bMoves ? ECursor::Move : bOver ? ECursor::Handle : ECursor::Arrow);
     if (bChanged) ShowLines();
 }

@@ -31,6 +31,7 @@ class CTextGuest : public CCanvasGuest {
 
     // --- CCanvasGuest ---
     CSize PictureSize() const override { return m_env.images.m_imgDisplay.GetSize(); }
+    CPoint PictureAt(CSize /*sizeClient*/) const override { return View().PictureAt(); }
     void OnDraw(CSurface& surface, CPoint ptPicture) override;
     void OnMouse(const CMouseEvent& event) override;
     void OnTimer(int /*nTimer*/) override {}

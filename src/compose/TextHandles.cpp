@@ -5,7 +5,7 @@
 
 namespace {
 
-// A canvas less its frame: where the picture is centred when points are turned into pixels of it.
+// A canvas less its frame, in which the picture is centred.
 constexpr CSize kCentred{654, 538};
 constexpr CPoint kMiddle{329, 271};
 constexpr int kEdge = 5;
@@ -24,10 +24,13 @@ bool Shift(TPoints& points, const TPoints& base, CPoint ptOffset, const CTextVie
 
 }  // namespace
 
+CPoint CTextView::PictureAt() const {
+    return {(kCentred.cx - sizeDisplay.cx) / 2, (kCentred.cy - sizeDisplay.cy) / 2};
+}
+
 CPoint CTextView::ScreenToImage(CPoint pt) const {
     const auto scale = [this](int n) { return static_cast<int>(static_cast<float>(n) / fTextScale); };
-    return {scale(pt.x - (kCentred.cx - sizeDisplay.cx) / 2),
-            scale(pt.y - (kCentred.cy - sizeDisplay.cy) / 2)};
+    return {scale(pt.x - PictureAt().x), scale(pt.y - PictureAt().y)};
 }
 
 bool CTextView::IsInsideImage(CPoint pt) const {

@@ -13,6 +13,8 @@ struct CTextView {
     CSize sizeClient;
     float fTextScale = 1.0F;
 
+    // Where the display image begins on the canvas: words are seen where the lines of their shape are.
+    CPoint PictureAt() const;
     // The pixel of the working image under a client pixel, fractions cut.
     CPoint ScreenToImage(CPoint pt) const;
     // True if it lies on the display image, more than five pixels from each of its edges.

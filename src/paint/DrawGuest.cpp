@@ -37,9 +37,8 @@ void CDrawGuest::Leave() {
 }
 
 void CDrawGuest::PlacePicture() {
-    const CSize sizeClient = m_env.canvas.ClientSize();
-    m_ptOrigin = {CMySCrollView::Centre(sizeClient.cx, m_paper.Width() * m_env.tools.m_nZoom),
-                  CMySCrollView::Centre(sizeClient.cy, m_paper.Height() * m_env.tools.m_nZoom)};
+    const int nZoom = m_env.tools.m_nZoom;
+    m_ptOrigin = Centred(m_env.canvas.ClientSize(), {m_paper.Width() * nZoom, m_paper.Height() * nZoom});
 }
 
 void CDrawGuest::ApplyZoom() {

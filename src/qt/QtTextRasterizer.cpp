@@ -17,15 +17,22 @@ constexpr int kMostWidth = 1 << 17;
 
 constexpr int kBoldFrom = 600;
 
-// The largest letters whose cell, from the highest ascent to the lowest descent, is not higher than asked
-// for. Fonts here are regular or bold, whatever hairline or poster weights a face has besides.
-QFont FitFont(const CTextFont& font) {
+// Whether the cell, from the highest ascent to the lowest descent, and the letters themselves, which need not
+// keep to it, are both no higher than that.
+bool Fits(const QFont& font, const QString& str, int nHeight) {
+    const QFontMetrics metrics(font);
+    return metrics.height() <= nHeight && metrics.boundingRect(str).height() <= nHeight;
+}
+
+// The largest letters that fit. Fonts here are regular or bold, whatever hairline or poster weights a face
+// has besides.
+QFont FitFont(const CTextFont& font, const QString& str) {
     QFont fit = MapFont(font.strFace, font.nHeight);
     fit.setWeight(font.nWeight < kBoldFrom ? QFont::Normal : QFont::Bold);
     fit.setItalic(font.bItalic);
     fit.setUnderline(font.bUnderline);
     int nPixels = font.nHeight;
-    while (nPixels > 1 && QFontMetrics(fit).height() > font.nHeight) fit.setPixelSize(--nPixels);
+    while (nPixels > 1 && !Fits(fit, str, font.nHeight)) fit.setPixelSize(--nPixels);
     return fit;
 }
 
@@ -42,11 +49,13 @@ QString OneLine(const std::string& strText) {
 CTextMask CQtTextRasterizer::Rasterize(const CTextFont& font, const std::string& strText) {
     CTextMask mask;
     if (font.nHeight <= 0 || font.nHeight > kMostHeight) return mask;
-    const QFont fit = FitFont(font);
-    const QFontMetrics metrics(fit);
     const QString str = OneLine(strText);
-    // Letters may lean out of the line at either end.
+    const QFont fit = FitFont(font, str);
+    const QFontMetrics metrics(fit);
+    // Letters may lean out of the line at either end, and out of the cell above and below.
     const QRect rcInk = metrics.boundingRect(str);
+    const int nBaseline =
+        std::min(std::max(metrics.ascent(), -rcInk.top()), font.nHeight - 1 - std::max(0, rcInk.bottom()));
     const int nBefore = std::max(0, -rcInk.left());
     const int nAdvance = std::max(metrics.horizontalAdvance(str), rcInk.right() + 1);
     const int nWidth = std::min(nBefore + nAdvance, kMostWidth);
@@ -57,7 +66,7 @@ CTextMask CQtTextRasterizer::Rasterize(const CTextFont& font, const std::string&
     QPainter painter(&image);
     painter.setFont(fit);
     painter.setPen(Qt::white);
-    painter.drawText(QPoint(nBefore, metrics.ascent()), str);
+    painter.drawText(QPoint(nBefore, nBaseline), str);
     painter.end();
     mask.nWidth = nWidth;
     mask.nHeight = font.nHeight;

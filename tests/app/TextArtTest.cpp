@@ -93,6 +93,11 @@ TEST_F(TextArtTest, TheHandShapesThemAndTheEngineWaitsForItsRelease) {
     EXPECT_EQ(Work(), Words("Ab", Param()));
     EXPECT_NE(Work(), words);
     EXPECT_EQ(Undos(), 1) << "shaping is no step";
+    // A release beside the canvas is not heard of; the next move without a button forgets the hand's hold.
+    Mouse(EMouseAction::Press, Handles().Quad()[1]);
+    EXPECT_EQ(m_host.MouseOnWindow(EMouseAction::Release, EMouseButton::Left, {20, 700}), "");
+    Mouse(EMouseAction::Move, {329, 271});
+    EXPECT_EQ(m_dialog.Canvas().Cursor(), ECursor::Arrow);
     // Off the corners the whole goes along, from the press.
     const CPoint ptMiddle{329, 271};
     Mouse(EMouseAction::Press, ptMiddle);
@@ -138,14 +143,15 @@ TEST_F(TextArtTest, ColourFontAndStyleAreStepsOfTheirOwn) {
     EXPECT_EQ(Undos(), 2);
     EXPECT_EQ(Param().byGreen, 200);
     EXPECT_EQ(Work(), Words("Ab", Param()));
+    EXPECT_EQ(m_host.Type(kTextInput, "Cd"), "");
     m_platform.AnswerFont("黑体", true);
     Click(kTextFont);
     EXPECT_EQ(Undos(), 3);
-    EXPECT_EQ(Work(), Words("Ab", Param(), true));
+    EXPECT_EQ(Work(), Words("Cd", Param(), true)) << "what stands in the edit";
     EXPECT_EQ(m_host.SelectRow(kTextEffectList, kTextReversed), "");
     EXPECT_EQ(Undos(), 4);
     EXPECT_EQ(Param().nTextEffect, kTextReversed);
-    EXPECT_EQ(Work(), Words("Ab", Param(), true));
+    EXPECT_EQ(Work(), Words("Cd", Param(), true));
     const auto& arrItems = Controls().Find(kTextEffectList)->arrItems;
     EXPECT_EQ(arrItems[0].strText, "265");
     EXPECT_EQ(arrItems[3].strText, "272");
@@ -178,6 +184,22 @@ TEST_F(TextArtTest, WithoutAPictureOnlyTheColourIsTaken) {
     OpenInFont();
     Apply("Ab");
     EXPECT_EQ(Work(), Words("Ab", Param())) << "regular";
+}
+
+// A box of words without a margin is seen just where its lines are, at any scale.
+TEST_F(TextArtTest, WordsAreSeenWhereTheirLinesAre) {
+    for (const CSize size : {CSize{300, 200}, {1300, 1000}}) {
+        SCOPED_TRACE(size.cx);
+        OpenInFont(size.cx, size.cy);
+        EXPECT_EQ(m_host.SelectRow(kTextEffectList, kTextReversed), "");
+        Apply("Write in characters");
+        Click(kCheckLines);
+        const CPoint pt = Handles().Quad()[0];
+        EXPECT_EQ(Canvas(pt.x + 2, pt.y + 2), (CColor{217, 40, 200}));
+        EXPECT_NE(Canvas(pt.x - 2, pt.y + 2), (CColor{217, 40, 200}));
+        EXPECT_NE(Canvas(pt.x + 2, pt.y - 2), (CColor{217, 40, 200}));
+        Click(kCheckLines);
+    }
 }
 
 TEST_F(TextArtTest, LinesAreDrawnOverThePictureAndGoWithoutATrace) {

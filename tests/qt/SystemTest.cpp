@@ -52,6 +52,10 @@ TEST(TextRasterizer, CellStyleAndEdges) {
     EXPECT_GT(Inked(rasterizer.Rasterize({"黑体", 64, 400, false, true}, "文字")), nRegular);
     EXPECT_EQ(rasterizer.Rasterize({"黑体", 64}, "").nWidth, 0);
     EXPECT_EQ(rasterizer.Rasterize({"黑体", 0}, "x").nHeight, 0);
+    // Accents that stand out of the face's own cell are not cut.
+    const CTextMask accent = rasterizer.Rasterize({"黑体", 200}, "Ế");
+    EXPECT_TRUE(std::all_of(accent.coverage.begin(), accent.coverage.begin() + accent.nWidth,
+                            [](std::uint8_t n) { return n == 0; }));
     // A box of a character stands whole in its cell.
     const CTextMask box = rasterizer.Rasterize({"黑体", 60}, "国");
     std::vector<int> arrInkedRows;

@@ -17,6 +17,8 @@ enum class EKey {
     Clip,     // on if something was copied or cut in this run
     Phone,    // on if the phone is connected
     NoPhone,  // on if it is not
+    Sendable,  // on if there is something to send: a picture, or the file list
+    Picture,   // on if a picture is open, else left
 };
 
 struct CCommandRow {
@@ -25,37 +27,35 @@ struct CCommandRow {
     EKey thum, effect, stick, font, draw;
     // While an effect's preview waits for CONFIRM, behind it, and where leaving the mode drops it
     EKey previewBegun, previewEnded, previewDropped;
-    // As the phone comes and goes
-    EKey phoneChanged;
 };
 
 inline constexpr std::array kCommandTable = [] {
     using enum EKey;
     return std::to_array<CCommandRow>({
         // clang-format off
-        // id                  THUM   EFFECT STICK  FONT   DRAW   begun ended  dropped phone
-        {kCmdOpen,             On,    On,    On,    On,    On,    Left, Left,  Left,   Left},
-        {kCmdNew,              Left,  On,    On,    Left,  On,    Off,  On,    On,     Left},
-        {kCmdSave,             Off,   On,    On,    On,    On,    Off,  On,    Left,   Left},
-        {kCmdPrint,            Off,   On,    On,    On,    On,    Off,  On,    Left,   Left},
-        {kCmdUndo,             Off,   Undo,  Undo,  Undo,  Undo,  Off,  Undo,  Left,   Left},
-        {kCmdRedo,             Off,   Redo,  Redo,  Redo,  Redo,  Off,  Redo,  Left,   Left},
-        {kCmdReset,            Off,   On,    On,    On,    On,    Off,  On,    Left,   Left},
-        {kCmdCut,              Off,   Off,   Off,   Off,   Off,   Left, Left,  Left,   Left},
-        {kCmdCopy,             Off,   Off,   Off,   Off,   Off,   Left, Left,  Left,   Left},
-        {kCmdPaste,            Off,   Off,   Off,   Off,   Clip,  Left, Left,  Left,   Left},
-        {kCmdCrop,             Off,   Off,   Off,   Off,   Off,   Left, Left,  Left,   Left},
-        {kCmdSize,             Off,   On,    On,    Off,   Off,   Off,  On,    Left,   Left},
-        {kCmdFlipVertical,     Off,   On,    On,    Off,   On,    Off,  On,    Left,   Left},
-        {kCmdFlipHorizontal,   Off,   On,    On,    Off,   On,    Off,  On,    Left,   Left},
-        {kCmdTurnLeft,         Off,   On,    On,    Off,   On,    Off,  On,    Left,   Left},
-        {kCmdTurnRight,        Off,   On,    On,    Off,   On,    Off,  On,    Left,   Left},
-        {kCmdLarge,            Off,   On,    On,    Off,   Off,   Off,  On,    Left,   Left},
-        {kCmdActual,           Off,   On,    On,    Off,   Off,   Off,  On,    Left,   Left},
-        {kCmdSmall,            Off,   On,    On,    Off,   Off,   Off,  On,    Left,   Left},
-        {kCmdConnect,          Left,  Left,  Left,  Left,  Left,  Left, NoPhone, Left, NoPhone},
-        {kCmdSend,             Phone, Phone, Phone, Phone, Phone, Off,  Phone, Left,   Phone},
-        {kCmdTake,             Left,  Phone, Phone, Left,  Phone, Off,  Phone, Phone,  Phone},
+        // id                  THUM   EFFECT STICK  FONT   DRAW   begun ended  dropped
+        {kCmdOpen,             On,    On,    On,    On,    On,    Left, Left,  Left},
+        {kCmdNew,              Left,  On,    On,    Left,  On,    Off,  On,    On},
+        {kCmdSave,             Off,   On,    On,    On,    On,    Off,  On,    Left},
+        {kCmdPrint,            Off,   On,    On,    On,    On,    Off,  On,    Left},
+        {kCmdUndo,             Off,   Undo,  Undo,  Undo,  Undo,  Off,  Undo,  Left},
+        {kCmdRedo,             Off,   Redo,  Redo,  Redo,  Redo,  Off,  Redo,  Left},
+        {kCmdReset,            Off,   On,    On,    On,    On,    Off,  On,    Left},
+        {kCmdCut,              Off,   Off,   Off,   Off,   Off,   Left, Left,  Left},
+        {kCmdCopy,             Off,   Off,   Off,   Off,   Off,   Left, Left,  Left},
+        {kCmdPaste,            Off,   Off,   Off,   Off,   Clip,  Left, Left,  Left},
+        {kCmdCrop,             Off,   Off,   Off,   Off,   Off,   Left, Left,  Left},
+        {kCmdSize,             Off,   On,    On,    Off,   Off,   Off,  On,    Left},
+        {kCmdFlipVertical,     Off,   On,    On,    Off,   On,    Off,  On,    Left},
+        {kCmdFlipHorizontal,   Off,   On,    On,    Off,   On,    Off,  On,    Left},
+        {kCmdTurnLeft,         Off,   On,    On,    Off,   On,    Off,  On,    Left},
+        {kCmdTurnRight,        Off,   On,    On,    Off,   On,    Off,  On,    Left},
+        {kCmdLarge,            Off,   On,    On,    Off,   Off,   Off,  On,    Left},
+        {kCmdActual,           Off,   On,    On,    Off,   Off,   Off,  On,    Left},
+        {kCmdSmall,            Off,   On,    On,    Off,   Off,   Off,  On,    Left},
+        {kCmdConnect,          Left,  Left,  Left,  Left,  Left,  Left, NoPhone, Left},
+        {kCmdSend,             Phone, Phone, Phone, Phone, Phone, Off,  Phone, Left},
+        {kCmdTake,             Left,  Phone, Phone, Left,  Phone, Off,  Phone, Phone},
         // clang-format on
     });
 }();
@@ -85,4 +85,14 @@ inline constexpr std::array kKeyEvents = std::to_array<CKeyEventRow>({
     {EEditEvent::Cropped, kCmdCopy, EKey::Off},
     {EEditEvent::Cropped, kCmdCrop, EKey::Off},
     {EEditEvent::Cropped, kCmdPaste, EKey::Off},
+    {EEditEvent::PhoneFound, kCmdConnect, EKey::Off},
+    {EEditEvent::PhoneFound, kCmdTake, EKey::On},
+    {EEditEvent::PhoneFound, kCmdSend, EKey::Sendable},
+    {EEditEvent::PhoneReady, kCmdTake, EKey::On},
+    {EEditEvent::PhoneReady, kCmdSend, EKey::Picture},
+    {EEditEvent::PhoneLost, kCmdConnect, EKey::On},
+    {EEditEvent::PhoneLost, kCmdTake, EKey::Off},
+    {EEditEvent::PhoneLost, kCmdSend, EKey::Off},
+    {EEditEvent::TakeLineFailed, kCmdTake, EKey::Off},
+    {EEditEvent::SendLineFailed, kCmdSend, EKey::Off},
 });

@@ -49,10 +49,13 @@ void CControlDesk::Apply(int nId, EKey key) {
                 return m_env.fnConnected();
             case EKey::NoPhone:
                 return !m_env.fnConnected();
+            case EKey::Sendable:
+                return m_env.state.m_bImageOpen || m_env.state.IsUp(EMode::Thum);
             default:
-                return key == EKey::On;
+                return key == EKey::On || key == EKey::Picture;
         }
     };
+    if (key == EKey::Picture && !m_env.state.m_bImageOpen) return;
     if (key != EKey::Left) m_env.controls.Enable(nId, fnOn());
 }
 
@@ -121,8 +124,6 @@ void CControlDesk::Tell(EEditEvent event) {
         case EEditEvent::FillEnded:
             m_bFilling = event == EEditEvent::FillBegun;
             return m_env.controls.Show(kProgress, m_bFilling && m_env.state.IsUp(EMode::Thum));
-        case EEditEvent::PhoneChanged:
-            return Apply(&CCommandRow::phoneChanged);
         default:
             return;
     }

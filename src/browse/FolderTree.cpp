@@ -163,8 +163,20 @@ std::string CFolderTree::FollowFolder(const std::string& strFolder) {
     if (strPath == m_strCurPath || pDrive == nullptr || pDrive->cLetter != 'C') return {};
     const std::string strRoot = pDrive->strRoot;
     BuildRoot();
+    return MakeCurrent(strPath, strRoot);
+}
+
+std::string CFolderTree::FollowTake(const std::string& strFolder) {
+    std::string strPath = strFolder;
+    if (strPath.empty() || strPath.back() != m_cSeparator) strPath += m_cSeparator;
+    const CDrive* pDrive = DriveOfFolder(strPath);
+    return MakeCurrent(strPath, pDrive != nullptr ? pDrive->strRoot : std::string(1, m_cSeparator));
+}
+
+// The child of the current item with that path, or else the one that is the folder of the first level above it.
+std::string CFolderTree::MakeCurrent(std::string strPath, const std::string& strRoot) {
     CTreeItem child = FindChild(m_hCurItem, strPath);
-    if (child == kNoTreeItem && strPath != strRoot) {
+    if (child == kNoTreeItem && strPath.size() > strRoot.size()) {
         strPath.resize(strPath.find(m_cSeparator, strRoot.size()) + 1);
         child = FindChild(m_hCurItem, strPath);
     }

@@ -48,6 +48,9 @@ class CFolderTree : public CTreeSink {
     // it. Empty if nothing is to follow.
     std::string FollowFolder(const std::string& strFolder);
 
+    // The same for the folder into which files were taken, wherever it lies; the tree stays as it is.
+    std::string FollowTake(const std::string& strFolder);
+
     // The folder of an item, with a closing separator; empty for the root and for no item.
     std::string GetPath(CTreeItem item) const;
 
@@ -61,6 +64,7 @@ class CFolderTree : public CTreeSink {
     CTreeItem InsertFolder(CTreeItem parent, const std::string& strPath, const std::string& strName);
     CTreeItem FindChild(CTreeItem parent, const std::string& strPath) const;
     void ShowItem(CTreeItem item);
+    std::string MakeCurrent(std::string strPath, const std::string& strRoot);
     const CDrive* FindDrive(char cLetter) const;
     const CDrive* DriveOfFolder(const std::string& strFolder) const;
 

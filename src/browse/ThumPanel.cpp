@@ -14,3 +14,8 @@ void CThumPanel::FollowFolder(const std::string& strFolder) {
     const std::string strPath = m_tree.FollowFolder(strFolder);
     if (!strPath.empty()) m_list.SetPath(strPath);
 }
+
+void CThumPanel::FollowTake(const std::string& strFolder, bool bShow) {
+    m_list.SetPath(m_tree.FollowTake(strFolder));
+    if (bShow) m_tree.ReturnToCurrent();
+}

@@ -23,6 +23,8 @@ class CThumPanel {
     void ReturnToFolder();
     // Lets tree and list follow the folder into which a file was saved.
     void FollowFolder(const std::string& strFolder);
+    // Lets them follow the folder into which files were taken; bShow: the panel is up and shows it at once.
+    void FollowTake(const std::string& strFolder, bool bShow);
 
   private:
     CPicFileList m_list;

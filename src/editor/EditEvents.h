@@ -24,8 +24,12 @@ enum class EEditEvent {
     FileShown,    // and the info lines a file of it
     FillBegun,    // the list's pictures are being made
     FillEnded,
-    // The phone has come or gone.
-    PhoneChanged,
+    // The phone
+    PhoneFound,      // a connect has succeeded
+    PhoneReady,      // it can be used again: its picture has run to the end, or it has restarted
+    PhoneLost,
+    TakeLineFailed,  // the line did not open for a take
+    SendLineFailed,  // for a send
 };
 
 class CEditEvents {

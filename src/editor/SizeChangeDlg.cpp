@@ -4,11 +4,11 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <utility>
 
+#include "editor/PhoneSizeLine.h"
 #include "resources/BitmapIds.h"
 #include "resources/Ids.h"
 #include "resources/Templates.h"
@@ -40,12 +40,6 @@ int ParseSide(const std::string& strText) {
     if (result.ec == std::errc::result_out_of_range)
         return strText[nBegin] == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
     return nValue;
-}
-
-std::string FormatPhoneSize(CSize size) {
-    std::array<char, 40> buffer{};
-    std::snprintf(buffer.data(), buffer.size(), "%4d X %-4d", size.cx, size.cy);
-    return buffer.data();
 }
 
 }  // namespace

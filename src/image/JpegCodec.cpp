@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <utility>
 
 #include "image/AtomicFile.h"
@@ -122,6 +123,13 @@ bool StandUpright(CPixels& pixels, int nOrientation) {
     return true;
 }
 
+bool Encode(const CPixels& pixels, const CJpegSettings& settings, const CJpegSink& sink) {
+    if (pixels.IsEmpty()) return false;
+    const CJpegPage page{pixels.Bytes().data(), pixels.Width(), pixels.Height(),
+                         settings.nQuality,     settings.nXDpi, settings.nYDpi};
+    return JpegWrite(page, sink);
+}
+
 }  // namespace
 
 std::optional<CJpegPicture> DecodeJpeg(std::span<const std::uint8_t> file, CSize sizeAtLeast) {
@@ -152,11 +160,21 @@ CImageHead ReadJpegHead(std::span<const std::uint8_t> file) {
 }
 
 bool EncodeJpeg(const CPixels& pixels, const CJpegSettings& settings, CAtomicFile& file) {
-    if (pixels.IsEmpty()) return false;
-    const CJpegPage page{pixels.Bytes().data(), pixels.Width(), pixels.Height(),
-                         settings.nQuality,     settings.nXDpi, settings.nYDpi};
     const auto pWrite = [](void* pContext, const std::uint8_t* pBytes, std::size_t nSize) {
         return static_cast<CAtomicFile*>(pContext)->Write({pBytes, nSize});
     };
-    return JpegWrite(page, {pWrite, &file});
+    return Encode(pixels, settings, {pWrite, &file});
+}
+
+bool EncodeJpeg(const CPixels& pixels, const CJpegSettings& settings, std::vector<std::uint8_t>& bytes) {
+    const auto pWrite = [](void* pContext, const std::uint8_t* pBytes, std::size_t nSize) {
+        auto& all = *static_cast<std::vector<std::uint8_t>*>(pContext);
+        try {
+            all.insert(all.end(), pBytes, pBytes + nSize);
+        } catch (const std::bad_alloc&) {
+            return false;
+        }
+        return true;
+    };
+    return Encode(pixels, settings, {pWrite, &bytes});
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "image/Geometry.h"
 #include "image/ImageHead.h"
@@ -37,3 +38,6 @@ struct CJpegSettings {
 // Writes a baseline 4:2:0 file: the start mark, sixteen bytes of JFIF with the dots per inch, the tables.
 // False if the file cannot be written or a side is above 65500.
 [[nodiscard]] bool EncodeJpeg(const CPixels& pixels, const CJpegSettings& settings, CAtomicFile& file);
+// The same behind what the bytes hold already. False also if there is no memory for them.
+[[nodiscard]] bool EncodeJpeg(const CPixels& pixels, const CJpegSettings& settings,
+                              std::vector<std::uint8_t>& bytes);

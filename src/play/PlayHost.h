@@ -85,6 +85,7 @@ class CPlayHost : private CDialogHost, private CViewHost, private CIconListObser
   private:
     void OnPaintWanted() override {}
     void OnDrawn() override {}
+    void OnShowNow() override { Pump(); }
     void OnEnded() override {}
     void OnScrollChanged() override {}
     void OnCursorChanged() override {}

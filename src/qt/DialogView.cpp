@@ -151,6 +151,14 @@ void CDialogView::OnDrawn() {
     update(ToQt(m_dialog.Client().TakeDamage()));
 }
 
+void CDialogView::OnShowNow() {
+    if (m_dialog.WantsPaint()) m_dialog.Paint();
+    OnDrawn();
+    repaint();
+    for (const auto& [nId, pControl] : m_mapWidgets)
+        if (pControl->Widget().isVisible()) pControl->Widget().repaint();
+}
+
 void CDialogView::OnEnded() {
     if (m_fnEnded) m_fnEnded();
 }

@@ -49,6 +49,7 @@ class CDialogView : public QWidget,
   private:
     void OnPaintWanted() override;
     void OnDrawn() override;
+    void OnShowNow() override;
     void OnEnded() override;
     void OnControlChanged(const CControl& control, EControlChange change) override;
     void Route(const QMouseEvent& event) override;

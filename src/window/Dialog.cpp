@@ -28,3 +28,7 @@ void CDialog::EndDialog(int nCode) {
 void CDialog::Present() {
     if (m_pHost != nullptr) m_pHost->OnDrawn();
 }
+
+void CDialog::ShowNow() {
+    if (m_pHost != nullptr) m_pHost->OnShowNow();
+}

@@ -21,6 +21,9 @@ class CDialogHost {
     virtual void OnPaintWanted() = 0;
     // Pixels of the client area have changed; Client().TakeDamage() tells which.
     virtual void OnDrawn() = 0;
+    // All that has been drawn and told to controls is to be on the screen when this returns, in the middle of a
+    // handler.
+    virtual void OnShowNow() = 0;
     // EndDialog has been called.
     virtual void OnEnded() = 0;
 };
@@ -82,6 +85,8 @@ class CDialog : public CTimerTarget, public CPanelHost {
     void Invalidate() override;
     void EndDialog(int nCode);
     void Present() override;
+    // Brings everything to the screen without waiting for the handler's end; no event is handled meanwhile.
+    void ShowNow();
 
   protected:
     virtual void OnPaint(CClientArea& /*client*/) {}

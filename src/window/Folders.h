@@ -14,4 +14,6 @@ class CFolders {
     [[nodiscard]] virtual bool SetCurrentFolder(const std::string& strFolder) = 0;
     // The stored value of the install folder as it stands, quotes included; empty if there is none.
     virtual std::string InstallValue() const = 0;
+    // The folder in that value: a value that begins with a double quote loses its first and last character.
+    std::string InstallFolder() const;
 };

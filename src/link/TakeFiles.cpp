@@ -1,0 +1,114 @@
+#include "link/TakeFiles.h"
+
+#include <filesystem>
+#include <optional>
+
+#include "engines/linkset/FileSet.h"
+#include "resources/PhoneTexts.h"
+#include "resources/Texts.h"
+
+namespace {
+
+// A name on the phone may have a path before it.
+std::string TitleOf(const std::string& strName) {
+    const std::size_t nSlash = strName.rfind('/');
+    return nSlash == std::string::npos ? strName : strName.substr(nSlash + 1);
+}
+
+// What no file on a computer may be called.
+bool IsForbidden(const std::string& strTitle) {
+    return strTitle.find_first_of("\\/:*?<>|\"") != std::string::npos;
+}
+
+std::string Closed(std::string strFolder, char cSeparator) {
+    if (strFolder.empty() || strFolder.back() != cSeparator) strFolder += cSeparator;
+    return strFolder;
+}
+
+class CTaker {
+  public:
+    CTaker(CPhoneSession& session, CTransferDlg& dialog, CTake& take)
+        : m_session(session), m_dialog(dialog), m_take(take), m_strStart(take.strSaveFolder) {}
+
+    int Run() {
+        CFILESet files;
+        files.m_strFileName = m_session.DataFile("FILE.Dat");
+        // The dialog in which the files were picked has just read it.
+        static_cast<void>(files.Open());
+        for (std::size_t i = 0; i < m_take.arrPicked.size(); ++i) {
+            m_dialog.TellProgress(static_cast<int>(i) + 1, static_cast<int>(m_take.arrPicked.size()));
+            const auto nRecord = static_cast<std::size_t>(m_take.arrPicked[i]);
+            if (nRecord >= files.m_nDataArray.size()) continue;
+            if (const auto nEnd = TakeOne(files.m_nDataArray[nRecord])) return *nEnd;
+        }
+        m_dialog.ShowDone();
+        TellEnd();
+        return CPhoneSession::kEndDone;
+    }
+
+  private:
+    // Nothing if the take goes on.
+    std::optional<int> TakeOne(const CFileItem& item) {
+        const std::optional<std::string> strTarget = ChooseTarget(TitleOf(item.m_strFileName));
+        if (!strTarget) return std::nullopt;
+        const int nCode = m_session.Calls().GetFile(m_session.State(), item.m_nFileId, *strTarget);
+        FollowFolder();
+        if (nCode == LINK_OK) return std::nullopt;
+        if (nCode == LINK_FILE_FAILED) {
+            m_strFailed.append("\n").append(item.m_strFileName);
+            return std::nullopt;
+        }
+        if (nCode == LINK_CARD_GONE && m_session.Show(kTextCardLeft, kTitleNotice, EBoxIcon::None,
+                                                      EBoxButtons::OkCancel) == EBoxAnswer::Ok) {
+            m_take.bCardChanged = true;
+            m_dialog.StopPicture();
+            return CPhoneSession::kEndNothing;
+        }
+        m_session.ReportLinkError(nCode);
+        m_dialog.StopPicture();
+        m_session.Calls().StopDummyPacket();
+        return CPhoneSession::kEndNothing;
+    }
+
+    // The folder's own file of that name, or another that the user chooses where that cannot be. Nothing if
+    // the user passes the file over.
+    std::optional<std::string> ChooseTarget(const std::string& strTitle) {
+        const std::string strTarget = m_take.strSaveFolder + strTitle + ".jpg";
+        std::error_code error;
+        if (!IsForbidden(strTitle) && !std::filesystem::exists(strTarget, error)) return strTarget;
+        const CIdleTraffic traffic(m_session.Calls());
+        const auto choice = m_session.Env().files.RunSave({kFilterTake, strTarget});
+        if (!choice) return std::nullopt;
+        const bool bNamed = choice->strName.find('.') != std::string::npos;
+        return bNamed ? choice->strPath : choice->strPath + ".jpg";
+    }
+
+    // The folder that the user has chosen takes the following files too.
+    void FollowFolder() {
+        const CFolders& folders = m_session.Env().folders;
+        m_take.strSaveFolder = Closed(folders.CurrentFolder(), folders.Separator());
+        m_take.bFolderMoved = m_take.strSaveFolder != m_strStart;
+    }
+
+    void TellEnd() {
+        if (!m_strFailed.empty()) {
+            const std::string strText = kTextFailedFiles + m_strFailed + kTextFilesFailed;
+            m_session.Show(m_session.WithRestart(strText, "\n"), kTitleNotice);
+            return;
+        }
+        const CIdleTraffic traffic(m_session.Calls());
+        m_session.Show(m_session.WithRestart(kTextTaken), kTitleTake);
+    }
+
+    CPhoneSession& m_session;
+    CTransferDlg& m_dialog;
+    CTake& m_take;
+    const std::string m_strStart;
+    std::string m_strFailed;  // the names, each on a line of its own
+};
+
+}  // namespace
+
+int DoTakeFiles(CPhoneSession& session, CTransferDlg& dialog, CTake& take) {
+    return CTaker(session, dialog, take).Run();
+}

@@ -40,23 +40,39 @@ void ShowIcons(std::ostream& out, const CIconListModel& icons) {
             << (icons.IsSelected(i) ? " selected\n" : "\n");
 }
 
+void ShowTable(std::ostream& out, const CCheckTableModel& table, int nCurrent) {
+    for (int nRow = 0; nRow < table.Count(); ++nRow) {
+        out << "  " << (table.Row(nRow).bTicked ? "ticked" : "unticked");
+        for (const std::string& strText : table.Row(nRow).arrTexts) out << ' ' << Quote(strText);
+        out << (nRow == nCurrent ? " current\n" : "\n");
+    }
+}
+
+// One control of a dialog.
+void ShowControl(std::ostream& out, CDialog& dialog, const CControl& control) {
+    out << "show " << control.nId << (control.bShown ? " shown" : " hidden")
+        << (control.bEnabled ? " enabled" : " disabled") << (control.bChecked ? " checked " : " unchecked ")
+        << Quote(control.strText);
+    if (control.kind == EControlKind::Slider || control.kind == EControlKind::Progress)
+        out << " at " << control.nPos << " of " << control.nMin << " to " << control.nMax;
+    const bool bList = control.kind == EControlKind::PictureList ||
+                       control.kind == EControlKind::PictureGrid || control.kind == EControlKind::Combo ||
+                       control.kind == EControlKind::TextList;
+    if (bList) out << " row " << control.nSel << " of " << control.arrItems.size();
+    out << '\n';
+    if (const CTreeModel* pTree = dialog.TreeOf(control.nId); pTree != nullptr)
+        ShowTree(out, *pTree, kNoTreeItem, "  ");
+    if (const CIconListModel* pIcons = dialog.IconsOf(control.nId); pIcons != nullptr)
+        ShowIcons(out, *pIcons);
+    if (const CCheckTableModel* pTable = dialog.TableOf(control.nId); pTable != nullptr)
+        ShowTable(out, *pTable, control.nSel);
+}
+
 std::string Show(CStage& stage, const CWords& arrWords) {
     const std::optional<int> nId = ParseNumber(arrWords[0]);
     const CControl* pControl = nId ? stage.dialog.Controls().Find(*nId) : nullptr;
     if (pControl == nullptr) return NotA(arrWords[0], "control");
-    stage.out << "show " << pControl->nId << (pControl->bShown ? " shown" : " hidden")
-              << (pControl->bEnabled ? " enabled" : " disabled")
-              << (pControl->bChecked ? " checked " : " unchecked ") << Quote(pControl->strText);
-    if (pControl->kind == EControlKind::Slider || pControl->kind == EControlKind::Progress)
-        stage.out << " at " << pControl->nPos << " of " << pControl->nMin << " to " << pControl->nMax;
-    const bool bList = pControl->kind == EControlKind::PictureList ||
-                       pControl->kind == EControlKind::PictureGrid || pControl->kind == EControlKind::Combo;
-    if (bList) stage.out << " row " << pControl->nSel << " of " << pControl->arrItems.size();
-    stage.out << '\n';
-    const CTreeModel* pTree = stage.dialog.TreeOf(pControl->nId);
-    if (pTree != nullptr) ShowTree(stage.out, *pTree, kNoTreeItem, "  ");
-    const CIconListModel* pIcons = stage.dialog.IconsOf(pControl->nId);
-    if (pIcons != nullptr) ShowIcons(stage.out, *pIcons);
+    ShowControl(stage.out, stage.dialog, *pControl);
     return {};
 }
 
@@ -127,7 +143,9 @@ std::string Dump(CStage& stage, const CWords& arrWords) {
 constexpr CVerb kVerbs[] = {
     {"show", "ID", 1, 1, Show,
      "Prints a control: shown or hidden, enabled or disabled, checked or unchecked, its text, and place or "
-     "row where it has one. Of the tree also what is in sight, of the file list its items.",
+     "row where it has one. Of the tree also what is in sight, of the file list its items, of a table to "
+     "tick "
+     "its rows with their ticks and texts.",
      "show 1123"},
     {"state", "[NAME]", 0, 1, State, "Prints a state of the list below, all of them without a name.",
      "state undo"},

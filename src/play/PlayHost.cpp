@@ -57,6 +57,12 @@ CPlayHost::CPlayHost(CScriptedPlatform& platform, CDialog& dialog, CBitmaps* pBi
             pIcons->Attach(this);
             m_mapIcons.try_emplace(pIcons, *pIcons);
         }
+        CCheckTableModel* pTable =
+            control.kind == EControlKind::CheckTable ? m_dialog.TableOf(control.nId) : nullptr;
+        if (pTable != nullptr) {
+            pTable->Attach(this);
+            m_mapTables.try_emplace(control.nId, m_dialog, control.nId, *pTable);
+        }
         CScrollView* pView = ViewOf(control.nId);
         if (pView == nullptr) continue;
         pView->Attach(this);
@@ -74,6 +80,7 @@ CPlayHost::~CPlayHost() {
         pView->Attach(nullptr);
     }
     for (const auto& [pIcons, hand] : m_mapIcons) pIcons->Attach(nullptr);
+    for (const auto& [nId, hand] : m_mapTables) m_dialog.TableOf(nId)->Attach(nullptr);
     m_dialog.Attach(nullptr);
 }
 
@@ -141,16 +148,21 @@ std::string CPlayHost::Click(int nId) {
     return Done();
 }
 
+std::string CPlayHost::NoRow(int nId, int nRow, int nRows) {
+    return std::string("list ") + std::to_string(nId) + " has no row " + std::to_string(nRow) + ", only " +
+           std::to_string(nRows) + " from 0 on";
+}
+
 std::string CPlayHost::SelectRow(int nId, int nRow) {
     const CControl* pControl = nullptr;
     if (std::string strWhy = Reach(nId, pControl); !strWhy.empty()) return strWhy;
     if (pControl->kind == EControlKind::IconList) return ClickIcon(nId, nRow);
     if (pControl->kind == EControlKind::PictureGrid) return ClickGrid(nId, nRow);
+    if (pControl->kind == EControlKind::TextList) return ClickText(nId, nRow, false);
+    if (pControl->kind == EControlKind::CheckTable) return ClickTable(nId, nRow, ETableClick::Row);
     if (!IsList(pControl->kind)) return std::string("control ") + std::to_string(nId) + " has no rows";
     const int nRows = static_cast<int>(pControl->arrItems.size());
-    if (nRow < 0 || nRow >= nRows)
-        return std::string("list ") + std::to_string(nId) + " has no row " + std::to_string(nRow) +
-               ", only " + std::to_string(nRows) + " from 0 on";
+    if (nRow < 0 || nRow >= nRows) return NoRow(nId, nRow, nRows);
     TakeFocus(nId);
     if (pControl->nSel != nRow) {
         m_dialog.Controls().Select(nId, nRow);
@@ -226,6 +238,7 @@ void CPlayHost::KeyToControl(const CKeyEvent& event) {
     const CControl* pControl = m_dialog.Controls().Find(m_dialog.Controls().Focus());
     const bool bGrid = pControl != nullptr && pControl->kind == EControlKind::PictureGrid;
     if (bGrid && CPictureGridHand(m_dialog, pControl->nId).OnKey(event.nKey)) return;
+    if (pControl != nullptr && KeyToRows(*pControl, event.nKey)) return;
     CIconListModel* pIcons = IconsOf(m_dialog.Controls().Focus());
     if (pIcons != nullptr && HandOf(*pIcons).OnKey(event)) return;
     DoDialogKey(m_dialog, event);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "window/Bitmaps.h"
+#include "window/CheckTableHand.h"
 #include "window/Dialog.h"
 #include "window/IconListHand.h"
 #include "window/ScrollView.h"
@@ -17,7 +18,10 @@ class CScriptedPlatform;
 //
 // Operations of the hand return an empty text, or why the thing cannot be done. They return when the event
 // and all that it wanted painted are over.
-class CPlayHost : private CDialogHost, private CViewHost, private CIconListObserver {
+class CPlayHost : private CDialogHost,
+                  private CViewHost,
+                  private CIconListObserver,
+                  private CCheckTableObserver {
   public:
     // Both outlive the host, and so do the pictures, which may be null for a window without a skin. Nothing
     // of the dialog is called yet but Attach. As long as the host lives, the platform keeps the dialog
@@ -40,16 +44,25 @@ class CPlayHost : private CDialogHost, private CViewHost, private CIconListObser
 
     // A click of a button, a bitmap label, a check box or a radio button.
     [[nodiscard]] std::string Click(int nId);
-    // A click on a row of a list, or on an item of a list of icons.
+    // A click on a row of a list, or on an item of a list of icons; in a table of rows to tick beside its
+    // box.
     [[nodiscard]] std::string SelectRow(int nId, int nRow);
     // A click on a picture of a grid, which is scrolled to it, or beside all of them for -1.
     [[nodiscard]] std::string ClickGrid(int nId, int nItem);
+    // Of a list of texts or a table of rows to tick.
+    [[nodiscard]] std::string DoubleClickRow(int nId, int nRow);
+    // A click on the box of a row in a table, which ticks or unticks it.
+    [[nodiscard]] std::string TickRow(int nId, int nRow) { return ClickTable(nId, nRow, ETableClick::Box); }
+    // In a table; -1 for below all rows.
+    [[nodiscard]] std::string RightClickRow(int nId, int nRow) {
+        return ClickTable(nId, nRow, ETableClick::Right);
+    }
     [[nodiscard]] std::string MoveSlider(int nId, int nPos);
     // Replaces the text of an edit; what is beyond its most characters does not go in.
     [[nodiscard]] std::string Type(int nId, const std::string& strText);
     [[nodiscard]] std::string ScrollView(int nId, CPoint pt);
-    // A key that the dialog does not take goes to the list of icons or grid of pictures that has the focus,
-    // or means Ok and Cancel as in every dialog.
+    // A key that the dialog does not take goes to the list, table or grid that has the focus, or means Ok and
+    // Cancel as in every dialog.
     [[nodiscard]] std::string Key(const CKeyEvent& event);
     // pt in client pixels of the view in that control.
     [[nodiscard]] std::string MouseOnView(int nId, EMouseAction action, EMouseButton button, CPoint pt,
@@ -92,12 +105,20 @@ class CPlayHost : private CDialogHost, private CViewHost, private CIconListObser
     void OnIconsReset() override;
     void OnIconChanged(int /*nItem*/) override {}
     void OnIconsSelected() override {}
+    void OnRowsReset() override;
+    void OnRowTicked(int /*nRow*/) override {}
 
     std::string Reach(int nId, const CControl*& pControl) const;
     std::string ReachItem(int nId, CTreeItem item, CTreeModel*& pTree);
     std::string ReachIcons(int nId, int nItem, CIconListModel*& pIcons);
     CIconListHand& HandOf(CIconListModel& icons) { return m_mapIcons.at(&icons); }
     CIconListModel* IconsOf(int nId);
+    // Where a click goes in a table of rows to tick.
+    enum class ETableClick { Row, Box, Double, Right };
+    std::string ClickTable(int nId, int nRow, ETableClick click);
+    std::string ClickText(int nId, int nRow, bool bDouble);
+    static std::string NoRow(int nId, int nRow, int nRows);
+    bool KeyToRows(const CControl& control, int nKey);
     std::string ToggleItem(int nId, CTreeItem item, bool bOpen);
     // The hand puts the focus there, which ends the typing elsewhere.
     void TakeFocus(int nId);
@@ -110,8 +131,9 @@ class CPlayHost : private CDialogHost, private CViewHost, private CIconListObser
     CDialog& m_dialog;
     std::vector<CScrollView*> m_arrViews;
     std::map<CIconListModel*, CIconListHand> m_mapIcons;
-    unsigned m_nHeld = 0;  // mouse buttons that are down, as flags
-    int m_nAnchor = 0;     // the icon from which a click with shift selects
+    std::map<int, CCheckTableHand> m_mapTables;  // by their controls
+    unsigned m_nHeld = 0;                        // mouse buttons that are down, as flags
+    int m_nAnchor = 0;                           // the icon from which a click with shift selects
     int m_nPaints = 0;
     bool m_bInit = false;
 };

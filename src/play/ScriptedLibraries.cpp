@@ -24,5 +24,5 @@ class CTableLibrary : public CLibrary {
 std::unique_ptr<CLibrary> CScriptedLibraries::Load(const std::string& strFileName) {
     m_arrAsked.push_back(strFileName);
     if (!m_mapFunctions.empty()) return std::make_unique<CTableLibrary>(m_mapFunctions, m_nLoaded);
-    return CLibraryFolders(m_arrFolders).Load(strFileName);
+    return CLibraryFolders(m_arrFolders, m_mapFiles).Load(strFileName);
 }

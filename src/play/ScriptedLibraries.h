@@ -11,6 +11,12 @@
 class CScriptedLibraries : public CLibraries {
   public:
     void SetFolders(std::vector<std::string> arrFolders) { m_arrFolders = std::move(arrFolders); }
+    // Another file for the library of that name, see CLibraryFolders; an empty path for none at all.
+    void SetFile(const std::string& strFileName, const std::string& strPath) {
+        m_mapFiles[strFileName] = strPath;
+    }
+    void ForgetFile(const std::string& strFileName) { m_mapFiles.erase(strFileName); }
+    void SetFiles(CLibraryFiles mapFiles) { m_mapFiles = std::move(mapFiles); }
     void AddFunction(const std::string& strName, void* pFunction) { m_mapFunctions[strName] = pFunction; }
     void RemoveFunctions() { m_mapFunctions.clear(); }
     // What the program has loaded and not let go.
@@ -22,6 +28,7 @@ class CScriptedLibraries : public CLibraries {
 
   private:
     std::vector<std::string> m_arrFolders;
+    CLibraryFiles m_mapFiles;
     std::map<std::string, void*> m_mapFunctions;
     std::vector<std::string> m_arrAsked;
     int m_nLoaded = 0;

@@ -31,8 +31,8 @@ CScriptedPlatform::~CScriptedPlatform() {
 }
 
 CPlatform CScriptedPlatform::Get() {
-    return {*this, *this, *this, *this, *this, *this, m_timers,   *this,
-            *this, *this, *this, *this, *this, *this, m_libraries};
+    return {*this, *this, *this, *this, *this, *this, m_timers,    *this,
+            *this, *this, *this, *this, *this, *this, m_libraries, m_ports};
 }
 
 // One entry for each dialog of the program's own that a user of this platform can work through.

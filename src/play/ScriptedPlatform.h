@@ -10,6 +10,7 @@
 #include "play/Answer.h"
 #include "play/PlayHost.h"
 #include "play/ScriptedLibraries.h"
+#include "play/ScriptedPorts.h"
 #include "play/VirtualTimers.h"
 #include "window/Bitmaps.h"
 #include "window/Clipboard.h"
@@ -126,6 +127,7 @@ class CScriptedPlatform : private CMessageBoxes,
     CBitmaps* Bitmaps() { return m_pBitmaps; }
     // None at first.
     CScriptedLibraries& Libraries() { return m_libraries; }
+    CScriptedPorts& Ports() { return m_ports; }
     void SetInstallValue(const std::string& strValue) { m_strInstallValue = strValue; }
     std::optional<std::vector<std::uint8_t>>& ClipboardPicture() { return m_clipboard; }
 
@@ -173,6 +175,7 @@ class CScriptedPlatform : private CMessageBoxes,
     std::vector<CPlayHost*> m_arrHosts;
     CVirtualTimers m_timers;
     CScriptedLibraries m_libraries;
+    CScriptedPorts m_ports;
     CBitmaps* m_pBitmaps = nullptr;
     std::optional<std::vector<std::uint8_t>> m_clipboard;
     std::string m_strInstallValue;

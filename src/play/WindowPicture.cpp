@@ -6,7 +6,9 @@
 #include "controls/SkinSlider.h"
 #include "image/Image.h"
 #include "resources/Grounds.h"
+#include "window/CheckTableHand.h"
 #include "window/IconListModel.h"
+#include "window/TextListHand.h"
 #include "window/TreeModel.h"
 
 namespace {
@@ -25,6 +27,16 @@ constexpr int kTreeRow = 16;
 constexpr int kTreeIndent = 19;
 constexpr int kCharacter = 6;
 
+// The first row that is seen of a list: its first, or such that the last one seen is the selected one.
+int FirstInSight(int nSel, int nRows) {
+    return std::max(0, nSel - nRows + 1);
+}
+
+CRect InsideOf(const CControl& control) {
+    const CRect& rc = control.rcPlace;
+    return HasBorder(control) ? CRect{rc.left + 1, rc.top + 1, rc.right - 1, rc.bottom - 1} : rc;
+}
+
 class CComposer {
   public:
     CComposer(CPlayHost& host, CBitmaps* pBitmaps)
@@ -40,15 +52,25 @@ class CComposer {
     void Draw(const CControl& control);
     void DrawButton(const CControl& control);
     void DrawMark(const CControl& control);
+    void DrawCheck(const CRect& rc, bool bChecked);
     void DrawRows(const CControl& control);
     void DrawGrid(const CControl& control);
     void DrawSlider(const CControl& control);
     void DrawShare(const CControl& control);
     void DrawView(const CControl& control);
     void DrawIcons(const CControl& control);
+    void DrawPaper(const CControl& control) {
+        m_surface.FillRect(control.rcPlace, kPaper);
+        if (HasBorder(control)) m_surface.FrameRect(control.rcPlace, kRim);
+    }
+    void DrawTexts(const CControl& control);
+    void DrawTable(const CControl& control);
+    void DrawTableRow(const CControl& control, const CCheckTableModel::CRow& row, const CRect& rcRow,
+                      bool bCurrent);
     void DrawTree(const CControl& control);
     void DrawBranch(const CRect& rcTree, const CTreeModel& tree, CTreeItem parent, CPoint& pt);
     void DrawName(const CRect& rcClip, const std::string& strName, CPoint pt, bool bSelected);
+    void DrawBar(const CRect& rcClip, int nWidth, CPoint pt, bool bSelected);
     bool DrawBitmap(const std::string& strName, const CControl& control);
     void DrawBox(const CRect& rc, CColor color) {
         m_surface.FillRect(rc, color);
@@ -81,9 +103,12 @@ void CComposer::DrawButton(const CControl& control) {
 
 void CComposer::DrawMark(const CControl& control) {
     const int nSide = std::min(control.rcPlace.Width(), control.rcPlace.Height());
-    const CRect rc = CRect::FromPlace(control.rcPlace.left, control.rcPlace.top, nSide, nSide);
+    DrawCheck(CRect::FromPlace(control.rcPlace.left, control.rcPlace.top, nSide, nSide), control.bChecked);
+}
+
+void CComposer::DrawCheck(const CRect& rc, bool bChecked) {
     DrawBox(rc, kPaper);
-    if (control.bChecked) m_surface.FillRect({rc.left + 4, rc.top + 4, rc.right - 4, rc.bottom - 4}, kMark);
+    if (bChecked) m_surface.FillRect({rc.left + 4, rc.top + 4, rc.right - 4, rc.bottom - 4}, kMark);
 }
 
 // The rows of a list of pictures from the first one on, or the last of them the selected one.
@@ -99,7 +124,7 @@ void CComposer::DrawRows(const CControl& control) {
     if (pFirst == nullptr) return;
     const int nHeight = pFirst->GetHeight();
     const int nRows = rc.Height() / nHeight;
-    int nRow = -std::max(0, control.nSel - nRows + 1);
+    int nRow = -FirstInSight(control.nSel, nRows);
     for (const CListItem& item : control.arrItems) {
         const CxImage* pImage = nRow >= 0 && nRow < nRows ? m_pBitmaps->Find(item.strText, 1) : nullptr;
         if (pImage != nullptr)
@@ -147,7 +172,10 @@ void CComposer::DrawShare(const CControl& control) {
 // A text is a bar as long as the text, on a mark where it is selected.
 void CComposer::DrawName(const CRect& rcClip, const std::string& strName, CPoint pt, bool bSelected) {
     const auto nLength = std::min<std::size_t>(strName.size(), kThumbnailSide / kCharacter);
-    const int nWidth = static_cast<int>(nLength) * kCharacter;
+    DrawBar(rcClip, static_cast<int>(nLength) * kCharacter, pt, bSelected);
+}
+
+void CComposer::DrawBar(const CRect& rcClip, int nWidth, CPoint pt, bool bSelected) {
     const CRect rc = CRect::FromPlace(pt.x, pt.y, nWidth, kNameHeight);
     if (bSelected) m_surface.FillRect(rc.Intersect(rcClip), kMark);
     const CRect rcInk{rc.left + 2, rc.top + 4, rc.right - 2, rc.bottom - 4};
@@ -167,6 +195,66 @@ void CComposer::DrawIcons(const CControl& control) {
         if (pt.y + kCellPitch.cy > rc.bottom) break;
         if (!pIcons->Picture(i).IsEmpty()) m_surface.DrawPixels(pIcons->Picture(i), pt.x, pt.y);
         DrawName(rc, pIcons->Text(i), {pt.x, pt.y + kThumbnailSide + 4}, pIcons->IsSelected(i));
+    }
+}
+
+void CComposer::DrawTexts(const CControl& control) {
+    constexpr int kRow = CTextListHand::kRowPixels;
+    const CRect rc = InsideOf(control);
+    DrawPaper(control);
+    const int nRows = rc.Height() / kRow;
+    const int nFirst = FirstInSight(control.nSel, nRows);
+    const int nEnd = std::min(static_cast<int>(control.arrItems.size()), nFirst + nRows);
+    for (int nRow = nFirst; nRow < nEnd; ++nRow) {
+        const bool bSelected = nRow == control.nSel;
+        const CRect rcRow = CRect::FromPlace(rc.left, rc.top + (nRow - nFirst) * kRow, rc.Width(), kRow);
+        if (bSelected) m_surface.FillRect(rcRow, kMark);
+        DrawName(rcRow, control.arrItems[static_cast<std::size_t>(nRow)].strText,
+                 {rcRow.left + 4, rcRow.top + 2}, bSelected);
+    }
+}
+
+// A box to tick, and each text in the middle of its column; a column of titles has neither.
+void CComposer::DrawTableRow(const CControl& control, const CCheckTableModel::CRow& row, const CRect& rcRow,
+                             bool bCurrent) {
+    if (bCurrent) m_surface.FillRect(rcRow, kMark);
+    int nLeft = rcRow.left;
+    for (std::size_t i = 0; i < control.look.arrColumns.size() && i < row.arrTexts.size(); ++i) {
+        const int nRight = nLeft + control.look.arrColumns[i].nWidth;
+        const int nTextLeft = nLeft + (i == 0 ? CCheckTableHand::kBoxLeft + CCheckTableHand::kBoxPixels : 0);
+        const auto nLength =
+            std::min(row.arrTexts[i].size(), static_cast<std::size_t>(nRight - nTextLeft) / kCharacter);
+        const int nWidth = static_cast<int>(nLength) * kCharacter;
+        DrawBar(rcRow, nWidth,
+                {(nTextLeft + nRight - nWidth) / 2, rcRow.top + (rcRow.Height() - kNameHeight) / 2},
+                bCurrent);
+        m_surface.FillRect(CRect{nRight - 1, rcRow.top, nRight, rcRow.bottom}.Intersect(rcRow), kRim);
+        nLeft = nRight;
+    }
+    m_surface.FillRect({rcRow.left, rcRow.bottom - 1, rcRow.right, rcRow.bottom}, kRim);
+}
+
+void CComposer::DrawTable(const CControl& control) {
+    using CHand = CCheckTableHand;
+    const CRect rc = InsideOf(control);
+    DrawPaper(control);
+    const CRect rcTitles = CRect::FromPlace(rc.left, rc.top, rc.Width(), CHand::kTitlePixels);
+    m_surface.FillRect(rcTitles, kFace);
+    CCheckTableModel::CRow titles;
+    for (const CTableColumn& column : control.look.arrColumns) titles.arrTexts.emplace_back(column.szTitle);
+    DrawTableRow(control, titles, rcTitles, false);
+    const CCheckTableModel* pTable = m_host.Dialog().TableOf(control.nId);
+    if (pTable == nullptr) return;
+    const int nRows = (rc.Height() - CHand::kTitlePixels) / CHand::kRowPixels;
+    const int nFirst = FirstInSight(control.nSel, nRows);
+    for (int nRow = nFirst; nRow < std::min(pTable->Count(), nFirst + nRows); ++nRow) {
+        const CRect rcRow = CRect::FromPlace(rc.left, rcTitles.bottom + (nRow - nFirst) * CHand::kRowPixels,
+                                             rc.Width(), CHand::kRowPixels);
+        DrawTableRow(control, pTable->Row(nRow), rcRow, nRow == control.nSel);
+        DrawCheck(CRect::FromPlace(rcRow.left + CHand::kBoxLeft,
+                                   rcRow.top + (CHand::kRowPixels - CHand::kBoxPixels) / 2, CHand::kBoxPixels,
+                                   CHand::kBoxPixels),
+                  pTable->Row(nRow).bTicked);
     }
 }
 
@@ -219,6 +307,10 @@ void CComposer::Draw(const CControl& control) {
         case EControlKind::Edit:
         case EControlKind::Combo:
             return DrawBox(control.rcPlace, kPaper);
+        case EControlKind::TextList:
+            return DrawTexts(control);
+        case EControlKind::CheckTable:
+            return DrawTable(control);
         case EControlKind::PictureList:
             return DrawRows(control);
         case EControlKind::PictureGrid:

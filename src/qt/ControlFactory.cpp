@@ -2,6 +2,7 @@
 
 #include "qt/BitmapButton.h"
 #include "qt/BitmapLabel.h"
+#include "qt/CheckTableWidget.h"
 #include "qt/ComboWidget.h"
 #include "qt/EditWidget.h"
 #include "qt/IconListWidget.h"
@@ -13,6 +14,7 @@
 #include "qt/ScrollViewWidget.h"
 #include "qt/SliderWidget.h"
 #include "qt/TextLabel.h"
+#include "qt/TextListWidget.h"
 #include "qt/TreeWidget.h"
 #include "window/Dialog.h"
 
@@ -36,6 +38,10 @@ std::unique_ptr<CControlWidget> CreateControlWidget(const CControlContext& conte
             return std::make_unique<CEditWidget>(context);
         case EControlKind::Combo:
             return std::make_unique<CComboWidget>(context);
+        case EControlKind::TextList:
+            return std::make_unique<CTextListWidget>(context);
+        case EControlKind::CheckTable:
+            return std::make_unique<CCheckTableWidget>(context);
         case EControlKind::PictureList:
             return std::make_unique<CPictureListWidget>(context);
         case EControlKind::PictureGrid:

@@ -17,7 +17,24 @@ constexpr QColor kWell(228, 233, 228);
 constexpr QColor kPaleWell(186, 194, 188);
 constexpr QColor kPaleMark(150, 158, 153);
 
+void PaintCheckMark(QPainter& painter, const QRectF& rc, bool bEnabled) {
+    QPainterPath path(rc.topLeft() + QPointF(2.4, 5.8));
+    path.lineTo(rc.topLeft() + QPointF(4.7, 8.4));
+    path.lineTo(rc.topLeft() + QPointF(8.8, 2.8));
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(bEnabled ? SkinColors::kWarm.darker(110) : kPaleMark, 2.4, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(path);
+}
+
 }  // namespace
+
+void PaintCheckBox(QPainter& painter, const QRectF& rc, bool bChecked, bool bEnabled) {
+    painter.setPen(QPen(kRim, 1));
+    painter.setBrush(bEnabled ? kWell : kPaleWell);
+    painter.drawRoundedRect(rc, 2, 2);
+    if (bChecked) PaintCheckMark(painter, rc, bEnabled);
+}
 
 CMarkBox::CMarkBox(const CControlContext& context) : QAbstractButton(context.pParent), m_context(context) {
     setFocusPolicy(Qt::StrongFocus);
@@ -42,14 +59,7 @@ void CMarkBox::PaintRound(QPainter& painter, const QRectF& rc) const {
 
 void CMarkBox::PaintSquare(QPainter& painter, const QRectF& rc) const {
     painter.drawRoundedRect(rc, 2, 2);
-    if (!m_context.control.bChecked) return;
-    QPainterPath path(rc.topLeft() + QPointF(2.4, 5.8));
-    path.lineTo(rc.topLeft() + QPointF(4.7, 8.4));
-    path.lineTo(rc.topLeft() + QPointF(8.8, 2.8));
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(isEnabled() ? SkinColors::kWarm.darker(110) : kPaleMark, 2.4, Qt::SolidLine,
-                        Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(path);
+    if (m_context.control.bChecked) PaintCheckMark(painter, rc, isEnabled());
 }
 
 void CMarkBox::paintEvent(QPaintEvent* /*pEvent*/) {

@@ -4,6 +4,10 @@
 
 #include "qt/ControlWidget.h"
 
+// The square of a check box, 11 pixels wide and high, for whoever has such boxes in its rows. The painter
+// smoothes edges.
+void PaintCheckBox(QPainter& painter, const QRectF& rc, bool bChecked, bool bEnabled);
+
 // A radio button or a check box in the skin's manner: a small inset round or square with a warm mark, and the
 // caption behind it if there is one.
 class CMarkBox : public QAbstractButton, public CControlWidget {

@@ -2,7 +2,7 @@
 
 #include "window/LibraryFolders.h"
 
-// The libraries beside the running program, see FoldersOfLibraries.
+// The libraries beside the running program, see FoldersOfLibraries; the phone library may lie elsewhere.
 class CQtLibraries : public CLibraryFolders {
   public:
     CQtLibraries();

@@ -11,6 +11,7 @@
 #include "qt/QtMessageBoxes.h"
 #include "qt/QtModalDialogs.h"
 #include "qt/QtPopupMenus.h"
+#include "qt/QtSerialPorts.h"
 #include "qt/QtShell.h"
 #include "qt/QtTextRasterizer.h"
 #include "qt/QtTimers.h"
@@ -25,8 +26,8 @@ class CQtPlatform {
           m_modals(m_pictures, m_timers),
           m_files(m_pictures, m_timers),
           m_shell(m_boxes),
-          m_platform{m_boxes,     m_modals,  m_files, m_colors, m_fonts, m_menus, m_timers,   m_wait,
-                     m_clipboard, m_folders, m_text,  m_drives, m_shell, bitmaps, m_libraries} {}
+          m_platform{m_boxes,     m_modals,  m_files, m_colors, m_fonts, m_menus, m_timers,    m_wait,
+                     m_clipboard, m_folders, m_text,  m_drives, m_shell, bitmaps, m_libraries, m_ports} {}
     CQtPlatform(const CQtPlatform&) = delete;
     CQtPlatform& operator=(const CQtPlatform&) = delete;
 
@@ -49,5 +50,6 @@ class CQtPlatform {
     CQtDrives m_drives;
     CQtShell m_shell;
     CQtLibraries m_libraries;
+    CQtSerialPorts m_ports;
     CPlatform m_platform;
 };

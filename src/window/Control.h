@@ -75,7 +75,7 @@ struct CControl {
     int nMin = 0;      // range of sliders and progress bars; how far a PictureGrid has scrolled and can
     int nMax = 100;
     int nPos = 0;
-    int nSel = -1;  // selected row; -1 for none
+    int nSel = -1;  // selected row, of a CheckTable the current one; -1 for none
     std::vector<CListItem> arrItems;
     CControlLook look;  // never changes
 };

@@ -49,16 +49,21 @@ bool IsWhole(const fs::path& path) {
     return true;
 }
 
+std::unique_ptr<CLibrary> LoadFile(const fs::path& path) {
+    void* const pHandle = IsWhole(path) ? dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
+    return pHandle == nullptr ? nullptr : std::make_unique<CLoadedLibrary>(pHandle);
+}
+
 }  // namespace
 
 std::unique_ptr<CLibrary> CLibraryFolders::Load(const std::string& strFileName) {
+    const auto it = m_mapFiles.find(strFileName);
+    if (it != m_mapFiles.end()) return LoadFile(it->second);
     std::error_code error;
     for (const std::string& strFolder : m_arrFolders) {
         // Whole, or the loader would look in the system's folders too.
         const fs::path path = fs::absolute(fs::path(strFolder) / strFileName, error);
-        if (!fs::exists(path, error)) continue;
-        void* const pHandle = IsWhole(path) ? dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
-        return pHandle == nullptr ? nullptr : std::make_unique<CLoadedLibrary>(pHandle);
+        if (fs::exists(path, error)) return LoadFile(path);
     }
     return nullptr;
 }
@@ -69,4 +74,15 @@ std::vector<std::string> FoldersOfLibraries(const std::string& strProgramFolder)
     std::error_code error;
     if (szNamed != nullptr && *szNamed != '\0') return {fs::absolute(szNamed, error).string()};
     return {(fs::path(strProgramFolder) / "../lib/fotarium").lexically_normal().string(), strProgramFolder};
+}
+
+CLibraryFiles FilesOfLibraries(std::span<const CLibraryVariable> arrVariables) {
+    CLibraryFiles mapFiles;
+    std::error_code error;
+    for (const CLibraryVariable& variable : arrVariables) {
+        const char* const szNamed = std::getenv(variable.szVariable);
+        if (szNamed != nullptr && *szNamed != '\0')
+            mapFiles[variable.szFileName] = fs::absolute(szNamed, error).string();
+    }
+    return mapFiles;
 }

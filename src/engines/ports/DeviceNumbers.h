@@ -10,7 +10,8 @@
 // The number of the port behind which the phone in a folder stands.
 inline constexpr int kFolderPhonePort = 200;
 
-// 1 to 256 for the name of a device without its folder, such as "ttyUSB0"; nothing for one that has no number.
+// 1 to 256 for the name of a device without its folder, such as "ttyUSB0"; nothing for one that has no
+// number.
 std::optional<int> PortNumberOf(const std::string& strDevice);
 // The whole path of the device, such as "/dev/ttyUSB0"; empty for a number that means none.
 std::string DeviceOfPort(int nPort);

@@ -1,9 +1,11 @@
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
 #include <vector>
 
+#include "engines/linkset/PhoneLibrary.h"
 #include "play/Player.h"
 #include "resources/BitmapStore.h"
 
@@ -31,6 +33,8 @@ int Play(const std::string& strScript, bool bStrict, const char* szSelf) {
     CScriptedPlatform platform;
     platform.SetBitmaps(&bitmaps);
     platform.Libraries().SetFolders(FoldersOfLibraries(FolderOfProgram(szSelf).string()));
+    platform.Libraries().SetFiles(
+        FilesOfLibraries(std::array{CLibraryVariable{PHONE_LIBRARY_NAME, kPhoneLibraryVariable}}));
     CPlayer player(platform, std::cout, std::cerr);
     player.SetStrict(bStrict);
     return player.Play(bStandardInput ? std::cin : file, strScript) ? 0 : kCannotBeDone;

@@ -125,12 +125,15 @@ void CEditCommands::OnSave() {
 
 void CEditCommands::OnPrint() {
     m_env.draw.AbandonShape();
-    if (m_env.state.IsAtWork(EMode::Draw)) {
-        if (!m_env.draw.PrepareDrop()) return;
-        m_env.draw.DropFloat();
-        m_env.draw.FetchCanvas();
-    }
-    m_env.print.OnPrint();
+    if (SettlePicture()) m_env.print.OnPrint();
+}
+
+bool CEditCommands::SettlePicture() {
+    if (!m_env.state.IsAtWork(EMode::Draw)) return true;
+    if (!m_env.draw.PrepareDrop()) return false;
+    m_env.draw.DropFloat();
+    m_env.draw.FetchCanvas();
+    return true;
 }
 
 // --- history ---
@@ -176,6 +179,13 @@ void CEditCommands::OnSize() {
     const auto size = m_env.geometry.ChooseSize(m_env.link.PhoneSizes());
     if (!size) return FocusEffectList();
     Change([&](const CxImage& imgBase) { return m_env.geometry.ChangeSize(imgBase, *size); });
+}
+
+bool CEditCommands::ResizeForPhone(CSize size) {
+    const bool bChanged =
+        Change([&](const CxImage& imgBase) { return m_env.geometry.SetSize(imgBase, size); });
+    if (bChanged && m_env.state.IsUp(EMode::Font)) m_env.textArt.DrawAnew();
+    return bChanged;
 }
 
 void CEditCommands::OnLarge() {

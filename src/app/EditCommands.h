@@ -53,6 +53,12 @@ class CEditCommands {
     void OnTurn(ETurn turn);
     void OnConfirm();
     void OnCancel();
+    // For the phone: what DRAW has on its canvas becomes the working image, a float merged. False behind a
+    // message that there is no memory.
+    [[nodiscard]] bool SettlePicture();
+    // The picture gets a size of the phone, as one step; words stay on it. False behind such a message.
+    [[nodiscard]] bool ResizeForPhone(CSize size);
+    void FocusEffectList();
     // The click of a tab.
     void OnTab(EMode mode);
     void GoToMode(EMode mode);
@@ -70,7 +76,6 @@ class CEditCommands {
     void ShowStep();
     void OpenFile(const CFileChoice& choice);
     void EnterEdit();
-    void FocusEffectList();
     void ShowSizeRule();
 
     CEnvironment m_env;

@@ -30,6 +30,7 @@ class CMainDlg : public CDialog,
                  private CToolHost,
                  private CSkinHost,
                  private CBrowseHost,
+                 private CPhoneHost,
                  private CPreviewFactory {
   public:
     // What the platform gives outlives the window.
@@ -94,6 +95,12 @@ class CMainDlg : public CDialog,
     CColor TextColor() const override { return m_textArt.TextColor(); }
     bool IsListPressed() const override { return m_thum.List().IsPressed(); }
 
+    // CPhoneHost
+    bool SettlePicture() override { return m_commands.SettlePicture(); }
+    bool ResizeForPhone(CSize size) override { return m_commands.ResizeForPhone(size); }
+    void GoToThum() override { m_commands.GoToMode(EMode::Thum); }
+    void FocusEffectList() override { m_commands.FocusEffectList(); }
+
     // CPreviewFactory
     std::unique_ptr<CFileDialogPanel> MakePreview() override;
 
@@ -103,7 +110,6 @@ class CMainDlg : public CDialog,
     CToolState m_toolState;
     // The one sequence of the process: effects and airbrush draw from it in turn, and only Seed seeds it.
     CRandomSequence m_random;
-    CPhoneLink m_link;
     CMySCrollView m_canvas;
     CDrawGuest m_draw;
     CControlDesk m_desk;
@@ -119,6 +125,7 @@ class CMainDlg : public CDialog,
     CFrameFlow m_frames;
     CTextArtFlow m_textArt;
     CPrintFlow m_print;
+    CPhoneLink m_link;
     CModeSwitch m_modes;
     CEditCommands m_commands;
 };

@@ -30,9 +30,11 @@ void Colour(TextArtParam& param, CColor color) {
 CTextArtFlow::CTextArtFlow(const CEnvironment& env)
     : m_env(env),
       m_list(env.controls, kTextEffectList),
-      m_guest({env.images, env.canvas, m_textParam, [this] {
-                   if (RunTextArt(Words())) m_env.canvas.Invalidate();
-               }}) {}
+      m_guest({env.images, env.canvas, m_textParam, [this] { DrawAnew(); }}) {}
+
+void CTextArtFlow::DrawAnew() {
+    if (RunTextArt(Words())) m_env.canvas.Invalidate();
+}
 
 void CTextArtFlow::Init() {
     std::vector<std::string> arrCells;

@@ -45,6 +45,9 @@ class CTextArtFlow {
     CTextGuest& Guest() { return m_guest; }
     const TextArtParam& Param() const { return m_textParam; }
 
+    // The words again, in the shape and over the picture that they have now.
+    void DrawAnew();
+
     // --- the commands ---
     // The words have been typed into; the picture has them from the next command on.
     void OnTextInput();

@@ -42,10 +42,11 @@ class CGeometryCommands {
     [[nodiscard]] bool MaySize() { return !IsRefused(kTextPhoneSizeRules); }
     [[nodiscard]] std::optional<CSize> ChooseSize(std::vector<CSize> arrPhoneSizes);
     [[nodiscard]] bool ChangeSize(const CxImage& imgBase, CSize size);
+    // To a size of which nobody needs to be asked.
+    [[nodiscard]] bool SetSize(const CxImage& imgBase, CSize size);
 
   private:
     [[nodiscard]] bool IsRefused(const char* szText);
-    [[nodiscard]] bool SetSize(const CxImage& imgBase, CSize size);
     [[nodiscard]] bool Zoom(const CxImage& imgBase, double fStep);
     void ShowSizeError(const char* szText);
 

@@ -68,6 +68,7 @@ class CPhoneLink {
     void Refuse(const std::string& strText);
     bool ChooseSize();
     void Transfer();
+    void RunTransfer();
     bool MakeImage(CxImage& image) const;
     void EndSend();
 

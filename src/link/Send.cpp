@@ -66,23 +66,29 @@ bool CPhoneLink::ChooseSize() {
 }
 
 void CPhoneLink::Transfer() {
-    CSend send;
-    const bool bCan = m_session.Calls().CanTransfer();
-    if (!bCan && m_session.Restarts()) m_session.Show(kTextRestart, kTitleSend);
-    if (m_session.Env().state.IsUp(EMode::Thum))
-        send.arrFiles = m_arrSendFiles;
-    else
-        send.strName = m_session.Env().state.m_strFileName;
-    if (bCan && !send.arrFiles.empty() || (bCan && Prepare([&] { return MakeImage(send.image); }))) {
-        CTransferDlg dialog(EDirection::Send, m_session, [&](CTransferDlg& transfer) {
-            return DoSendFiles(m_session, transfer, send);
-        });
-        m_session.Env().modals.Run(dialog);
-    } else if (bCan) {
-        m_session.Show(kTextNoMemory, kTextProgram, EBoxIcon::Exclamation);
-    }
+    if (m_session.Calls().CanTransfer())
+        RunTransfer();
+    else if (m_session.Restarts())
+        m_session.Show(kTextRestart, kTitleSend);
     if (m_session.Restarts()) WaitForRestart();
     m_session.Calls().DisconnectToPhone();
+}
+
+void CPhoneLink::RunTransfer() {
+    CSend send;
+    if (m_session.Env().state.IsUp(EMode::Thum)) {
+        send.arrFiles = m_arrSendFiles;
+    } else {
+        send.strName = m_session.Env().state.m_strFileName;
+        if (!Prepare([&] { return MakeImage(send.image); })) {
+            m_session.Show(kTextNoMemory, kTextProgram, EBoxIcon::Exclamation);
+            return;
+        }
+    }
+    CTransferDlg dialog(EDirection::Send, m_session, [&](CTransferDlg& transfer) {
+        return DoSendFiles(m_session, transfer, send);
+    });
+    m_session.Env().modals.Run(dialog);
 }
 
 // The picture in the editor as it is sent. False if memory is short.

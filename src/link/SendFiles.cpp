@@ -69,26 +69,26 @@ class CSender {
 
     template <class TTell>
     bool SendOne(const CPixels& pixels, const std::string& strName, TTell tellFull) {
-        const CSharedBytes file = MakeFile(pixels);
-        if (file.IsEmpty()) return Stop([&] { m_session.Show(kTextNoMemory, kTextProgram); });
-        const bool bWritten = m_temporary.Write({file.Data(), file.Size()});
+        if (!MakeFile(pixels))
+            return Stop([&] { m_session.Show(kTextNoMemory, kTextProgram, EBoxIcon::Exclamation); });
+        const bool bWritten = m_temporary.Write(m_packed);
         std::uint32_t nFree = 0;
         if (const int nCode = m_session.Calls().GetAvailableMemory(nFree); nCode != LINK_OK) return Fail(nCode);
         if (!bWritten) return Stop([&] { m_session.Show(kTextFileOpenFailed, kTitleFileOpenFailed); });
-        if (file.Size() > nFree) return Stop(tellFull);
+        if (m_packed.size() > nFree) return Stop(tellFull);
         const int nCode = m_session.Calls().Transfer(m_session.State(), m_temporary.Path(), strName);
         m_temporary.Remove();
         return nCode == LINK_OK || Fail(nCode);
     }
 
-    // The picture in the phone's form, its thumbnail inside. Empty if memory is short.
-    CSharedBytes MakeFile(const CPixels& pixels) {
+    // The picture in the phone's form, its thumbnail inside. False if memory is short.
+    bool MakeFile(const CPixels& pixels) {
         CxImage thumb;
-        if (!MakeThumb(pixels, thumb)) return {};
+        if (!MakeThumb(pixels, thumb)) return false;
         m_picture.clear();
         m_thumb.clear();
-        if (!EncodeJpeg(pixels, {}, m_picture) || !EncodeJpeg(thumb.Pixels(), {}, m_thumb)) return {};
-        return PackPhoneJpeg(m_picture, m_thumb);
+        return EncodeJpeg(pixels, {}, m_picture) && EncodeJpeg(thumb.Pixels(), {}, m_thumb) &&
+               PackPhoneJpeg(m_picture, m_thumb, m_packed);
     }
 
     bool MakeThumb(const CPixels& pixels, CxImage& thumb) const {
@@ -108,6 +108,7 @@ class CSender {
     // Kept from picture to picture, so that the memory for them is taken once.
     std::vector<std::uint8_t> m_picture;
     std::vector<std::uint8_t> m_thumb;
+    std::vector<std::uint8_t> m_packed;
 };
 
 }  // namespace

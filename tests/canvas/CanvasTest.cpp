@@ -8,7 +8,7 @@ namespace {
 constexpr CColor kGround = CMySCrollView::kGround;
 constexpr CColor kFrame{0, 0, 0};
 
-// Draws the working image, and keeps what it hears.
+// Draws the working image.
 class CGuest : public CCanvasGuest {
   public:
     explicit CGuest(const CWorkingImages& images) : m_images(images) {}
@@ -16,11 +16,8 @@ class CGuest : public CCanvasGuest {
     void OnDraw(CSurface& surface, CPoint pt) override {
         surface.DrawPixels(m_images.m_imgWork.Pixels(), pt.x, pt.y);
     }
-    void OnMouse(const CMouseEvent& event) override { m_pt = event.pt; }
-    void OnTimer(int nTimer) override { m_nTimer = nTimer; }
-
-    CPoint m_pt;
-    int m_nTimer = 0;
+    void OnMouse(const CMouseEvent& /*event*/) override {}
+    void OnTimer(int /*nTimer*/) override {}
 
   private:
     const CWorkingImages& m_images;
@@ -121,33 +118,4 @@ TEST_F(Canvas, AsksForTheMenuOnARightPressOnly) {
     m_canvas.OnMouse({EMouseAction::Press, EMouseButton::Left, {5, 5}, kMouseLeftDown});
     m_canvas.OnMouse({EMouseAction::DoubleClick, EMouseButton::Right, {5, 5}, kMouseRightDown});
     EXPECT_EQ(m_nMenus, 1);
-}
-
-// Mouse and timers are the guest's as long as it stays; the canvas lets it draw at once, but for a paint to
-// come.
-TEST_F(Canvas, HandsMouseTimersAndDrawingToItsGuest) {
-    m_canvas.SetGuest(&m_guest);
-    const CMouseEvent press{EMouseAction::Press, EMouseButton::Right, {7, 5}, kMouseRightDown};
-    m_canvas.OnMouse(press);
-    EXPECT_EQ(m_guest.m_pt, CPoint{});
-    Open({40, 30}, true);
-    m_canvas.OnMouse(press);
-    m_canvas.OnTimer(3);
-    EXPECT_EQ(m_guest.m_pt, press.pt);
-    EXPECT_EQ(m_guest.m_nTimer, 3);
-    EXPECT_EQ(m_nMenus, 0);
-
-    int nDrawn = 0;
-    const auto draw = [&](CSurface& surface) {
-        surface.SetPixel(2, 3, {9, 9, 9});
-        ++nDrawn;
-        return CRect{2, 3, 3, 4};
-    };
-    m_canvas.DrawNow(draw);
-    EXPECT_EQ(nDrawn, 0);
-    m_canvas.Paint();
-    m_canvas.TakeDamage();
-    m_canvas.DrawNow(draw);
-    EXPECT_EQ(m_canvas.TakeDamage(), (CRect{2, 3, 3, 4}));
-    EXPECT_EQ(m_canvas.Surface().GetPixel(2, 3), (CColor{9, 9, 9}));
 }

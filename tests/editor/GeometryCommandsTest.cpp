@@ -80,33 +80,3 @@ TEST_F(GeometryCommandsTest, AFlipUnderThePhonesSizeKeepsItOutsideDraw) {
         EXPECT_EQ(m_images.m_imgDisplay.GetSize(), (mode == EMode::Draw ? CSize{30, 20} : CSize{176, 144}));
     }
 }
-
-TEST_F(GeometryCommandsTest, AsksForASizeAndRefusesOneOutOfBounds) {
-    struct {
-        CSize size;
-        const char* szBox;
-    } const kAnswers[] = {
-        {{20, 3200}, nullptr},
-        {{3201, 19}, "最大以上的大小"},
-        {{3201, 3200}, "最大以上的大小"},
-        {{19, 400}, "最小以下的大小"},
-    };
-    Open(EMode::Effect);
-    for (const auto& [size, szBox] : kAnswers) {
-        m_fnRun = [&, size = size](CDialog& dialog) {
-            dialog.Controls().Check(kSizeKeepRatio, false);
-            dialog.Controls().SetText(kSizeWidth, std::to_string(size.cx));
-            dialog.Controls().SetText(kSizeHeight, std::to_string(size.cy));
-            dialog.OnCommand(kSizeOk);
-        };
-        EXPECT_EQ(m_geometry.ChooseSize({}), size);
-        EXPECT_EQ(m_geometry.ChangeSize(m_images.m_imgWork, size), szBox == nullptr);
-        const std::vector<CMessageBox> arrBoxes = TakeBoxes();
-        ASSERT_EQ(arrBoxes.size(), szBox == nullptr ? 0U : 1U);
-        if (szBox == nullptr) continue;
-        EXPECT_EQ(arrBoxes[0], (CMessageBox{szBox, "图像大小变更", EBoxIcon::Stop, EBoxButtons::Ok}));
-    }
-    m_fnRun = [](CDialog& dialog) { dialog.OnCommand(kSizeCancel); };
-    EXPECT_EQ(m_geometry.ChooseSize({}), std::nullopt);
-    EXPECT_EQ(m_images.m_stackUndo.Count(), 1);
-}

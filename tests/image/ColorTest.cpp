@@ -20,32 +20,4 @@ TEST(Color, EveryColourConvertsAsItDid) {
     EXPECT_EQ(SumOf(CxImage::HSLtoRGB), 14245918036059119471U);
 }
 
-TEST(Color, EqualisationSpreadsTheLuminances) {
-    const unsigned nSeed = TestSeed();
-    SCOPED_TRACE(nSeed);
-    std::mt19937 random(nSeed);
-    CxImage before = RandomPicture(random, 53, 37);
-    for (std::uint8_t& n : before.MutableBytes()) n = static_cast<std::uint8_t>(n / 3 + 20);
-    const std::span<const std::uint8_t> bytes = before.Pixels().Bytes();
-    double count[256] = {};
-    for (std::size_t n = 0; n < bytes.size(); n += 3)
-        for (int i = (117 * bytes[n + 2] + 601 * bytes[n + 1] + 306 * bytes[n]) / 1024; i < 256; ++i)
-            count[i] += 1;
-    CxImage wanted = before;
-    for (int y = 0; y < 37; ++y) {
-        for (int x = 0; x < 53; ++x) {
-            CColor yuv = CxImage::RGBtoYUV(before.GetPixelColor(x, y));
-            yuv.r = static_cast<std::uint8_t>((count[yuv.r] - count[0]) * 255 / (count[255] - count[0]));
-            wanted.SetPixelColor(x, y, CxImage::YUVtoRGB(yuv));
-        }
-    }
-    CxImage wide = before, plain = before, black(3, 3);
-    ASSERT_TRUE(wide.HistogramEqualize() && black.HistogramEqualize());
-    EXPECT_EQ(black.Pixels(), CxImage(3, 3).Pixels()) << "with all greys 0 nothing happens";
-    const CPlainLoops loops;
-    ASSERT_TRUE(plain.HistogramEqualize());
-    EXPECT_EQ(wide.Pixels(), wanted.Pixels());
-    EXPECT_EQ(plain.Pixels(), wanted.Pixels());
-}
-
 }  // namespace

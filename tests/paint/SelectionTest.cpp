@@ -26,29 +26,6 @@ class SelectionTest : public DrawBench {
 
 }  // namespace
 
-TEST_F(SelectionTest, ARectangleIsTheSameFromBothEnds) {
-    for (const auto& [ptFrom, ptTo] :
-         {std::pair{CPoint{10, 8}, CPoint{40, 30}}, {{40, 8}, {10, 30}}, {{40, 30}, {10, 8}}}) {
-        SelectTool(ETool::SelectRect);
-        Press(ptFrom);
-        Move(ptTo);
-        CSurface page = Page(CPen::Dotted(PenStyle::kDot, {0, 0, 0}));
-        page.DrawPixels(NumberedPixels(60, 50, 9), 0, 0);
-        page.Rectangle({10, 8, 40, 30});
-        EXPECT_TRUE(Scratch() == page.Pixels());
-        Release(ptTo);
-        EXPECT_TRUE(Selection().IsMarked());
-        EXPECT_EQ(Commands(), "xx-x");
-        ASSERT_TRUE(Build());
-        EXPECT_EQ(Selection().m_rcSelect, (CRect{10, 8, 40, 30}));
-        const CPixels pixels = Lifted();
-        ASSERT_EQ((CSize{pixels.Width(), pixels.Height()}), (CSize{30, 22}));
-        EXPECT_EQ(PixelAt(pixels, 0, 0), (CColor{10, 8, 9}));
-        EXPECT_EQ(PixelAt(pixels, 29, 21), (CColor{39, 29, 9}));
-        ExpectUntouched();
-    }
-}
-
 TEST_F(SelectionTest, AClickSelectsNothingAndTurnsNothingOn) {
     for (const ETool tool : {ETool::SelectRect, ETool::SelectFree}) {
         m_tools.m_nTool = tool;
@@ -157,30 +134,4 @@ TEST_F(SelectionTest, ARegionMayReachBesideThePicture) {
     EXPECT_EQ(Selection().m_rcSelect.TopLeft(), (CPoint{-9, -9}));
     EXPECT_EQ(PixelAt(Lifted(), 0, 5), kWhite);
     EXPECT_EQ(PixelAt(Lifted(), 3 + 9, 2 + 9), (CColor{3, 2, 9}));
-}
-
-// The float's pixels go through the region, whatever the size of both: against the pixel by pixel form.
-TEST_F(SelectionTest, AFloatIsDrawnThroughItsRegion) {
-    const unsigned nSeed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(nSeed));
-    std::mt19937 random(nSeed);
-    const auto pick = [&](int nBelow) { return std::uniform_int_distribution<int>(0, nBelow - 1)(random); };
-    for (int n = 0; n < 200; ++n) {
-        CSelection selection;
-        std::array<CPoint, 7> points;
-        for (CPoint& pt : points) pt = {pick(40), pick(40)};
-        selection.m_region = CRegion::MakePolygon(points);
-        selection.m_imgFloat = NumberedImage(1 + pick(50), 1 + pick(50), 77);
-        selection.MoveTo({pick(70) - 20, pick(60) - 20});
-        CSurface page = Page();
-        CSurface plain = Page();
-        const CRect rcBox = selection.m_region.Box();
-        for (int j = 0; j < selection.m_imgFloat.GetHeight(); ++j)
-            for (int i = 0; i < selection.m_imgFloat.GetWidth(); ++i)
-                if (selection.m_region.Contains({rcBox.left + i, rcBox.top + j}))
-                    plain.SetPixel(rcBox.left + i, rcBox.top + j,
-                                   PixelAt(selection.m_imgFloat.Pixels(), i, j));
-        selection.DrawFloat(page);
-        ASSERT_TRUE(page.Pixels() == plain.Pixels()) << n;
-    }
 }

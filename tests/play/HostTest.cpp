@@ -79,29 +79,6 @@ class HostTest : public testing::Test {
 
 }  // namespace
 
-// The mouse is over a control before the event comes, and what is held stays held until it is let go.
-TEST_F(HostTest, RoutesTheMouse) {
-    using enum EMouseAction;
-    EXPECT_EQ(m_host->MouseOnWindow(Press, EMouseButton::Left, {95, 5}), "");
-    EXPECT_EQ(m_host->MouseOnWindow(Move, EMouseButton::None, {60, 65}, kMouseCtrl), "");
-    EXPECT_EQ(m_host->MouseOnView(kView, Release, EMouseButton::Left, {1, 2}, kMouseShift), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "mouse 11@95,5/1;hover 14 down;view 00@10,15/9;view 21@1,2/4;");
-
-    // A line of text lets presses through to the ground, and the ground's own places are no controls.
-    EXPECT_EQ(m_host->MouseOnWindow(Press, EMouseButton::Right, {5, 35}), "");
-    EXPECT_EQ(m_host->MouseOnWindow(Move, EMouseButton::None, {5, 35}), "");
-    EXPECT_EQ(m_host->MouseOnWindow(Move, EMouseButton::None, {25, 55}), "");
-    EXPECT_EQ(m_host->MouseOnWindow(Move, EMouseButton::None, {5, 5}), "");
-    EXPECT_EQ(m_dialog.TakeLog(),
-              "mouse 12@5,35/2;hover 13;mouse 00@5,35/2;hover 0;mouse 00@25,55/2;hover 10;");
-    EXPECT_NE(m_host->MouseOnWindow(Press, EMouseButton::Left, {5, 5}), "");
-
-    // A view that scrolls has no client area below its bars.
-    m_dialog.m_view.SetScrollSizes({100, 10});
-    EXPECT_NE(m_host->MouseOnView(kView, Press, EMouseButton::Left, {1, 30}), "");
-    EXPECT_EQ(m_dialog.TakeLog(), "");
-}
-
 TEST_F(HostTest, PaintsBetweenEventsOnlyWhatIsSeen) {
     m_dialog.Controls().Show(kView, false);
     m_dialog.m_view.Invalidate();
@@ -132,38 +109,6 @@ TEST_F(HostTest, EndsTheWindow) {
     m_host.reset();
     EXPECT_EQ(m_platform.Timers().Count(), 1) << "another window's goes on";
     EXPECT_EQ(m_dialog.TakeLog(), "destroy;");
-}
-
-// Ticks come when they are due; a timer goes on from then; one that is set anew starts anew.
-TEST_F(HostTest, Timers) {
-    CTimers& timers = Get().timers;
-    timers.SetTimer(m_dialog, 1, 30);
-    timers.SetTimer(m_dialog, 2, 10);
-    m_platform.Tick(29);
-    EXPECT_EQ(m_dialog.TakeLog(), "timer 2;timer 2;");
-    m_platform.Tick(1);
-    // Both are due: the one set first comes first.
-    EXPECT_EQ(m_dialog.TakeLog(), "timer 1;timer 2;");
-    m_platform.Tick(5);
-    timers.SetTimer(m_dialog, 2, 10);
-    m_platform.Tick(9);
-    EXPECT_EQ(m_dialog.TakeLog(), "");
-    m_platform.Tick(1);
-    timers.KillTimer(m_dialog, 2);
-    m_platform.Tick(16);
-    EXPECT_EQ(m_dialog.TakeLog(), "timer 2;timer 1;");
-    timers.KillTimer(m_dialog, 1);
-
-    // As fast as the system lets it has the same pace as the shortest period.
-    for (const int nPeriod : {-5, 0, 1, CTimers::kLeastPeriod}) {
-        timers.SetTimer(m_dialog, 3, nPeriod);
-        m_platform.Tick(CTimers::kLeastPeriod - 1);
-        EXPECT_EQ(m_dialog.TakeLog(), "");
-        m_platform.Tick(1);
-        EXPECT_EQ(m_dialog.TakeLog(), "timer 3;");
-        m_platform.Tick(2 * CTimers::kLeastPeriod);
-        EXPECT_EQ(m_dialog.TakeLog(), "timer 3;timer 3;");
-    }
 }
 
 TEST_F(HostTest, NamesPathsByTheNearestDrive) {

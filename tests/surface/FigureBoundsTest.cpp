@@ -143,45 +143,6 @@ TEST(FigureBounds, FarFiguresCostNothing) {
     }
 }
 
-TEST(FigureBounds, CopiedAndStretchedBlocksAreReplicatedPixels) {
-    CRandom random;
-    SCOPED_TRACE(random.nSeed);
-    const CPixels pixels = NumberedPixels(12, 9, 7);
-    for (int nRound = 0; nRound < 6000; ++nRound) {
-        const int nFactor = random.Pick(1, 6);
-        const CBlock from{random.Pick(-3, 12), random.Pick(-3, 9), random.Pick(0, 9), random.Pick(0, 9)};
-        const int nSignX = random.Pick(0, 1) * 2 - 1, nSignY = random.Pick(0, 1) * 2 - 1;
-        const CBlock to{random.Pick(-20, 30), random.Pick(-20, 30), nSignX * nFactor * from.nWidth,
-                        nSignY * nFactor * from.nHeight};
-        CRect rcClip{0, 0, 30, 30};
-        if (nRound % 2 == 0)
-            rcClip = {random.Pick(-3, 12), random.Pick(-3, 12), random.Pick(12, 33), random.Pick(12, 33)};
-        CSurface expected = White(30, 30);
-        for (int j = 0; j < nFactor * from.nHeight; ++j)
-            for (int i = 0; i < nFactor * from.nWidth; ++i) {
-                const CPoint ptFrom{static_cast<int>(from.x) + i / nFactor,
-                                    static_cast<int>(from.y) + j / nFactor};
-                const CPoint pt{static_cast<int>(to.x) + nSignX * i, static_cast<int>(to.y) + nSignY * j};
-                if (rcClip.Contains(pt) && CRect{0, 0, 12, 9}.Contains(ptFrom))
-                    expected.SetPixel(pt.x, pt.y, PixelAt(pixels, ptFrom.x, ptFrom.y));
-            }
-        CSurface stretched = White(30, 30);
-        stretched.Stretch(pixels, from, to, rcClip);
-        ASSERT_EQ(stretched.Pixels(), expected.Pixels()) << nRound;
-        if (nSignX < 0 || nSignY < 0) continue;
-        const CRect rcFrom = CRect::FromPlace(static_cast<int>(from.x), static_cast<int>(from.y),
-                                              static_cast<int>(from.nWidth), static_cast<int>(from.nHeight));
-        const CPoint ptTo{static_cast<int>(to.x), static_cast<int>(to.y)};
-        CSurface enlarged = White(30, 30);
-        enlarged.DrawEnlarged(pixels, rcFrom, ptTo.x, ptTo.y, nFactor, rcClip);
-        ASSERT_EQ(enlarged.Pixels(), expected.Pixels()) << nRound;
-        if (nFactor > 1 || nRound % 2 == 0) continue;
-        CSurface part = White(30, 30);
-        part.DrawPart(pixels, rcFrom, ptTo.x, ptTo.y);
-        ASSERT_EQ(part.Pixels(), expected.Pixels()) << nRound;
-    }
-}
-
 TEST(FigureBounds, PenBrushAndPositionStayUntilOthersAreGiven) {
     CSurface surface = White(20, 20);
     EXPECT_EQ(surface.SelectPen(CPen::Solid(1, kInk)), CPen::Solid(1, {}));

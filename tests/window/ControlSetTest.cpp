@@ -26,37 +26,6 @@ using CChanges = std::vector<std::pair<int, EControlChange>>;
 
 }  // namespace
 
-TEST(ControlSet, TellsTheObserverOfRealChangesOnly) {
-    CControlSet controls(kTemplate);
-    CRecorder recorder;
-    controls.Attach(&recorder);
-    using enum EControlChange;
-
-    const auto expect = [&](const CChanges& changes) { EXPECT_EQ(recorder.Take(), changes); };
-    const auto setAll = [&] {
-        controls.Show(1, false);
-        controls.Enable(1, false);
-        controls.Check(1, true);
-        controls.SetText(3, "other");
-        controls.Move(2, {1, 1, 2, 2});
-        controls.SetPosition(2, 55);
-        controls.Select(4, 2);
-    };
-    setAll();
-    expect({{1, Shown}, {1, Enabled}, {1, Checked}, {3, Text}, {2, Place}, {2, Position}, {4, Selection}});
-    setAll();
-    expect({});
-    EXPECT_FALSE(controls.IsShown(1) || controls.IsEnabled(1));
-    EXPECT_TRUE(controls.IsChecked(1));
-    EXPECT_EQ(controls.Text(3), "other");
-    EXPECT_EQ(controls.Find(3)->strCaption, "words");
-    EXPECT_EQ(controls.Find(2)->rcPlace, (CRect{1, 1, 2, 2}));
-
-    controls.Attach(nullptr);
-    controls.Show(1, true);
-    expect({});
-}
-
 TEST(ControlSet, PassesOverIdsThatItDoesNotHave) {
     CControlSet controls(kTemplate);
     controls.Show(99, true);

@@ -87,6 +87,14 @@ double MeanLight(const QImage& image) {
     return fSum / image.width() / image.height();
 }
 
+// By how many grey levels two pictures differ, on average over their pixels.
+double MeanChange(const QImage& a, const QImage& b) {
+    double fSum = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) fSum += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y)));
+    return fSum / a.width() / a.height();
+}
+
 void CheckStates(const QString& strRoot, int nDensity) {
     SCOPED_TRACE(strRoot.toStdString());
     const QImage normal = Picture(strRoot + "U", nDensity);
@@ -134,7 +142,13 @@ const CKeyPlace kKeys[] = {{"OPEN", "522", {29, 16}},
                            {"SIZEOK", "497", {278, 69}},
                            {"SIZEOK", "498", {278, 69}},
                            {"SIZECANCEL", "497", {278, 110}},
-                           {"SIZECANCEL", "498", {278, 110}}};
+                           {"SIZECANCEL", "498", {278, 110}},
+                           {"SIZEOK", "544", {278, 69}},
+                           {"SIZECANCEL", "544", {278, 110}},
+                           {"PCLINKOK", "546", {100, 255}},
+                           {"PCLINKCANCEL", "546", {202, 255}},
+                           {"PORTSELOK", "565", {38, 102}},
+                           {"PORTSELCANCEL", "565", {140, 102}}};
 
 QByteArray Bytes(const QString& strPath) {
     QFile file(strPath);
@@ -144,7 +158,7 @@ QByteArray Bytes(const QString& strPath) {
 }  // namespace
 
 TEST(Skin, DenseSetIsDrawnAndNotEnlarged) {
-    for (const char* pName : {"522", "OPENU", "TOOL_11U", "274", "336", "497", "606"}) {
+    for (const char* pName : {"522", "OPENU", "TOOL_11U", "274", "336", "497", "606", "619", "638"}) {
         const QImage small = Picture(pName, 1);
         const QImage enlarged = small.scaled(small.size() * 2, Qt::IgnoreAspectRatio, Qt::FastTransformation);
         EXPECT_NE(Picture(pName, 2), enlarged) << pName;
@@ -205,6 +219,9 @@ TEST(Skin, GroundsHaveTheColoursOfTheControlsOnThem) {
                             {"296", QRect(57, 509 - kPanelTop, 209, 120), qRgb(109, 121, 126)},
                             {"343", QRect(168, 344 - kPanelTop, 75, 77), qRgb(144, 151, 151)},
                             {"343", QRect(210, 489 - kPanelTop, 46, 46), qRgb(210, 210, 210)},
+                            {"550", QRect(22, 206, 356, 20), qRgb(200, 200, 177)},
+                            {"546", QRect(7, 32, 386, 164), qRgb(109, 121, 126)},
+                            {"565", QRect(17, 14, 229, 80), qRgb(109, 121, 126)},
                             {"413", QRect(0, 0, 122, 8), qRgb(110, 121, 127)},
                             {"168", QRect(0, 0, 20, 21), qRgb(144, 151, 151)},
                             {"177", QRect(0, 0, 20, 21), qRgb(0, 0, 128)}};
@@ -240,6 +257,48 @@ TEST(Skin, KeysStandOnTheirGroundWithoutASeam) {
                     }
                 }
             }
+        }
+    }
+}
+
+TEST(Skin, KeyThatItsButtonCutsOffIsWholeOnItsGround) {
+    for (const int nDensity : {1, 2}) {
+        const QImage key = Picture("PHONEIMAGEU", nDensity);
+        EXPECT_EQ(Cut(Picture("544", nDensity), QRect(7, 20, 156, 25), nDensity), key);
+    }
+}
+
+TEST(Skin, RunningPicturesMoveInSmallStepsAndTheirLoopsClose) {
+    for (const auto& [nFirst, nFrames] : {std::pair(619, 17), std::pair(647, 8), std::pair(639, 8)}) {
+        for (const int nDensity : {1, 2}) {
+            for (int i = 0; i < nFrames; ++i) {
+                const QImage frame = Picture(QString::number(nFirst + i), nDensity);
+                const QImage next = Picture(QString::number(nFirst + (i + 1) % nFrames), nDensity);
+                ASSERT_EQ(frame.size(), QSize(386, 182) * nDensity) << nFirst + i;
+                ASSERT_EQ(next.size(), frame.size()) << nFirst + i;
+                const double fChange = MeanChange(frame, next);
+                EXPECT_GT(fChange, 0.2) << nFirst + i << " stands still, density " << nDensity;
+                EXPECT_LT(fChange, 6) << nFirst + i << " jumps, density " << nDensity;
+            }
+        }
+    }
+}
+
+TEST(Skin, StripsOfThePhoneAreLegibleAndWhole) {
+    for (const int nDensity : {1, 2}) {
+        for (const char* pName : {"638", "658", "602", "601", "603", "604"}) {
+            SCOPED_TRACE(pName);
+            const QImage strip = Picture(pName, nDensity);
+            ASSERT_EQ(strip.size(), QSize(369, 26) * nDensity);
+            // Ink stands only in the middle: nothing is cut off, and a strip hides the one below it.
+            const QRgb rgbGround = strip.pixel(0, 0);
+            for (const QRect rc :
+                 {QRect(0, 0, 369, 3), QRect(0, 23, 369, 3), QRect(0, 0, 5, 26), QRect(200, 0, 169, 26)})
+                EXPECT_TRUE(IsFlat(Cut(strip, rc, nDensity), rgbGround));
+            int nDark = 0;
+            EachPixel(Cut(strip, QRect(31, 3, 169, 20), nDensity),
+                      [&](QRgb rgb) { nDark += qGray(rgb) < qGray(rgbGround) - 120 ? 1 : 0; });
+            EXPECT_GT(nDark, 80 * nDensity * nDensity);
         }
     }
 }

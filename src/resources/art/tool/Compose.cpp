@@ -21,6 +21,27 @@ constexpr CMode kModes[] = {{"thum", "486", "", "effect", "THUM"},
                             {"stick", "489", "286", "stick", "STICK"},
                             {"draw", "490", "343", "draw", "DRAW"}};
 
+struct CDialogView {
+    const char* pName;
+    const char* pGround;
+    const char* pSource;  // the ground's name in the table
+    int nShift;           // which of its states every key shows
+    const char* pStrip;   // "" where no strip and no running picture stand
+    const char* pFrame;
+    bool bSizeKeys;  // the keys of the size dialog stand here too
+};
+
+constexpr CDialogView kDialogs[] = {{"size-own", "497", "size_own", 0, "", "", true},
+                                    {"size-phone", "498", "size_phone", 1, "", "", true},
+                                    {"size-send", "544", "send_size", 0, "", "", true},
+                                    {"connecting", "637", "link", 0, "638", "625", false},
+                                    {"restarting", "637", "link", 0, "658", "620", false},
+                                    {"taking", "550", "transfer", 0, "602", "650", false},
+                                    {"sending", "550", "transfer", 0, "603", "642", false},
+                                    {"sent", "550", "transfer", 0, "604", "645", false},
+                                    {"phone-files", "546", "phone_files", 0, "", "", false},
+                                    {"port", "565", "port", 0, "", "", false}};
+
 QColor Of(CColor color) {
     return {color.r, color.g, color.b};
 }
@@ -53,18 +74,21 @@ class CComposer {
         return image;
     }
 
-    QImage Dialog(const QString& strBack, const QString& strSource, int nShift) const {
-        QImage image = m_mapPictures.at(strBack).convertToFormat(QImage::Format_RGB32);
+    QImage Dialog(const CDialogView& view) const {
+        QImage image = m_mapPictures.at(view.pGround).convertToFormat(QImage::Format_RGB32);
         QPainter painter(&image);
         for (const CSkinLine& line : m_arrLines) {
-            if (line.strKind == "label" && line.arrRest[0] == strSource)
+            if (line.strKind == "label" && line.arrRest[0] == view.pSource)
                 Put(painter, line.strName, line.rcPlace.topLeft());
+            if (line.strKind == "strip" && line.strName == view.pStrip) {
+                Put(painter, line.strName, line.rcPlace.topLeft());
+                Put(painter, view.pFrame, {7, 7});
+            }
             if (line.strKind != "key") continue;
-            if (line.arrRest[0] != strSource && !line.strName.startsWith("SIZEO") &&
-                !line.strName.startsWith("SIZECANCEL"))
-                continue;
+            const bool bSizeKey = line.strName == "SIZEOK" || line.strName == "SIZECANCEL";
+            if (bSizeKey ? !view.bSizeKeys : line.arrRest[0] != view.pSource) continue;
             const QString& strStates = line.arrRest[1];
-            Put(painter, line.strName + strStates[nShift % strStates.size()], line.rcPlace.topLeft());
+            Put(painter, line.strName + strStates[view.nShift % strStates.size()], line.rcPlace.topLeft());
         }
         return image;
     }
@@ -165,7 +189,8 @@ bool WriteCompositions(const std::vector<CSkinLine>& arrLines, const std::map<QS
     for (const CMode& mode : kModes) {
         if (!Save(composer.Mode(mode), mode.pName)) return false;
     }
-    return Save(composer.Dialog("497", "size_own", 0), "size-own") &&
-           Save(composer.Dialog("498", "size_phone", 1), "size-phone") && Save(composer.Hints(), "hints") &&
-           Save(composer.Loose(), "loose");
+    for (const CDialogView& view : kDialogs) {
+        if (!Save(composer.Dialog(view), view.pName)) return false;
+    }
+    return Save(composer.Hints(), "hints") && Save(composer.Loose(), "loose");
 }

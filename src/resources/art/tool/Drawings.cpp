@@ -1,5 +1,9 @@
 #include "Drawings.h"
 
+#include <QFile>
+
+#include "Animation.h"
+
 void CDrawings::Draw(CSheet& sheet, const QString& strName, const QRectF& rcPlace) {
     std::unique_ptr<QSvgRenderer>& pDrawing = m_mapRead[strName];
     if (!pDrawing) {
@@ -8,4 +12,18 @@ void CDrawings::Draw(CSheet& sheet, const QString& strName, const QRectF& rcPlac
     }
     CSheetPainter painter(sheet);
     pDrawing->render(&painter, rcPlace);
+}
+
+void CDrawings::DrawStill(CSheet& sheet, const QString& strName, const QString& strAct, int nMilliseconds,
+                          const QRectF& rcPlace) {
+    QFile file(m_strFolder + '/' + strName + ".svg");
+    const QByteArray arrDrawing = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const std::optional<QByteArray> still = StillOf(arrDrawing, strAct, nMilliseconds);
+    QSvgRenderer drawing(still.value_or(QByteArray()));
+    if (!drawing.isValid()) {
+        m_arrMissing << strName + ' ' + strAct;
+        return;
+    }
+    CSheetPainter painter(sheet);
+    drawing.render(&painter, rcPlace);
 }

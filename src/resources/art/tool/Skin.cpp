@@ -2,6 +2,7 @@
 
 #include <QLinearGradient>
 #include <QPainterPath>
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <random>
@@ -13,8 +14,8 @@ namespace {
 
 constexpr QSize kWindowSize(1014, 710);
 constexpr QRect kPanelPlace(0, 111, 310, 563);
-constexpr QSize kDialogSize(400, 192);
 constexpr int kTextPixels = 12;
+constexpr int kStripPixels = 13;
 // The masked thumb's ground: a colour that no drawing of the skin has.
 constexpr QRgb kMaskGround = qRgb(255, 0, 255);
 
@@ -28,8 +29,9 @@ QColor ColorFrom(const QString& strTriple) {
     return {arrParts[0].toInt(), arrParts[1].toInt(), arrParts[2].toInt()};
 }
 
-bool IsDialog(const QString& strSource) {
-    return strSource.startsWith("size_");
+// What is drawn into a ground and has no picture of its own.
+bool IsPartOfGround(const QString& strKind) {
+    return strKind == "title" || strKind == "face" || strKind == "cap";
 }
 
 EKeyShape ShapeFrom(const QString& strShape) {
@@ -66,9 +68,13 @@ CSkin::CSkin(const std::vector<CSkinLine>& arrLines, const QString& strArtFolder
 std::map<QString, QImage> CSkin::Render() {
     std::map<QString, QImage> mapPictures;
     for (const CSkinLine& line : m_arrLines) {
-        if (line.strKind == "title" || line.strKind == "face") continue;
+        if (IsPartOfGround(line.strKind)) continue;
         if (line.strKind == "key") {
             RenderKey(line, mapPictures);
+            continue;
+        }
+        if (line.strKind == "frames") {
+            RenderFrames(line, mapPictures);
             continue;
         }
         const QString strName = line.strKind == "tab" ? line.strName + 'U' : line.strName;
@@ -80,6 +86,8 @@ std::map<QString, QImage> CSkin::Render() {
 
 QImage CSkin::RenderLine(const CSkinLine& line) {
     if (line.strKind == "sheet") return Ground(line.arrRest[0], line.arrRest[1]).Cut(line.rcPlace).Image();
+    if (line.strKind == "dialog") return Ground(line.arrRest[0], "-").Image();
+    if (line.strKind == "strip") return RenderStrip(line).Image();
     if (line.strKind == "tab") return RenderTab(line).Image();
     if (line.strKind == "label") return RenderLabel(line).Image();
     if (line.strKind == "hint") return RenderHint(line).Image();
@@ -92,7 +100,10 @@ const CSheet& CSkin::Ground(const QString& strSource, const QString& strTab) {
     const std::pair<QString, QString> key(strSource, strTab);
     const auto it = m_mapGrounds.find(key);
     if (it != m_mapGrounds.end()) return it->second;
-    CSheet sheet = IsDialog(strSource) ? MakeDialog(strSource) : MakeWindow(strSource, strTab);
+    const auto itDialog = std::find_if(m_arrLines.begin(), m_arrLines.end(), [&](const CSkinLine& line) {
+        return line.strKind == "dialog" && line.arrRest[0] == strSource;
+    });
+    CSheet sheet = itDialog != m_arrLines.end() ? MakeDialog(*itDialog) : MakeWindow(strSource, strTab);
     return m_mapGrounds.emplace(key, std::move(sheet)).first->second;
 }
 
@@ -108,11 +119,11 @@ CSheet CSkin::MakeWindow(const QString& strPanel, const QString& strTab) {
     return sheet;
 }
 
-CSheet CSkin::MakeDialog(const QString& strSource) {
-    CSheet sheet(kDialogSize, m_nDensity, QColor(180, 191, 182));
+CSheet CSkin::MakeDialog(const CSkinLine& line) {
+    CSheet sheet(line.rcPlace.size(), m_nDensity, QColor(180, 191, 182));
     BrushMetal(sheet);
-    m_drawings.Draw(sheet, "panels/" + strSource, QRectF(QPointF(0, 0), kDialogSize));
-    DrawTitles(sheet, strSource);
+    m_drawings.Draw(sheet, "panels/" + line.arrRest[1], QRectF(QPointF(0, 0), line.rcPlace.size()));
+    DrawTitles(sheet, line.arrRest[0]);
     return sheet;
 }
 
@@ -156,6 +167,11 @@ void CSkin::DrawTitles(CSheet& sheet, const QString& strGround) {
         if (line.strKind == "face" && line.arrRest[0] == strGround) {
             DrawTabFace(sheet, m_drawings, line.rcPlace, line.arrRest[1], line.arrRest[2], true);
         }
+        if (line.strKind == "cap" && line.arrRest[0] == strGround) {
+            CSheet cap = sheet.Cut(line.rcPlace);
+            DrawKey(cap, m_drawings, {EKeyShape::Side, line.arrRest[1], line.arrRest[2]}, EKeyState::Normal);
+            sheet.Lay(cap, line.rcPlace.topLeft());
+        }
         if (line.strKind != "title" || line.arrRest[0] != strGround) continue;
         Engrave(sheet, line.rcPlace, line.arrRest[1], line.rcPlace.height() - 4);
     }
@@ -193,6 +209,17 @@ CSheet CSkin::RenderLabel(const CSkinLine& line) {
     return sheet;
 }
 
+CSheet CSkin::RenderStrip(const CSkinLine& line) {
+    constexpr QPoint kGlyphAt(6, 4);
+    constexpr int kGlyph = 18;
+    constexpr int kTextAt = 31;
+    CSheet sheet = Ground(line.arrRest[0], "-").Cut(line.rcPlace);
+    m_drawings.Draw(sheet, "glyphs/" + line.arrRest[1], QRectF(kGlyphAt, QSizeF(kGlyph, kGlyph)));
+    const QRect rcText(kTextAt, 0, line.rcPlace.width() - kTextAt, line.rcPlace.height());
+    DrawText(sheet, rcText, line.arrRest[2], kLabelInk, kStripPixels, ETextAlign::Left);
+    return sheet;
+}
+
 CSheet CSkin::RenderHint(const CSkinLine& line) const {
     CSheet sheet(line.rcPlace.size(), m_nDensity, QColor(92, 72, 28));
     const QRect rcInner(1, 1, line.rcPlace.width() - 2, line.rcPlace.height() - 2);
@@ -205,6 +232,18 @@ CSheet CSkin::RenderHint(const CSkinLine& line) const {
     }
     DrawText(sheet, rcInner, line.arrRest[0], QColor(52, 38, 8), kTextPixels, ETextAlign::Centre);
     return sheet;
+}
+
+void CSkin::RenderFrames(const CSkinLine& line, std::map<QString, QImage>& mapPictures) {
+    const int nFrames = line.arrRest[2].toInt();
+    const int nFrameTime = line.arrRest[3].toInt();
+    for (int i = 0; i < nFrames; ++i) {
+        CSheet sheet(line.rcPlace.size(), m_nDensity, Qt::black);
+        m_drawings.DrawStill(sheet, "pictures/" + line.arrRest[0], line.arrRest[1], i * nFrameTime,
+                             QRectF(QPointF(0, 0), line.rcPlace.size()));
+        const QString strName = QString::number(line.strName.toInt() + i);
+        mapPictures[strName] = sheet.Image().convertToFormat(QImage::Format_RGB888);
+    }
 }
 
 CSheet CSkin::RenderPicture(const CSkinLine& line) {

@@ -22,7 +22,7 @@ class CSkin {
   private:
     const CSheet& Ground(const QString& strSource, const QString& strTab);
     CSheet MakeWindow(const QString& strPanel, const QString& strTab);
-    CSheet MakeDialog(const QString& strSource);
+    CSheet MakeDialog(const CSkinLine& line);
     void DrawTabPlates(CSheet& sheet, const QString& strSelected) const;
     void DrawTabFaces(CSheet& sheet, const QString& strSelected);
     void DrawTitles(CSheet& sheet, const QString& strGround);
@@ -30,7 +30,9 @@ class CSkin {
     QImage RenderLine(const CSkinLine& line);
     void RenderKey(const CSkinLine& line, std::map<QString, QImage>& mapPictures);
     CSheet RenderTab(const CSkinLine& line);
+    void RenderFrames(const CSkinLine& line, std::map<QString, QImage>& mapPictures);
     CSheet RenderLabel(const CSkinLine& line);
+    CSheet RenderStrip(const CSkinLine& line);
     CSheet RenderHint(const CSkinLine& line) const;
     CSheet RenderPicture(const CSkinLine& line);
     CSheet RenderMasked(const CSkinLine& line);

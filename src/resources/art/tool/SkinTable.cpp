@@ -12,7 +12,8 @@ constexpr int kPlaceFields = 6;
 const QMap<QString, int>& FieldsOfKinds() {
     static const QMap<QString, int> mapFields{{"sheet", 2},   {"key", 5},    {"tab", 2},  {"title", 2},
                                               {"face", 3},    {"label", 2},  {"hint", 1}, {"spray", 3},
-                                              {"picture", 2}, {"masked", 1}, {"icon", 1}};
+                                              {"picture", 2}, {"masked", 1}, {"icon", 1}, {"dialog", 2},
+                                              {"strip", 3},   {"frames", 4}, {"cap", 3}};
     return mapFields;
 }
 
@@ -33,6 +34,12 @@ std::optional<CSkinLine> ReadLine(const QString& strText) {
     return line;
 }
 
+// The pictures of a frames line are numbered, and each is a moment later than the one before.
+bool HasCounts(const CSkinLine& line) {
+    if (line.strKind != "frames") return true;
+    return line.strName.toInt() > 0 && line.arrRest[2].toInt() > 0 && line.arrRest[3].toInt() > 0;
+}
+
 }  // namespace
 
 std::optional<std::vector<CSkinLine>> ReadSkinTable(const QString& strPath, QString& strError) {
@@ -47,7 +54,7 @@ std::optional<std::vector<CSkinLine>> ReadSkinTable(const QString& strPath, QStr
         const QString strText = arrText[i].trimmed();
         if (strText.isEmpty() || strText.startsWith('#')) continue;
         const std::optional<CSkinLine> line = ReadLine(strText);
-        if (!line) {
+        if (!line || !HasCounts(*line)) {
             strError = QString("%1:%2: not a line of the skin: %3").arg(strPath).arg(i + 1).arg(strText);
             return std::nullopt;
         }

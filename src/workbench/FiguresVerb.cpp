@@ -1,9 +1,8 @@
 #include <fstream>
 #include <sstream>
-#include <vector>
 
-#include "image/AtomicFile.h"
 #include "surface/figures/Figures.h"
+#include "workbench/OutFile.h"
 #include "workbench/Verbs.h"
 
 CWorkResult RunFiguresVerb(std::span<const std::string> words) {
@@ -13,10 +12,6 @@ CWorkResult RunFiguresVerb(std::span<const std::string> words) {
     std::ostringstream text;
     std::string strError;
     if (!DrawFigures(in, text, strError)) return {kCannotBeDone, words[0] + " " + strError};
-    const std::string strText = text.str();
-    const std::vector<std::uint8_t> arrText(strText.begin(), strText.end());
-    CAtomicFile out;
-    if (!out.Open(words[1]) || !out.Write(arrText) || !out.Commit())
-        return {kCannotBeDone, words[1] + " cannot be written"};
+    if (!WriteText(words[1], text.str())) return {kCannotBeDone, words[1] + " cannot be written"};
     return {};
 }

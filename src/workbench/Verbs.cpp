@@ -26,6 +26,52 @@ constexpr CWorkVerb kVerbs[] = {
      "      STRETCH sw sh ROWS dx dy dw dh sx sy sW sH   a picture of sw by sh, rows parted by /, of which\n"
      "                                 the block sx sy sW sH is stretched onto the block dx dy dw dh\n",
      RunFiguresVerb},
+    {"pack", "PICTURE.jpg THUMB.jpg OUT.jpg",
+     "    Packs a picture and its thumbnail into one JPEG as the phone wants it. Both files begin with a "
+     "start\n"
+     "    mark and sixteen bytes of JFIF, 20 bytes that are cut; a thumbnail has at most 65119 bytes.\n",
+     RunPackVerb},
+    {"ports", "CASES OUT",
+     "    Searches serial ports as a text file tells them. Its lines are carried out from the first to the\n"
+     "    last; what asks for something is written to OUT, with its answers behind it, indented. Words are\n"
+     "    parted by spaces; a word with spaces or none at all stands in \"quotes\", a quote inside is "
+     "doubled, a\n"
+     "    backslash is itself. A line that begins with # is a comment. A - without quotes is a text that\n"
+     "    cannot be read.\n"
+     "    What there is:\n"
+     "      case NAME                  a new machine, without ports, records and probes\n"
+     "      system MAJOR PLATFORM      the system's version and platform id; 5 2 if not told. From 5 on it "
+     "is\n"
+     "                                 new, below 5 with platform 2 it has fixed names, else it is oldest\n"
+     "      fails CALL ERROR           version, classdevs, interfaces or detail fails with that error "
+     "number\n"
+     "      interface FRIENDLY DESC    a device of the class of serial ports on a new system; either may be "
+     "-\n"
+     "      key PATH [closed]          a registry key below HKEY_LOCAL_MACHINE, with those above it; closed\n"
+     "                                 cannot be opened. Asked for by name, keys and values have no case\n"
+     "      value PATH NAME DATA       a value of the key at PATH, which comes with it; DATA may be -\n"
+     "      portname NAME              the value portname of one more device of class Ports\n"
+     "      record PORTNAME FRIENDLY   one more record, as a step of the enumeration leaves it\n"
+     "      probe NAME free|busy|absent   what comes of opening exactly NAME; absent if not told\n"
+     "      choose TEXT                what the user takes in the port dialog; cancelled if - or not told\n"
+     "    What is asked for:\n"
+     "      step1       lists the machine's ports: error TEXT, and record PORTNAME FRIENDLY for each. These\n"
+     "                  records stand from now on\n"
+     "      step2       takes modems out of the records and names those without a friendly name; record for\n"
+     "                  each that is left\n"
+     "      realnames   name TEXT for each real port of class Ports on the oldest systems\n"
+     "      search      looks for the phone among the records, on the oldest systems with the real names:\n"
+     "                  probe NAME RESULT as they are made, line I TEXT for each record that has a line, "
+     "usb\n"
+     "                  TEXT if the search ended there, and askmodem 1 if the modem's port is asked for "
+     "then\n"
+     "      find        all in one, step1 first: record, probe, line and usb, then port N (-1 none, -2\n"
+     "                  cancelled), usbport 0, 1 or - (not changed), modemport N or - (not asked for)\n"
+     "      parse TEXT  number N in a line or in a name, 0 for none\n"
+     "      modem new|old   number N of the modem's port from the registry, -1 for none\n"
+     "      device N|NAME   device PATH of the port N on this machine, empty for none; number N of a device\n"
+     "                  such as ttyUSB0, 0 for none\n",
+     RunPortsVerb},
     {"warp", "PARAMS BASE.ppm MASK.pgm OUT.ppm",
      "    Warps a text over a picture. The mask is a binary PGM, 0 full ink and 255 none. PARAMS is a text\n"
      "    file with one setting a line; # begins a comment. What is not set: kind 0, effect 0, colour\n"

@@ -26,6 +26,8 @@ std::optional<long long> ParseNumber(const std::string& strWord, long long nMin,
 
 CWorkResult RunEffectVerb(std::span<const std::string> words);
 CWorkResult RunFiguresVerb(std::span<const std::string> words);
+CWorkResult RunPackVerb(std::span<const std::string> words);
+CWorkResult RunPortsVerb(std::span<const std::string> words);
 CWorkResult RunWarpVerb(std::span<const std::string> words);
 // Lines that name the effects with their numbers and levels.
 std::string EffectList();

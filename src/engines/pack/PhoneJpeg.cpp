@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
+#include <new>
 #include <stdexcept>
 #include <string_view>
 
@@ -159,6 +161,9 @@ constexpr CHead MakeHead() {
     return head.Head();
 }
 
+// A file's length is an int.
+constexpr std::size_t kMostPictureBytes = std::numeric_limits<int>::max();
+
 constexpr CHead kHead = MakeHead();
 constexpr std::size_t kSegmentLengthAt = 4;
 // The value of the last entry before the two resolutions.
@@ -187,14 +192,21 @@ void PackPhoneJpeg(const std::uint8_t* pPicture, const std::uint8_t* pThumb, std
     *pOutLength = static_cast<std::uint32_t>(nPicture) + static_cast<std::uint32_t>(nThumb) + kPackedMore;
 }
 
-CSharedBytes PackPhoneJpeg(std::span<const std::uint8_t> picture, std::span<const std::uint8_t> thumb) {
-    CSharedBytes packed;
-    if (picture.size() < kPlainJpegHead || thumb.size() < kPlainJpegHead || thumb.size() > kMostThumbBytes)
-        return {};
-    // A block has at most 2 GiB, so that the lengths fit their numbers when there is one.
-    if (!packed.Allocate(picture.size() + thumb.size() + kPackedMore)) return {};
+bool PackPhoneJpeg(std::span<const std::uint8_t> picture, std::span<const std::uint8_t> thumb,
+                   std::vector<std::uint8_t>& packed) {
+    const std::size_t nPacked = picture.size() + thumb.size() + kPackedMore;
+    const bool bFits = picture.size() >= kPlainJpegHead && picture.size() <= kMostPictureBytes &&
+                       thumb.size() >= kPlainJpegHead && thumb.size() <= kMostThumbBytes;
+    // Old bytes need not move into a larger block; where they stay, they are written over.
+    if (!bFits || packed.capacity() < nPacked) packed.clear();
+    if (!bFits) return false;
+    try {
+        packed.resize(nPacked);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
     std::uint32_t nLength = 0;
-    PackPhoneJpeg(picture.data(), thumb.data(), packed.MutableData(), static_cast<int>(picture.size()),
+    PackPhoneJpeg(picture.data(), thumb.data(), packed.data(), static_cast<int>(picture.size()),
                   static_cast<int>(thumb.size()), &nLength);
-    return packed;
+    return true;
 }

@@ -75,10 +75,10 @@ std::optional<CPortCaseWords> Split(const std::string& strLine) {
 }  // namespace
 
 struct CPortCases::CCommand {
-    const char* szName;
-    std::size_t nFewest;  // words behind the name
-    std::size_t nMost;
-    bool (CPortCases::*run)(const CPortCaseWords& words);
+    const char* szName = "";
+    std::size_t nFewest = 0;  // words behind the name
+    std::size_t nMost = 0;
+    bool (CPortCases::*run)(const CPortCaseWords& words) = nullptr;
     bool bAsks = false;  // it is written to the answers, with what comes of it behind
 };
 
@@ -202,7 +202,8 @@ bool CPortCases::RunRealNames(const CPortCaseWords& /*words*/) {
 }
 
 bool CPortCases::RunSearch(const CPortCaseWords& /*words*/) {
-    m_out << "  askmodem " << SearchRecords().bUsbLast << '\n';
+    const CPortSearch search = SearchRecords();
+    m_out << "  askmodem " << search.bUsbLast << '\n';
     return true;
 }
 

@@ -124,6 +124,8 @@ TEST_F(Workbench, HelpNamesEveryVerbAndEffect) {
     for (const CEffectRow& row : kEffects) EXPECT_NE(m_strOut.find(row.szLabel), std::string::npos);
     EXPECT_NE(m_strOut.find("effect ID LEVEL IN.ppm OUT.ppm [--full-width N] [--seed N]"), std::string::npos);
     EXPECT_NE(m_strOut.find("figures CASES OUT"), std::string::npos);
+    EXPECT_NE(m_strOut.find("pack PICTURE.jpg THUMB.jpg OUT.jpg"), std::string::npos);
+    EXPECT_NE(m_strOut.find("ports CASES OUT"), std::string::npos);
     EXPECT_NE(m_strOut.find("warp PARAMS BASE.ppm MASK.pgm OUT.ppm"), std::string::npos);
 }
 

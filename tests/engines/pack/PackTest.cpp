@@ -48,15 +48,14 @@ constexpr char kHeadInHex[] =
 
 CBytes FromHex(const std::string& strHex) {
     CBytes bytes;
-    for (std::size_t i = 0; i < strHex.size();) {
+    bool bText = false;
+    for (std::size_t i = 0; i < strHex.size(); ++i) {
         if (strHex[i] == '\'') {
-            for (++i; strHex[i] != '\''; ++i) bytes.push_back(static_cast<std::uint8_t>(strHex[i]));
-            ++i;
-        } else if (strHex[i] == ' ') {
-            ++i;
-        } else {
-            bytes.push_back(static_cast<std::uint8_t>(std::stoi(strHex.substr(i, 2), nullptr, 16)));
-            i += 2;
+            bText = !bText;
+        } else if (bText) {
+            bytes.push_back(static_cast<std::uint8_t>(strHex[i]));
+        } else if (strHex[i] != ' ') {
+            bytes.push_back(static_cast<std::uint8_t>(std::stoi(strHex.substr(i++, 2), nullptr, 16)));
         }
     }
     return bytes;
@@ -68,7 +67,6 @@ TEST(PhoneJpeg, PutsBothFilesBehindTheHead) {
     ASSERT_EQ(expected.size(), 440U);
     expected.insert(expected.end(), thumb.begin() + 20, thumb.end());
     expected.insert(expected.end(), picture.begin() + 20, picture.end());
-    EXPECT_EQ(expected.size(), 25400U);
     EXPECT_EQ(Packed(picture, thumb), expected);
 
     // Nothing in the head but the two lengths depends on the files.
@@ -82,38 +80,24 @@ TEST(PhoneJpeg, PutsBothFilesBehindTheHead) {
         EXPECT_EQ(packed[4] * 256U + packed[5], nThumb + 416);
         EXPECT_EQ(packed[418] + packed[419] * 256U, nThumb - 18);
     }
+    for (const std::size_t nThumb : {0U, 19U, 65120U})
+        EXPECT_TRUE(Packed(picture, Numbered(nThumb, 5)).empty());
+    EXPECT_TRUE(Packed(Numbered(19, 1), thumb).empty());
 }
 
-TEST(PhoneJpeg, RefusesWhatCannotBePacked) {
-    const CBytes whole = Numbered(20, 1);
-    EXPECT_EQ(Packed(whole, whole).size(), 440U);
-    EXPECT_TRUE(Packed(Numbered(19, 1), whole).empty());
-    EXPECT_TRUE(Packed(whole, Numbered(19, 1)).empty());
-    EXPECT_TRUE(Packed(whole, {}).empty());
-    EXPECT_TRUE(Packed(whole, Numbered(65120, 1)).empty());
-}
-
-// Packed, the picture is what it was, and the thumbnail stands where the head says.
-TEST(PhoneJpeg, IsAPictureWithAThumbnail) {
+// Of files as the program writes them, no more is cut than the phone has in the head already.
+TEST(PhoneJpeg, IsThePictureThatWasPacked) {
     const CTempFolder folder;
-    const auto Encode = [&](int nWidth, int nHeight, int nBlue) {
-        CAtomicFile file;
-        const std::string strPath = folder.Path("plain.jpg");
-        EXPECT_TRUE(file.Open(strPath) && EncodeJpeg(NumberedPixels(nWidth, nHeight, nBlue), {}, file) &&
-                    file.Commit());
-        const CSharedBytes bytes = ReadFileBytes(strPath);
-        return CBytes{bytes.Data(), bytes.Data() + bytes.Size()};
-    };
-    const CBytes picture = Encode(200, 150, 40), thumb = Encode(80, 60, 200);
-    const CBytes packed = Packed(picture, thumb);
-    const std::optional<CJpegPicture> whole = DecodeJpeg(packed);
-    ASSERT_TRUE(whole);
-    EXPECT_EQ(whole->pixels, DecodeJpeg(picture)->pixels);
-    const std::optional<CJpegPicture> inside =
-        DecodeJpeg(std::span(packed).subspan(0x1AA + 12, packed[418] + packed[419] * 256U));
-    ASSERT_TRUE(inside);
-    EXPECT_EQ(inside->pixels, DecodeJpeg(thumb)->pixels);
-    EXPECT_EQ(packed[420 + thumb.size()], 0xFF);  // the mark of the picture's first table
+    CAtomicFile file;
+    ASSERT_TRUE(file.Open(folder.Path("plain.jpg")));
+    ASSERT_TRUE(EncodeJpeg(NumberedPixels(200, 150), {}, file) && file.Commit());
+    const CSharedBytes bytes = ReadFileBytes(folder.Path("plain.jpg"));
+    const CBytes plain(bytes.Data(), bytes.Data() + bytes.Size()), packed = Packed(plain, plain);
+    const std::span<const std::uint8_t> thumb(packed.data() + 438, plain.size() - 18);
+    for (const std::optional<CJpegPicture>& picture : {DecodeJpeg(packed), DecodeJpeg(thumb)}) {
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(picture->pixels, DecodeJpeg(plain)->pixels);
+    }
 }
 
 TEST(PhoneSizes, OnlyTheFirstSizeDecides) {
@@ -127,9 +111,8 @@ TEST(PhoneSizes, OnlyTheFirstSizeDecides) {
     EXPECT_EQ(LargestPhoneSize({}), CSize());
     EXPECT_TRUE(IsPhoneSize({176, 144}, falling));
     EXPECT_FALSE(IsPhoneSize({144, 176}, falling) || IsPhoneSize({0, 0}, {}));
-    EXPECT_TRUE(IsAboveFileLimit(99, 2, 100) && IsAboveFileLimit(0, 1, 0));
+    EXPECT_TRUE(IsAboveFileLimit(99, 2, 100) && IsAboveFileLimit(INT32_MAX, INT32_MAX, INT32_MAX));
     EXPECT_FALSE(IsAboveFileLimit(99, 1, 100) || IsAboveFileLimit(5000, 9000, -1));
-    EXPECT_TRUE(IsAboveFileLimit(INT32_MAX, INT32_MAX, INT32_MAX));
     EXPECT_EQ(ThumbBox({400, 300}), (CSize{320, 240}));
     for (const CSize size : {CSize{400, 200}, CSize{400, 240}, CSize{320, 300}, CSize{176, 144}, CSize{0, 0}})
         EXPECT_EQ(ThumbBox(size), size);
@@ -142,21 +125,15 @@ TEST(PhoneSizes, ThumbnailsByHand) {
         CThumbPlan plan;
     } arrCases[] = {
         {{640, 480}, {176, 144}, {{176, 144}, true}},
-        {{352, 288}, {176, 144}, {{176, 144}, false}},
         {{900, 400}, {176, 144}, {{176, 144}, false}},
         {{640, 480}, {176, 145}, {{176, 132}, false}},
-        {{800, 600}, {176, 144}, {{176, 132}, false}},
         {{300, 200}, {320, 240}, {{300, 200}, false}},
         {{200, 190}, {176, 144}, {{176, 167}, false}},
-        {{190, 200}, {176, 144}, {{136, 144}, false}},
-        {{500, 500}, {176, 144}, {{144, 144}, false}},
-        {{180, 100}, {176, 144}, {{176, 97}, false}},
         {{150, 148}, {176, 144}, {{176, 173}, false}},
         {{60000, 20}, {176, 144}, {{176, 1}, false}},
         // What no phone tells, or one that is broken.
         {{640, 480}, {0, 0}, {{1, 1}, false}},
         {{640, 480}, {-5, INT32_MIN}, {{1, 1}, false}},
-        {{2, 60000}, {1, INT32_MAX}, {{1, 30000}, false}},
         {{60000, 50000}, {INT32_MAX, 100}, {{INT32_MAX, 1789569705}, false}},
     };
     for (const auto& one : arrCases)

@@ -73,24 +73,20 @@ TEST(PortSearch, WhatARecordIsAndWhatIsOpened) {
     } arrCases[] = {
         {{"", "Port (COM9)"}, "COM9", false},
         {{"", "Port (COM12)"}, "\\\\.\\COM12", false},
-        {{"", "Port (COM0)"}, "\\\\.\\COM0", false},
         {{"", "VCOM (x) USB (COM3)"}, "\\\\.\\COM (x) USB (COM3", true},
         {{"COM5", "COM5"}, "", false},
         {{"COM5", "USB (COM)"}, "COM5", true},
-        {{"com5", "Port (COM)"}, "\\\\.\\com5", false},
         {{"", ") COM"}, "", false},
-        {{"", "usb Port (COM3)"}, "COM3", false},
-        {{"", "Orvo CDMA USB Modem (VCOMM)"}, "", true},
         {{"", "My Orvo CDMA USB Modem (COM3)"}, "", true},
         {{"", "Orvo CDMA USB Modem Diagnostic (COM3)"}, "COM3", true},
         {{"", "USB High Speed Serial (COM3)"}, "COM3", false},
         {{"", "OrvoE CDMA USB High Speed Serial (COM3)"}, "COM3", true},
         {{"USB_SERIAL", "OrvoE CDMA USB (COM)"}, "\\\\.\\USB_SERIAL", false},
     };
-    for (const auto& one : arrCases) {
+    for (const auto& [port, strOpened, bUsb] : arrCases) {
         CBench bench;
-        EXPECT_EQ(bench.Search({one.port}).bUsbLast, one.bUsb) << one.port.m_strFriendlyName;
-        EXPECT_EQ(bench.arrOpened, one.strOpened.empty() ? CNames{} : CNames{one.strOpened});
+        EXPECT_EQ(bench.Search({port}).bUsbLast, bUsb) << port.m_strFriendlyName;
+        EXPECT_EQ(bench.arrOpened, strOpened.empty() ? CNames{} : CNames{strOpened});
     }
 }
 
@@ -98,12 +94,11 @@ TEST(PortSearch, OldestSystemsNameTheAdapter) {
     const CPortInfoArray arrPorts = {
         {"COM1", "Port (COM1)"}, {"", "Cable (COM2)"}, {"USB_SERIAL", "USB cable(COM)"}};
     CBench bench{{{"\\\\.\\COM11", EPortProbe::Free}}, {}};
-    CPortSearch search = bench.Search(arrPorts, CNames{"COM4", "COM1", "COM11", "COM2"});
+    const CPortSearch search = bench.Search(arrPorts, CNames{"COM4", "COM1", "COM11", "COM2"});
     EXPECT_EQ(bench.arrOpened, (CNames{"COM1", "COM2", "\\\\.\\COM11"}));
     EXPECT_EQ(search.arrLines[2], "COM11 : free");
     EXPECT_FALSE(search.bUsbLast);
-    bench.arrOpened.clear();
-    search = bench.Search(arrPorts, CNames{"COM1", "COM2"});
+    bench.Search(arrPorts, CNames{"COM1", "COM2"});
     EXPECT_EQ(bench.arrOpened.back(), "\\\\.\\USB_SERIAL");
 
     EXPECT_EQ(RealPortNames(CNames{"LPT1", "cOm3", "COM12345", "COM1234", "COM0", "COM5"}),
@@ -111,44 +106,31 @@ TEST(PortSearch, OldestSystemsNameTheAdapter) {
 }
 
 TEST(PortSearch, Numbers) {
-    const std::pair<const char*, int> arrTexts[] = {{"USB[COM12] : 使用可能", 12},
-                                                    {"COM3", 3},
-                                                    {"COM3 : 使用可能", 3},
-                                                    {"", 0},
-                                                    {"COM", 0},
-                                                    {"LPT1", 0},
-                                                    {"USB COM3", 0},
-                                                    {"] USB COM3", 0},
-                                                    {": COM3", 0},
-                                                    {"COM 7x", 7},
-                                                    {"COM3:4 : x", 3},
-                                                    {"com3", 0},
-                                                    {"COM99999999999999999999", INT32_MAX},
-                                                    {"COM-99999999999999999999", INT32_MIN}};
-    for (const auto& [szText, nNumber] : arrTexts) EXPECT_EQ(ParsePortNumber(szText), nNumber) << szText;
-
-    EXPECT_EQ(ModemPortOf("COM5"), 5);
+    const std::map<int, CNames> mapTexts = {
+        {12, {"USB[COM12] : 使用可能"}},
+        {3, {"COM3", "COM3 : 使用可能", "COM3:4 : x", "COM 3x"}},
+        {0, {"", "COM", "LPT1", "com3", "USB COM3", "] USB COM3", ": COM3"}},
+        {INT32_MAX, {"COM99999999999999999999"}},
+        {INT32_MIN, {"COM-99999999999999999999"}}};
+    for (const auto& [nNumber, texts] : mapTexts)
+        for (const std::string& strText : texts) EXPECT_EQ(ParsePortNumber(strText), nNumber) << strText;
     EXPECT_EQ(ModemPortOf("COM"), 0);
     EXPECT_EQ(ModemPortOf("COM5" + std::string(251, ' ')), 5);
-    for (const auto& strEntry :
-         {std::optional<std::string>(), {"com5"}, {""}, {"COM5" + std::string(252, ' ')}})
-        EXPECT_EQ(ModemPortOf(strEntry), -1);
+    EXPECT_EQ(ModemPortOf("COM5" + std::string(252, ' ')), -1);
+    EXPECT_EQ(ModemPortOf("com5"), -1);
 }
 
 TEST(PortListing, RegistryOfTheModem) {
     CRegistryKey machine;
-    EXPECT_EQ(FindModemPort(machine, false), -1);
     machine.Make("HARDWARE\\DEVICEMAP\\SERIALCOMM").arrValues = {
         {"\\Device\\Serial0", "COM1"}, {"\\Device\\ORVOSIMDM0", "COM6"}, {"\\Device\\ORVOSIMDM1", "COM8"}};
-    EXPECT_EQ(FindModemPort(machine, false), 6);
-    EXPECT_EQ(FindModemPort(machine, true), -1);
+    EXPECT_TRUE(FindModemPort(machine, false) == 6 && FindModemPort(machine, true) == -1);
     machine.Make("Enum\\USB\\ORVOMODEM\\WDMMDM0").arrValues = {{"AttachedTo", "COM9"}};
     EXPECT_EQ(FindModemPort(machine, true), 9);
     machine.Make("Enum\\USB").bReadable = false;
-    EXPECT_EQ(FindModemPort(machine, true), -1);
     // The first one counts, even if it cannot be read.
     machine.Make("Hardware\\Devicemap\\serialcomm").arrValues[1].strData.reset();
-    EXPECT_EQ(FindModemPort(machine, false), -1);
+    EXPECT_TRUE(FindModemPort(machine, false) == -1 && FindModemPort(machine, true) == -1);
 }
 
 TEST(PortListing, BySystem) {
@@ -158,14 +140,10 @@ TEST(PortListing, BySystem) {
     machine.failure = {EListingCall::Interfaces, 0x1F};
     EXPECT_EQ(ListPorts(machine).strError, "SetupDiEnumDeviceInterfaces failed. (err=1f)");
     machine.version = {4, 2};
-    CPortListing listing = EnumSerialPorts(machine);
-    ASSERT_EQ(listing.arrPorts.size(), 16U);
-    EXPECT_EQ(listing.arrPorts[15], (CPortInfo{"COM16", "COM16"}));
+    ASSERT_EQ(ListPorts(machine).arrPorts.size(), 16U);
+    EXPECT_EQ(EnumSerialPorts(machine).arrPorts[15], (CPortInfo{"COM16", "COM16"}));
     machine.failure = {EListingCall::Version, 5};
     EXPECT_EQ(ListPorts(machine).strError, "Could not get OS version. (err=5)");
-    machine.failure.reset();
-    machine.version = {4, 1};
-    EXPECT_EQ(ListPorts(machine).strError, "Could not read from HKLM\\Enum");
 }
 
 TEST(PortListing, WalkOfTheOldestSystems) {
@@ -182,7 +160,6 @@ TEST(PortListing, WalkOfTheOldestSystems) {
     Add("USB\\OTHER\\0", {{"PORTNAME", "COM5"}});
     Add("USB\\VID_0403&PID_6001\\0", {{"DeviceDesc", "USB cable"}});
     Add("USB\\VID_0403&PID_6001\\1", {{"DeviceDesc", "USB cord"}});
-    Add("USB\\VID_0403&PID_6001\\2", {{"PORTNAME", "COM6"}});
     Add("USBPORTS\\VID_0403&PID_6001\\0", {{"PORTNAME", "COM1"}, {"DeviceDesc", "Again (COM1)"}});
     const CPortInfoArray expected = {{"COM1", "Again (COM1)"},
                                      {"COM3", "Phone (COM3)"},
@@ -193,33 +170,25 @@ TEST(PortListing, WalkOfTheOldestSystems) {
     EXPECT_EQ(EnumSerialPorts(machine).arrPorts[2], (CPortInfo{"COM4", "COM4"}));
 
     // A device that nobody asks may be closed.
-    const std::pair<const char*, const char*> arrClosed[] = {
-        {"USB\\OTHER", ""}, {"USB\\ORVODIAG", "...\\ORVODIAG"}, {"ORVOATCR", "ORVOATCR"}, {"", ""}};
-    for (const auto& [szKey, szTold] : arrClosed) {
-        machine.machine.Make(*szKey ? "Enum\\" + std::string(szKey) : "Enum").bReadable = false;
-        const CPortListing listing = ListPorts(machine);
-        if (listing.strError.empty()) {
-            EXPECT_EQ(listing.arrPorts, expected);
-            EXPECT_STREQ(szKey, "USB\\OTHER");
-        } else {
-            EXPECT_EQ(listing.strError,
-                      std::string("Could not read from HKLM\\Enum") + (*szTold ? "\\" : "") + szTold);
-            EXPECT_TRUE(listing.arrPorts.empty());
-        }
+    const std::pair<const char*, std::string> arrClosed[] = {
+        {"Enum\\USB\\OTHER", ""},
+        {"Enum\\USB\\ORVODIAG", "Could not read from HKLM\\Enum\\...\\ORVODIAG"},
+        {"Enum\\ORVOATCR", "Could not read from HKLM\\Enum\\ORVOATCR"},
+        {"Enum", "Could not read from HKLM\\Enum"}};
+    for (const auto& [szKey, strError] : arrClosed) {
+        machine.machine.Make(szKey).bReadable = false;
+        EXPECT_EQ(ListPorts(machine).strError, strError);
+        EXPECT_EQ(ListPorts(machine).arrPorts, strError.empty() ? expected : CPortInfoArray{});
     }
 }
 
 TEST(PortListing, TheRecordBehindAModemIsNotCompared) {
     const std::string strModem = "Orvo CDMA USB Modem";
     CPortInfoArray arrPorts = Friendly({strModem, strModem + " Diagnostic (COM5)", strModem, "Last (COM1)"});
-    arrPorts.push_back({"COM8", ""});
-    arrPorts.push_back({"COM9", strModem + " (VCOMM)"});
+    arrPorts.insert(arrPorts.end(), {{"COM8", ""}, {"COM9", strModem + " (VCOMM)"}});
     DropModems(arrPorts);
     EXPECT_EQ(arrPorts,
               (CPortInfoArray{{"", strModem + " Diagnostic (COM5)"}, {"", "Last (COM1)"}, {"COM8", "COM8"}}));
-    arrPorts = {{"COM1", strModem}, {"COM2", ""}};
-    DropModems(arrPorts);
-    EXPECT_EQ(arrPorts, (CPortInfoArray{{"COM2", "COM2"}}));
 }
 
 TEST(DeviceNumbers, EveryDeviceHasOneOfItsOwn) {
@@ -229,17 +198,14 @@ TEST(DeviceNumbers, EveryDeviceHasOneOfItsOwn) {
         if (strPath.empty()) continue;
         ++nDevices;
         EXPECT_TRUE(n >= 1 && n <= 256 && n != kFolderPhonePort) << n;
-        ASSERT_TRUE(strPath.starts_with("/dev/"));
         EXPECT_EQ(PortNumberOf(strPath.substr(5)), n) << strPath;
     }
     EXPECT_GT(nDevices, 200);
     // Numbers that people have written down.
     EXPECT_EQ(PortNumberOf("ttyS0"), 1);
     EXPECT_EQ(PortNumberOf("ttyUSB0"), 33);
-    EXPECT_EQ(PortNumberOf("ttyACM1"), 98);
-    EXPECT_EQ(PortNumberOf("rfcomm0"), 161);
     for (const char* szName :
-         {"ttyS", "ttyS07", "ttyS32", "ttyS-1", "ttyS1x", "ttyS99999999999", "/dev/ttyS0", "tty1", ""})
+         {"ttyS", "ttyS07", "ttyS32", "ttyS-1", "ttyS1x", "ttyS99999999999", "/dev/ttyS0"})
         EXPECT_FALSE(PortNumberOf(szName)) << szName;
 }
 

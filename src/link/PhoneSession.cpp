@@ -1,6 +1,7 @@
 #include "link/PhoneSession.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include "engines/linkset/UserSet.h"
 #include "engines/ports/PortSearch.h"
@@ -9,7 +10,11 @@
 #include "resources/Texts.h"
 
 CPhoneSession::CPhoneSession(const CEnvironment& env)
-    : m_env(env), m_strInstallFolder(env.folders.InstallFolder()) {}
+    : m_env(env), m_strInstallFolder(env.folders.InstallFolder()) {
+    // Without a folder of its own the program remembers a phone for as long as the system keeps such files.
+    std::error_code error;
+    if (m_strInstallFolder.empty()) m_strInstallFolder = std::filesystem::temp_directory_path(error).string();
+}
 
 std::string CPhoneSession::DataFile(std::string_view strName) const {
     return m_strInstallFolder + m_env.folders.Separator() + std::string(strName);

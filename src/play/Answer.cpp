@@ -18,6 +18,12 @@ const char* NameOf(EQuestion question) {
             return "size";
         case EQuestion::Delete:
             return "delete";
+        case EQuestion::Port:
+            return "port";
+        case EQuestion::PhoneFiles:
+            return "phonefiles";
+        case EQuestion::PhoneSize:
+            return "phonesize";
         case EQuestion::Modal:
             break;
     }

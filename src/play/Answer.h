@@ -12,7 +12,20 @@
 
 // What can be asked of the user. Delete: the system's own question before it deletes files. Modal: a dialog
 // of the program's own that no other kind stands for.
-enum class EQuestion { Box, Open, Save, Color, Font, Menu, Size, Delete, Modal };
+enum class EQuestion {
+    Box,
+    Open,
+    Save,
+    Color,
+    Font,
+    Menu,
+    Size,
+    Delete,
+    Port,        // which port the phone is on
+    PhoneFiles,  // which of its files
+    PhoneSize,   // which of its sizes
+    Modal
+};
 
 // The name of a kind of question in scripts and messages.
 const char* NameOf(EQuestion question);
@@ -32,6 +45,11 @@ struct CAnswer {
     bool bKeepRatio = false;
     bool bDelete = false;
     int nMenuId = 0;
+    int nPort = 0;  // of COM1 and so on
+    int nRow = 0;   // of the phone's sizes
+    // What the hand does in the list of the phone's files, one step a piece: a step that takes a number has it
+    // behind its name, and a number alone ticks that row.
+    std::vector<std::string> arrSteps;
     int nLine = 0;  // of the script that gave it, 0 for none
 };
 

@@ -1,5 +1,6 @@
 // What the user says to boxes and dialogs.
 
+#include <algorithm>
 #include <array>
 
 #include "play/Verbs.h"
@@ -68,6 +69,37 @@ bool TakeMenu(const CWords& arrWords, CAnswer& answer) {
     return true;
 }
 
+bool TakeNumber(const CWords& arrWords, EQuestion question, int CAnswer::*pNumber, int nLeast,
+                CAnswer& answer) {
+    const std::optional<int> n = arrWords.size() == 2 ? ParseNumber(arrWords[1]) : std::nullopt;
+    answer.question = question;
+    answer.*pNumber = n.value_or(0);
+    return n && *n >= nLeast;
+}
+
+// Rows alone are ticked and taken; anything else is done word by word.
+bool TakePhoneFiles(const CWords& arrWords, CAnswer& answer) {
+    answer.question = EQuestion::PhoneFiles;
+    const auto isNumber = [](const std::string& strWord) { return ParseNumber(strWord).has_value(); };
+    if (arrWords.size() > 1 && std::all_of(arrWords.begin() + 1, arrWords.end(), isNumber)) {
+        for (std::size_t i = 1; i < arrWords.size(); ++i) answer.arrSteps.push_back("tick " + arrWords[i]);
+        answer.arrSteps.emplace_back("ok");
+        return true;
+    }
+    for (std::size_t i = 1; i < arrWords.size(); ++i) {
+        const std::string& strWord = arrWords[i];
+        std::string strStep = strWord;
+        if (strWord == "sort" || strWord == "tick" || strWord == "wait") {
+            if (++i >= arrWords.size() || !isNumber(arrWords[i])) return false;
+            strStep.append(1, ' ').append(arrWords[i]);
+        } else if (strWord != "all" && strWord != "none" && strWord != "ok" && strWord != "cancel") {
+            return false;
+        }
+        answer.arrSteps.push_back(std::move(strStep));
+    }
+    return !answer.arrSteps.empty();
+}
+
 bool TakeAnswerWords(const CStage& stage, const CWords& arrWords, CAnswer& answer) {
     const std::string& strKind = arrWords[0];
     if (strKind == "box") return TakeBox(arrWords, answer);
@@ -77,6 +109,9 @@ bool TakeAnswerWords(const CStage& stage, const CWords& arrWords, CAnswer& answe
     if (strKind == "size") return TakeSize(arrWords, answer);
     if (strKind == "delete") return TakeDelete(arrWords, answer);
     if (strKind == "menu") return TakeMenu(arrWords, answer);
+    if (strKind == "port") return TakeNumber(arrWords, EQuestion::Port, &CAnswer::nPort, 1, answer);
+    if (strKind == "phonesize") return TakeNumber(arrWords, EQuestion::PhoneSize, &CAnswer::nRow, 0, answer);
+    if (strKind == "phonefiles") return TakePhoneFiles(arrWords, answer);
     answer.bCancel = true;
     return strKind == "cancel" && arrWords.size() == 1;
 }
@@ -89,27 +124,39 @@ std::string Answer(CStage& stage, const CWords& arrWords) {
     return {};
 }
 
+constexpr int kMostWords = 1000;
+
 constexpr CVerb kVerbs[] = {
-    {"answer", "box ok|cancel|yes|no", 1, 4, Answer,
+    {"answer", "box ok|cancel|yes|no", 1, kMostWords, Answer,
      "Waits for the next question of its kind. Questions that find no answer take their default: a box Ok, "
      "Cancel or No, every other one Cancel.",
      "answer box yes"},
-    {"answer", "open PATH", 1, 4, Answer, "A file for the open dialog.", "answer open ../海边.jpg"},
-    {"answer", "save PATH", 1, 4, Answer, "A file for the save dialog.", "answer save small.jpg"},
-    {"answer", "color RRGGBB", 1, 4, Answer, "A colour for the colour dialog.", "answer color ff8000"},
-    {"answer", "font FACE regular|bold", 1, 4, Answer, "A face for the font dialog.",
+    {"answer", "open PATH", 1, kMostWords, Answer, "A file for the open dialog.", "answer open ../海边.jpg"},
+    {"answer", "save PATH", 1, kMostWords, Answer, "A file for the save dialog.", "answer save small.jpg"},
+    {"answer", "color RRGGBB", 1, kMostWords, Answer, "A colour for the colour dialog.", "answer color ff8000"},
+    {"answer", "font FACE regular|bold", 1, kMostWords, Answer, "A face for the font dialog.",
      "answer font 黑体 bold"},
-    {"answer", "size W H", 1, 4, Answer,
+    {"answer", "size W H", 1, kMostWords, Answer,
      "What is typed into the size dialog as width and height, with the ratio not kept. Any text will do.",
      "answer size 320 240"},
-    {"answer", "size keep width|height N", 1, 4, Answer,
+    {"answer", "size keep width|height N", 1, kMostWords, Answer,
      "What is typed into the size dialog as width or height, with the ratio kept.",
      "answer size keep width 320"},
-    {"answer", "delete yes|no", 1, 4, Answer,
+    {"answer", "delete yes|no", 1, kMostWords, Answer,
      "For the system's own question before it deletes files, which comes for several and with shift.",
      "answer delete yes"},
-    {"answer", "menu ID", 1, 4, Answer, "An item for the menu of a right click.", "answer menu 32785"},
-    {"answer", "cancel", 1, 4, Answer,
+    {"answer", "menu ID", 1, kMostWords, Answer, "An item for the menu of a right click.", "answer menu 32785"},
+    {"answer", "port N", 1, kMostWords, Answer, "COMN in the dialog that asks for the phone's port.",
+     "answer port 3"},
+    {"answer", "phonefiles ROW...", 1, kMostWords, Answer,
+     "Ticks these rows of the phone's files, which count from 0, and takes them.", "answer phonefiles 0 2"},
+    {"answer", "phonefiles WORD...", 1, kMostWords, Answer,
+     "What the hand does there, in order: sort C (by column 0 to 2), tick R (the row as it stands then), all, "
+     "none, wait MS, ok, cancel. What still stands behind the last word is cancelled.",
+     "answer phonefiles sort 2 tick 0 ok"},
+    {"answer", "phonesize ROW", 1, kMostWords, Answer,
+     "A row of the phone's sizes for the picture to be sent; they count from 0.", "answer phonesize 0"},
+    {"answer", "cancel", 1, kMostWords, Answer,
      "Leaves the next question without a choice, of whatever kind it is but a box.", "answer cancel"},
 };
 

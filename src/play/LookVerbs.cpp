@@ -95,6 +95,13 @@ std::string Boxes(CStage& stage, const CWords& /*arrWords*/) {
     return {};
 }
 
+std::string Calls(CStage& stage, const CWords& /*arrWords*/) {
+    const std::vector<std::string> arrCalls = stage.platform.Libraries().PhoneTrace().Take();
+    stage.out << "calls " << arrCalls.size() << '\n';
+    for (const std::string& strCall : arrCalls) stage.out << strCall << '\n';
+    return {};
+}
+
 std::string Shell(CStage& stage, const CWords& /*arrWords*/) {
     const std::vector<CShellAct> arrActs = stage.platform.TakeShellActs();
     stage.out << "shell " << arrActs.size() << '\n';
@@ -152,6 +159,10 @@ constexpr CVerb kVerbs[] = {
     {"boxes", "", 0, 0, Boxes,
      "Prints how many message boxes there were since the last such line, and of each title, icon and text.",
      "boxes"},
+    {"calls", "", 0, 0, Calls,
+     "Prints how many calls the program made into the phone's library since the last such line, and each: what "
+     "it handed in, behind = the code, and the out-values in their order.",
+     "calls"},
     {"shell", "", 0, 0, Shell,
      "Prints what the program had the system do with files since the last such line: open, bin or delete, "
      "whether the system asked, whether all was done, and the paths by their drives.",

@@ -1,5 +1,7 @@
 #include "play/ScriptedLibraries.h"
 
+#include "engines/linkset/PhoneLibrary.h"
+
 namespace {
 
 class CTableLibrary : public CLibrary {
@@ -23,6 +25,11 @@ class CTableLibrary : public CLibrary {
 
 std::unique_ptr<CLibrary> CScriptedLibraries::Load(const std::string& strFileName) {
     m_arrAsked.push_back(strFileName);
+    std::unique_ptr<CLibrary> pLibrary = LoadPlain(strFileName);
+    return strFileName == PHONE_LIBRARY_NAME ? m_trace.Wrap(std::move(pLibrary)) : std::move(pLibrary);
+}
+
+std::unique_ptr<CLibrary> CScriptedLibraries::LoadPlain(const std::string& strFileName) {
     if (!m_mapFunctions.empty()) return std::make_unique<CTableLibrary>(m_mapFunctions, m_nLoaded);
     return CLibraryFolders(m_arrFolders, m_mapFiles).Load(strFileName);
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "play/PhoneTrace.h"
 #include "window/LibraryFolders.h"
 
 // Real libraries from folders that are told, or, once a function has been added, one made of such functions
@@ -21,6 +22,8 @@ class CScriptedLibraries : public CLibraries {
     void RemoveFunctions() { m_mapFunctions.clear(); }
     // What the program has loaded and not let go.
     int LoadedCount() const { return m_nLoaded; }
+    // What it has called in the phone's library.
+    CPhoneTrace& PhoneTrace() { return m_trace; }
     // The names of the files that it has asked for.
     const std::vector<std::string>& Asked() const { return m_arrAsked; }
 
@@ -28,6 +31,9 @@ class CScriptedLibraries : public CLibraries {
 
   private:
     std::vector<std::string> m_arrFolders;
+    [[nodiscard]] std::unique_ptr<CLibrary> LoadPlain(const std::string& strFileName);
+
+    CPhoneTrace m_trace;
     CLibraryFiles m_mapFiles;
     std::map<std::string, void*> m_mapFunctions;
     std::vector<std::string> m_arrAsked;

@@ -37,11 +37,15 @@ CPlatform CScriptedPlatform::Get() {
 
 // One entry for each dialog of the program's own that a user of this platform can work through.
 void CScriptedPlatform::AddRunners() {
-    SetRunner(kDlgSplash, [](CPlayHost& host) {
-        while (!host.Dialog().HasEnded() && host.Platform().Timers().AdvanceToNext()) {
-        }
-    });
+    for (const int nDialog : {kDlgSplash, kDlgLink, kDlgTransfer})
+        SetRunner(nDialog, [](CPlayHost& host) {
+            while (!host.Dialog().HasEnded() && host.Platform().Timers().AdvanceToNext()) {
+            }
+        });
     SetRunner(kDlgSize, [this](CPlayHost& host) { RunSize(host); });
+    SetRunner(kDlgPortSelect, [this](CPlayHost& host) { RunPort(host); });
+    SetRunner(kDlgPhoneFile, [this](CPlayHost& host) { RunPhoneFiles(host); });
+    SetRunner(kDlgPhoneSize, [this](CPlayHost& host) { RunPhoneSize(host); });
 }
 
 // Types what the answer has, with the ratio kept or not, and clicks Ok.

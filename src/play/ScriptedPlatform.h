@@ -139,6 +139,11 @@ class CScriptedPlatform : private CMessageBoxes,
     void PaintAll();
     void AddRunners();
     void RunSize(CPlayHost& host);
+    void RunPort(CPlayHost& host);
+    void RunPhoneFiles(CPlayHost& host);
+    std::string DoInPhoneFiles(CPlayHost& host, const std::string& strStep);
+    void RunPhoneSize(CPlayHost& host);
+    void Complain(const std::string& strWhy);
     CAsked& Ask(EQuestion question);
     bool MayDelete(bool bToBin, bool bAsk);
     bool DeleteOne(const std::string& strPath, bool bToBin) const;

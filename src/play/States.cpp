@@ -45,6 +45,17 @@ std::string Selected(const CStage& stage) {
     return strText;
 }
 
+const CPhoneState& Facts(const CStage& stage) {
+    return stage.dialog.Link().State();
+}
+
+std::string Phone(const CStage& stage) {
+    std::string strText = std::to_string(Facts(stage).m_nMaxFiles);
+    for (const CSize& size : Facts(stage).m_arrPhoneSizes)
+        strText.append(1, ' ').append(std::to_string(size.cx)).append(1, 'x').append(std::to_string(size.cy));
+    return strText;
+}
+
 std::string Preview(const CStage& stage) {
     const CxImage& image = stage.dialog.Effects().Preview();
     return image.IsValid() ? Pair(image.GetSize()) : "none";
@@ -114,6 +125,26 @@ constexpr CStateEntry kStates[] = {
      "four corners, or place and size of the mesh and both its grids."},
     {"connected", [](const CStage& s) { return Flag(s.dialog.Link().IsConnected()); },
      "Whether the phone is connected."},
+    {"phone", Phone, "The most files that it stores, -1 for no limit, and its sizes as WxH."},
+    {"port", [](const CStage& s) { return std::to_string(Facts(s).m_nPort); }, "Number of its port."},
+    {"modemport", [](const CStage& s) { return std::to_string(Facts(s).m_nModemPort); },
+     "Number of its modem's port, -1 for none."},
+    {"usbport", [](const CStage& s) { return Flag(Facts(s).m_bUsbPort != 0); },
+     "Whether the port was found without asking."},
+    {"phoneid", [](const CStage& s) { return std::to_string(Facts(s).m_nPhoneId); }, "Its identity."},
+    {"phonekind", [](const CStage& s) { return std::to_string(Facts(s).m_nPhoneKind); }, "Its kind."},
+    {"photophone", [](const CStage& s) { return Flag(Facts(s).m_bPhotoPhone); }, "Whether it takes pictures."},
+    {"card", [](const CStage& s) { return Flag(Facts(s).m_bHasCard != 0); }, "Whether it has a memory card."},
+    {"norestart", [](const CStage& s) { return Flag(Facts(s).m_bNoRestart != 0); },
+     "Whether it goes on working after an exchange."},
+    {"thumb", [](const CStage& s) { return Pair({Facts(s).m_nThumbWidth, Facts(s).m_nThumbHeight}); },
+     "Width and height of its thumbnails."},
+    {"connect", [](const CStage& s) { return Flag(s.dialog.Controls().IsEnabled(kCmdConnect)); },
+     "Whether the key that connects is on."},
+    {"take", [](const CStage& s) { return Flag(s.dialog.Controls().IsEnabled(kCmdTake)); },
+     "Whether the key that takes pictures is on."},
+    {"send", [](const CStage& s) { return Flag(s.dialog.Controls().IsEnabled(kCmdSend)); },
+     "Whether the key that sends pictures is on."},
     {"sizerule",
      [](const CStage& s) { return std::string(s.dialog.Images().IsPhoneSize() ? "phone" : "image"); },
      "Which size rules, the picture's or the phone's."},

@@ -42,7 +42,7 @@ class ControlDeskTest : public testing::Test {
 };
 
 char LetterOf(EKey key) {
-    return std::string(".+-urcpn")[static_cast<std::size_t>(key)];
+    return std::string(".+-urcpnsi")[static_cast<std::size_t>(key)];
 }
 
 }  // namespace
@@ -56,7 +56,6 @@ TEST(CommandTable, IsTheOneThatWasWrittenByHand) {
         strRow += ' ';
         for (const EKey key : {row.previewBegun, row.previewEnded, row.previewDropped})
             strRow += LetterOf(key);
-        (strRow += ' ') += LetterOf(row.phoneChanged);
         EXPECT_EQ(row.nId, kWantedKeys[i].nId);
         EXPECT_EQ(strRow, kWantedKeys[i].szRow) << row.nId;
     }
@@ -90,7 +89,7 @@ TEST_F(ControlDeskTest, APreviewTakesTheKeysAndGivesThemBack) {
     Enter(EMode::Effect);
     EXPECT_EQ(On(keys), "xxx--x");
     m_bConnected = true;
-    Tell({PhoneChanged});
+    Tell({PhoneFound});
     EXPECT_EQ(On(keys), "xxxxx-");
     for (const EEditEvent begun : {PreviewBegun, LevelPreviewBegun}) {
         const bool bLevel = begun == LevelPreviewBegun;
@@ -111,8 +110,28 @@ TEST_F(ControlDeskTest, APreviewTakesTheKeysAndGivesThemBack) {
     Enter(EMode::Font);
     EXPECT_EQ(On(keys), "xx-xx-");
     m_bConnected = false;
-    Tell({PhoneChanged});
+    Tell({PhoneLost});
     EXPECT_EQ(On(keys), "xx---x");
+}
+
+// With nothing to send a connect leaves Send off; what has only come back does not put it out.
+TEST_F(ControlDeskTest, ThePhoneSwitchesItsThree) {
+    const auto keys = {kCmdConnect, kCmdTake, kCmdSend};
+    m_state.m_bImageOpen = false;
+    Enter(EMode::Stick);
+    for (const auto& [event, szKeys] :
+         {std::pair{PhoneFound, "-x-"}, {PhoneLost, "x--"}, {PhoneReady, "xx-"}, {TakeLineFailed, "x--"}}) {
+        Tell({event});
+        EXPECT_EQ(On(keys), szKeys);
+    }
+    m_state.m_nMode = EMode::Thum;
+    Tell({PhoneFound, PhoneReady});
+    EXPECT_EQ(On(keys), "-xx");
+    Tell({SendLineFailed});
+    EXPECT_EQ(On(keys), "-x-");
+    m_state.m_bImageOpen = true;
+    Tell({PhoneReady});
+    EXPECT_EQ(On(keys), "-xx");
 }
 
 TEST_F(ControlDeskTest, SelectionAndClipboardSwitchTheirFour) {

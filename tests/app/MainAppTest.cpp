@@ -4,6 +4,7 @@
 #include "app/Workshop.h"
 
 TEST(MainAppTest, FolderOfAStoredValue) {
+    CScriptedPlatform platform;
     struct {
         const char* szValue;
         const char* szPath;
@@ -17,7 +18,10 @@ TEST(MainAppTest, FolderOfAStoredValue) {
         {"\"", ""},
         {" \"/opt/x\"", " \"/opt/x\""},
     };
-    for (const auto& row : kCases) EXPECT_EQ(CMainApp::PathOfValue(row.szValue), row.szPath) << row.szValue;
+    for (const auto& row : kCases) {
+        platform.SetInstallValue(row.szValue);
+        EXPECT_EQ(platform.Get().folders.InstallFolder(), row.szPath) << row.szValue;
+    }
 }
 
 TEST(MainAppTest, ThePictureStandsThreeSecondsBehindItsFirstPaint) {
@@ -34,7 +38,6 @@ TEST(MainAppTest, ThePictureStandsThreeSecondsBehindItsFirstPaint) {
 
 TEST(MainAppTest, RunsThePictureThenTheWindowThenEnds) {
     CScriptedPlatform platform;
-    platform.SetInstallValue("\"/opt/photo shop\"");
     std::int64_t nWindowUp = -1;
     platform.SetRunner(kDlgMain, [&](CPlayHost& host) {
         nWindowUp = platform.Timers().Now();
@@ -43,10 +46,8 @@ TEST(MainAppTest, RunsThePictureThenTheWindowThenEnds) {
         host.Dialog().OnClose();
     });
     CMainApp app(platform.Get());
-    EXPECT_EQ(app.InstallPath(), "");
     app.InitInstance();
     EXPECT_EQ(nWindowUp, 3050);
-    EXPECT_EQ(app.InstallPath(), "/opt/photo shop");
     std::vector<int> arrDialogs;
     for (const CAsked& asked : platform.TakeAsked()) arrDialogs.push_back(asked.nDialog);
     EXPECT_EQ(arrDialogs, (std::vector{kDlgSplash, kDlgMain}));

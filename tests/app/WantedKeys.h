@@ -13,13 +13,13 @@ struct CWantedKey {
 
 inline constexpr CWantedKey kWantedKeys[] = {
     // clang-format off
-    {kCmdOpen,           "+++++ ... ."}, {kCmdNew,              ".++.+ -++ ."}, {kCmdSave,    "-++++ -+. ."},
-    {kCmdPrint,          "-++++ -+. ."}, {kCmdUndo,             "-uuuu -u. ."}, {kCmdRedo,    "-rrrr -r. ."},
-    {kCmdReset,          "-++++ -+. ."}, {kCmdCut,              "----- ... ."}, {kCmdCopy,    "----- ... ."},
-    {kCmdPaste,          "----c ... ."}, {kCmdCrop,             "----- ... ."}, {kCmdSize,    "-++-- -+. ."},
-    {kCmdFlipVertical,   "-++-+ -+. ."}, {kCmdFlipHorizontal,   "-++-+ -+. ."}, {kCmdTurnLeft, "-++-+ -+. ."},
-    {kCmdTurnRight,      "-++-+ -+. ."}, {kCmdLarge,            "-++-- -+. ."}, {kCmdActual,  "-++-- -+. ."},
-    {kCmdSmall,          "-++-- -+. ."}, {kCmdConnect,          "..... .n. n"}, {kCmdSend,    "ppppp -p. p"},
-    {kCmdTake,           ".pp.p -pp p"},
+    {kCmdOpen,           "+++++ ..."}, {kCmdNew,              ".++.+ -++"}, {kCmdSave,    "-++++ -+."},
+    {kCmdPrint,          "-++++ -+."}, {kCmdUndo,             "-uuuu -u."}, {kCmdRedo,    "-rrrr -r."},
+    {kCmdReset,          "-++++ -+."}, {kCmdCut,              "----- ..."}, {kCmdCopy,    "----- ..."},
+    {kCmdPaste,          "----c ..."}, {kCmdCrop,             "----- ..."}, {kCmdSize,    "-++-- -+."},
+    {kCmdFlipVertical,   "-++-+ -+."}, {kCmdFlipHorizontal,   "-++-+ -+."}, {kCmdTurnLeft, "-++-+ -+."},
+    {kCmdTurnRight,      "-++-+ -+."}, {kCmdLarge,            "-++-- -+."}, {kCmdActual,  "-++-- -+."},
+    {kCmdSmall,          "-++-- -+."}, {kCmdConnect,          "..... .n."}, {kCmdSend,    "ppppp -p."},
+    {kCmdTake,           ".pp.p -pp"},
     // clang-format on
 };

@@ -9,15 +9,16 @@
 #include "resources/PhoneTexts.h"
 #include "resources/Texts.h"
 
-CPhoneSession::CPhoneSession(const CEnvironment& env)
-    : m_env(env), m_strInstallFolder(env.folders.InstallFolder()) {
-    // Without a folder of its own the program remembers a phone for as long as the system keeps such files.
+// Without a folder of its own the program remembers a phone for as long as the system keeps such files.
+std::string CPhoneSession::InstallFolder() const {
+    std::string strFolder = m_env.folders.InstallFolder();
+    if (!strFolder.empty()) return strFolder;
     std::error_code error;
-    if (m_strInstallFolder.empty()) m_strInstallFolder = std::filesystem::temp_directory_path(error).string();
+    return std::filesystem::temp_directory_path(error).string();
 }
 
 std::string CPhoneSession::DataFile(std::string_view strName) const {
-    return m_strInstallFolder + m_env.folders.Separator() + std::string(strName);
+    return InstallFolder() + m_env.folders.Separator() + std::string(strName);
 }
 
 std::string CPhoneSession::WithRestart(std::string strText, const char* szBetween) const {

@@ -42,14 +42,14 @@ class CPhoneSession {
     static constexpr int kEndRestart = 4;   // the phone is about to restart and is to be waited for
     static constexpr int kEndResize = 5;    // the user wants the picture in one of the phone's sizes
 
-    explicit CPhoneSession(const CEnvironment& env);
+    explicit CPhoneSession(const CEnvironment& env) : m_env(env) {}
 
     CPhoneState& State() { return m_state; }
     const CPhoneState& State() const { return m_state; }
     CPhoneCalls& Calls() { return m_calls; }
     const CEnvironment& Env() const { return m_env; }
     // The folder of the two data files.
-    const std::string& InstallFolder() const { return m_strInstallFolder; }
+    std::string InstallFolder() const;
     std::string DataFile(std::string_view strName) const;
 
     // Shows what a code of the library means, if it means anything; most codes then end the connection.
@@ -77,7 +77,6 @@ class CPhoneSession {
     CEnvironment m_env;
     CPhoneState m_state;
     CPhoneCalls m_calls;
-    std::string m_strInstallFolder;
 };
 
 // Keeps the phone in the exchange as long as it lives, since the program waits for its user.

@@ -48,9 +48,9 @@ class PhoneWorkshop : public Workshop {
             strKeys += Controls().IsEnabled(nId) ? 'x' : '-';
         return strKeys;
     }
-    // With what the connect has said and called forgotten.
+    // Whether the key is on or not; with what it has said and called forgotten.
     void Connect() {
-        Click(kCmdConnect);
+        m_dialog.OnCommand(kCmdConnect);
         Boxes();
         Calls();
     }

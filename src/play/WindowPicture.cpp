@@ -66,7 +66,7 @@ class CComposer {
     void DrawTexts(const CControl& control);
     void DrawTable(const CControl& control);
     void DrawTableRow(const CControl& control, const CCheckTableModel::CRow& row, const CRect& rcRow,
-                      bool bCurrent);
+                      int nBox, bool bCurrent);
     void DrawTree(const CControl& control);
     void DrawBranch(const CRect& rcTree, const CTreeModel& tree, CTreeItem parent, CPoint& pt);
     void DrawName(const CRect& rcClip, const std::string& strName, CPoint pt, bool bSelected);
@@ -214,20 +214,19 @@ void CComposer::DrawTexts(const CControl& control) {
     }
 }
 
-// A box to tick, and each text in the middle of its column; a column of titles has neither.
+// Each text in the middle of its column, in the first behind the box, whose pixels are nBox.
 void CComposer::DrawTableRow(const CControl& control, const CCheckTableModel::CRow& row, const CRect& rcRow,
-                             bool bCurrent) {
+                             int nBox, bool bCurrent) {
     if (bCurrent) m_surface.FillRect(rcRow, kMark);
     int nLeft = rcRow.left;
     for (std::size_t i = 0; i < control.look.arrColumns.size() && i < row.arrTexts.size(); ++i) {
         const int nRight = nLeft + control.look.arrColumns[i].nWidth;
-        const int nTextLeft = nLeft + (i == 0 ? CCheckTableHand::kBoxLeft + CCheckTableHand::kBoxPixels : 0);
+        if (i == 0) nLeft += nBox;
         const auto nLength =
-            std::min(row.arrTexts[i].size(), static_cast<std::size_t>(nRight - nTextLeft) / kCharacter);
+            std::min(row.arrTexts[i].size(), static_cast<std::size_t>(nRight - nLeft) / kCharacter);
         const int nWidth = static_cast<int>(nLength) * kCharacter;
         DrawBar(rcRow, nWidth,
-                {(nTextLeft + nRight - nWidth) / 2, rcRow.top + (rcRow.Height() - kNameHeight) / 2},
-                bCurrent);
+                {(nLeft + nRight - nWidth) / 2, rcRow.top + (rcRow.Height() - kNameHeight) / 2}, bCurrent);
         m_surface.FillRect(CRect{nRight - 1, rcRow.top, nRight, rcRow.bottom}.Intersect(rcRow), kRim);
         nLeft = nRight;
     }
@@ -242,7 +241,7 @@ void CComposer::DrawTable(const CControl& control) {
     m_surface.FillRect(rcTitles, kFace);
     CCheckTableModel::CRow titles;
     for (const CTableColumn& column : control.look.arrColumns) titles.arrTexts.emplace_back(column.szTitle);
-    DrawTableRow(control, titles, rcTitles, false);
+    DrawTableRow(control, titles, rcTitles, 0, false);
     const CCheckTableModel* pTable = m_host.Dialog().TableOf(control.nId);
     if (pTable == nullptr) return;
     const int nRows = (rc.Height() - CHand::kTitlePixels) / CHand::kRowPixels;
@@ -250,7 +249,8 @@ void CComposer::DrawTable(const CControl& control) {
     for (int nRow = nFirst; nRow < std::min(pTable->Count(), nFirst + nRows); ++nRow) {
         const CRect rcRow = CRect::FromPlace(rc.left, rcTitles.bottom + (nRow - nFirst) * CHand::kRowPixels,
                                              rc.Width(), CHand::kRowPixels);
-        DrawTableRow(control, pTable->Row(nRow), rcRow, nRow == control.nSel);
+        DrawTableRow(control, pTable->Row(nRow), rcRow, CHand::kBoxLeft + CHand::kBoxPixels,
+                     nRow == control.nSel);
         DrawCheck(CRect::FromPlace(rcRow.left + CHand::kBoxLeft,
                                    rcRow.top + (CHand::kRowPixels - CHand::kBoxPixels) / 2, CHand::kBoxPixels,
                                    CHand::kBoxPixels),

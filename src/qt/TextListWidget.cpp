@@ -83,6 +83,8 @@ void CTextListWidget::mouseDoubleClickEvent(QMouseEvent* pEvent) {
 void CTextListWidget::keyPressEvent(QKeyEvent* pEvent) {
     if (m_hand.OnKey(KeyCodeOf(pEvent->key()))) return;
     const QString strTyped = pEvent->text();
-    if (strTyped.isEmpty() || !strTyped.front().isPrint()) return pEvent->ignore();
+    // A blank would begin what is looked for, and no text begins with it.
+    const bool bLetter = !strTyped.isEmpty() && strTyped.front().isPrint() && !strTyped.front().isSpace();
+    if (!bLetter) return pEvent->ignore();
     keyboardSearch(strTyped);
 }

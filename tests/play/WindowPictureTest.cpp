@@ -6,6 +6,7 @@
 
 #include "play/ScriptedPlatform.h"
 #include "support/Pictures.h"
+#include "window/CheckTableModel.h"
 
 namespace {
 
@@ -42,6 +43,37 @@ class CSkin : public CBitmaps {
 };
 
 }  // namespace
+
+// Lists of texts and tables to tick: the selected row in its mark and in sight, boxes, lines, titles.
+TEST(WindowPicture, DrawsRowsOfTextsWhereTheyStand) {
+    static constexpr std::array kRows = {CControlTemplate{1, TextList, CRect::FromPlace(0, 0, 60, 40)},
+                                         CControlTemplate{2, CheckTable, CRect::FromPlace(0, 50, 90, 60)}};
+    static constexpr std::array kColumns = {CTableColumn{"N", 40}, CTableColumn{"Name", 60}};
+    static constexpr std::array kRowLooks = {CControlLookRow{2, {.arrColumns = kColumns}}};
+    static constexpr CDialogTemplate kDialog = {901, "", {100, 120}, EDialogFrame::Plain, kRows, kRowLooks};
+    struct CTableDialog : CDialog {
+        using CDialog::CDialog;
+        CCheckTableModel* TableOf(int nId) override { return nId == 2 ? &m_table : nullptr; }
+        CCheckTableModel m_table;
+    };
+    CScriptedPlatform platform;
+    CTableDialog dialog(kDialog);
+    CPlayHost host(platform, dialog);
+    dialog.m_table.SetRows({{{"1", "abcd"}, 0, true}, {{"2", ""}, 1}, {{"3", ""}, 2, true}});
+    dialog.Controls().SetItems(1, {{"one"}, {"two"}, {"three"}});
+    const auto expect = [&](std::initializer_list<std::pair<CPoint, CColor>> arrPixels) {
+        const CSurface surface = ComposeWindow(host, nullptr);
+        for (const auto& [pt, color] : arrPixels)
+            EXPECT_EQ(surface.GetPixel(pt.x, pt.y), color) << pt.x << "," << pt.y;
+    };
+    constexpr CColor kInk{40, 46, 48}, kFace{214, 220, 214};
+    expect({{{7, 8}, kInk}, {{50, 8}, kPaper}, {{7, 24}, kInk}, {{7, 39}, kPaper}});
+    expect({{{2, 52}, kFace}, {{39, 52}, kRim}, {{2, 69}, kRim}, {{39, 75}, kRim}, {{2, 87}, kRim}});
+    expect({{{70, 79}, kInk}, {{45, 79}, kPaper}, {{11, 79}, kMark}, {{11, 97}, kPaper}, {{70, 97}, kPaper}});
+    dialog.Controls().Select(1, 2);
+    dialog.Controls().Select(2, 2);
+    expect({{{50, 8}, kPaper}, {{50, 24}, kMark}, {{70, 97}, kMark}, {{11, 79}, kPaper}, {{70, 79}, kPaper}});
+}
 
 // What stands where in the picture of a window.
 TEST(WindowPicture, DrawsEachKindOfControlWhereItStands) {

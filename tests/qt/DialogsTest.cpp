@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QActionGroup>
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
@@ -183,11 +184,16 @@ TEST(WaitCursor, NestsAndGivesWayToABox) {
 
 TEST(PopupMenus, GiveTheChosenItem) {
     CTestPlatform test;
-    const std::vector<CMenuItem> arrItems = {{101, "上下"}, {102, "Undo", false}, {103, "Redo"}};
+    const std::vector<CMenuItem> arrItems = {{101, "上下"}, {102, "Undo", false}, {103, "Redo", true, true}};
     Later([] {
         auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_NE(pMenu, nullptr);
         EXPECT_FALSE(pMenu->actions()[1]->isEnabled());
+        // One of a group has a round mark, and choosing it once more is a choice.
+        for (const int i : {0, 1, 2}) EXPECT_EQ(pMenu->actions()[i]->isCheckable(), i == 2);
+        const QAction& marked = *pMenu->actions()[2];
+        EXPECT_TRUE(marked.isChecked() && marked.actionGroup() != nullptr &&
+                    marked.actionGroup()->isExclusive());
         QTest::mouseClick(pMenu, Qt::LeftButton, {}, pMenu->actionGeometry(pMenu->actions()[2]).center());
     });
     EXPECT_EQ(test.platform.menus.Track(arrItems), 103);

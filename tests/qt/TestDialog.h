@@ -13,6 +13,7 @@
 #include "image/Image.h"
 #include "qt/DialogView.h"
 #include "qt/Pictures.h"
+#include "window/CheckTableModel.h"
 #include "window/Dialog.h"
 #include "window/IconListModel.h"
 #include "window/ScrollView.h"
@@ -63,6 +64,7 @@ struct CTestModels {
     CScrollView* pView = nullptr;
     CTreeModel* pTree = nullptr;
     CIconListModel* pIcons = nullptr;
+    CCheckTableModel* pTable = nullptr;
 };
 
 using CNotices = std::vector<std::pair<int, ENotice>>;
@@ -93,6 +95,7 @@ class CTestDialog : public CDialog {
     CScrollView* ViewOf(int /*nId*/) override { return m_models.pView; }
     CTreeModel* TreeOf(int /*nId*/) override { return m_models.pTree; }
     CIconListModel* IconsOf(int /*nId*/) override { return m_models.pIcons; }
+    CCheckTableModel* TableOf(int /*nId*/) override { return m_models.pTable; }
 
     std::vector<int> m_arrCommands;
     CNotices m_arrNotices;

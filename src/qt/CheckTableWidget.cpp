@@ -33,14 +33,14 @@ void CCheckTableDelegate::paint(QPainter* pPainter, const QStyleOptionViewItem& 
     QRect rcText = option.rect;
     if (index.column() == 0) {
         constexpr int kSide = CCheckTableHand::kBoxPixels;
-        const QRectF rcBox(option.rect.left() + CCheckTableHand::kBoxLeft,
-                           option.rect.top() + (option.rect.height() - kSide) / 2, kSide, kSide);
+        const QRect rcBox(option.rect.left() + CCheckTableHand::kBoxLeft,
+                          option.rect.top() + (option.rect.height() - kSide) / 2, kSide, kSide);
         const bool bTicked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
         pPainter->save();
         pPainter->setRenderHint(QPainter::Antialiasing);
-        PaintCheckBox(*pPainter, rcBox.adjusted(1.5, 1.5, -1.5, -1.5), bTicked, bEnabled);
+        PaintCheckBox(*pPainter, QRectF(rcBox).adjusted(1.5, 1.5, -1.5, -1.5), bTicked, bEnabled);
         pPainter->restore();
-        rcText.setLeft(static_cast<int>(rcBox.right()));
+        rcText.setLeft(rcBox.right() + 1);
     }
     rcText.adjust(kTextMargin, 0, -kTextMargin, 0);
     pPainter->setFont(option.font);

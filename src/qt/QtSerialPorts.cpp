@@ -61,7 +61,7 @@ int NumberIn(std::string_view strName) {
 
 }  // namespace
 
-std::vector<CPortInfo> NamePorts(std::vector<CSerialDevice> arrDevices) {
+std::vector<CPortInfo> NamePorts(const std::vector<CSerialDevice>& arrDevices) {
     std::vector<std::pair<int, CPortInfo>> arrNumbered;
     for (const CSerialDevice& device : arrDevices)
         if (const std::optional<int> nPort = PortNumberOf(device.strName))
@@ -69,6 +69,7 @@ std::vector<CPortInfo> NamePorts(std::vector<CSerialDevice> arrDevices) {
     std::sort(arrNumbered.begin(), arrNumbered.end(),
               [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<CPortInfo> arrPorts;
+    arrPorts.reserve(arrNumbered.size() + 1);
     for (auto& [nPort, info] : arrNumbered) arrPorts.push_back(std::move(info));
     if (std::optional<CPortInfo> phone = FindFolderPhone()) arrPorts.push_back(*std::move(phone));
     return arrPorts;
@@ -91,7 +92,7 @@ std::optional<std::vector<CPortInfo>> CQtSerialPorts::List() {
     std::vector<CSerialDevice> arrDevices;
     for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts())
         arrDevices.push_back({FromQt(info.portName()), FromQt(info.description())});
-    return NamePorts(std::move(arrDevices));
+    return NamePorts(arrDevices);
 }
 
 EPortProbe CQtSerialPorts::Probe(const std::string& strName) {

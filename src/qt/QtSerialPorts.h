@@ -14,7 +14,7 @@ struct CSerialDevice {
 //
 // An adapter for USB calls itself what its maker likes; unless its description says what it is it is called
 // "USB Serial Port, DESCRIPTION (COMn)", so that nobody takes it for the phone.
-std::vector<CPortInfo> NamePorts(std::vector<CSerialDevice> arrDevices);
+std::vector<CPortInfo> NamePorts(const std::vector<CSerialDevice>& arrDevices);
 
 // Opens the device with that path for reading and writing, for nobody else, and closes it again.
 EPortProbe ProbeDevice(const std::string& strPath);

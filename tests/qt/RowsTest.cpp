@@ -27,12 +27,14 @@ constexpr QRgb kWarm = qRgb(232, 143, 54);
 
 std::vector<CListItem> MakeTexts() {
     std::vector<CListItem> arrItems;
+    arrItems.reserve(256);
     for (int i = 1; i <= 256; ++i) arrItems.push_back({std::string("COM").append(std::to_string(i))});
     return arrItems;
 }
 
 std::vector<CCheckTableModel::CRow> MakeRows(int nCount) {
     std::vector<CCheckTableModel::CRow> arrRows;
+    arrRows.reserve(static_cast<std::size_t>(nCount));
     for (int i = 0; i < nCount; ++i)
         arrRows.push_back({{std::to_string(i + 1), std::string(i == 2 ? 200 : 5, 'n'), "12345", "内存"}, i});
     return arrRows;

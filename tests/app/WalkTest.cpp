@@ -289,7 +289,9 @@ class WalkTest : public Workshop {
             if (nId == nSpecial) return;
         const EControlKind kind = Controls().Find(nId)->kind;
         if (kind != EControlKind::BitmapButton && kind != EControlKind::Check) return;
-        if (!TryClick(nId) || nId != kTextApply || !m_model.bOpen) return;
+        if (!TryClick(nId)) return;
+        if (nId == kCmdConnect) ++m_nBoxes;  // there is no port
+        if (nId != kTextApply || !m_model.bOpen) return;
         // What the words look like is told elsewhere.
         m_model.Begin();
         m_model.now.work = Images().m_imgWork.Pixels();

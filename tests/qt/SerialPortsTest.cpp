@@ -38,8 +38,8 @@ TEST_F(SerialPorts, AreCalledByWhatTheyAre) {
     EXPECT_EQ(strNames,
               "ttyS0 (COM1)\nPCI Card (COM2)\nUSB Serial Port, USB-Com Adapter (Com9) (COM35)\n"
               "USB Serial Port, ttyUSB3 (COM36)\n"
-              "USB Serial Port, FT232R USB UART (COM43)\nOrvoE CDMA USB Serial Port (COM65)\n"
-              "Orvo CDMA USB Modem (COM66)\n");
+              "USB Serial Port, FT232R USB UART (COM43)\nOrvoE CDMA USB Serial Port (COM97)\n"
+              "Orvo CDMA USB Modem (COM98)\nTelephone (COM161)\n");
 }
 
 TEST_F(SerialPorts, ThePhoneInAFolderIsThereAsLongAsItsFolderIs) {

@@ -188,13 +188,7 @@ std::optional<int> CFolderPhone::Refusal(const char* szFunction, ENeed need, int
     if (need != ENeed::Nothing && !m_bOpen) return OutOfOrder(szFunction, nCode, "the line is not open");
     if (need == ENeed::Exchange && !m_bStream)
         return OutOfOrder(szFunction, nCode, "ChangeUSBStream has not been called");
-    std::string strError;
-    const std::optional<CPhoneFacts> facts = ReadFacts(m_strFolder, strError);
-    if (!facts) {
-        Log(strError);
-        return LINK_INFO_FAILED;
-    }
-    m_facts = *facts;
+    if (!ReadNow()) return LINK_INFO_FAILED;
     if (need != ENeed::Nothing && m_facts.m_bLocked) return LINK_PHONE_LOCKED;
     return std::nullopt;
 }
@@ -209,6 +203,21 @@ std::optional<int> CFolderPhone::RefusalAt(int nPort, const char* szFunction) {
     // In a folder that is no phone there is nothing at the port, and no place for a log.
     if (nPort != kFolderPhonePort || !HasFacts(m_strFolder)) return LINK_CONNECT_FAILED_PORT;
     return Refusal(szFunction, ENeed::Nothing, LINK_CONNECT_FAILED);
+}
+
+bool CFolderPhone::ReadNow() {
+    const std::optional<std::string> strText = ReadFactsText(m_strFolder);
+    if (!strText) return false;
+    if (strText == m_strFactsText) return true;
+    std::string strError;
+    const std::optional<CPhoneFacts> facts = ParseFacts(*strText, strError);
+    if (!facts) {
+        Log(strError);
+        return false;
+    }
+    m_facts = *facts;
+    m_strFactsText = strText;
+    return true;
 }
 
 int CFolderPhone::OutOfOrder(const char* szFunction, int nCode, const std::string& strWhy) const {

@@ -49,12 +49,15 @@ class CFolderPhone {
     std::optional<int> RefusalOf(int nClass, const char* szFunction, ENeed need, int nCode);
     // The same for a function that looks for the phone at a port.
     std::optional<int> RefusalAt(int nPort, const char* szFunction);
+    // Brings m_facts up to date; false if that cannot be done.
+    bool ReadNow();
     int OutOfOrder(const char* szFunction, int nCode, const std::string& strWhy) const;
     void Log(const std::string& strLine) const;
 
     std::string m_strFolder;
     CPhoneStore m_store;
     CPhoneFaults m_faults;
+    std::optional<std::string> m_strFactsText;  // from which m_facts was made
     CPhoneFacts m_facts;
     CPhoneFacts m_factsOfLine;  // as they were when the line was opened
     bool m_bOpen = false;

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 
 #include "image/AtomicFile.h"
@@ -140,21 +141,30 @@ bool HasFacts(const std::string& strFolder) {
 }
 
 std::optional<CPhoneFacts> ReadFacts(const std::string& strFolder, std::string& strError) {
-    const std::string strPath = FactsPath(strFolder);
-    std::ifstream file(strPath);
+    strError = FactsPath(strFolder) + " cannot be read";
+    const std::optional<std::string> strText = ReadFactsText(strFolder);
+    return strText ? ParseFacts(*strText, strError) : std::nullopt;
+}
+
+std::optional<std::string> ReadFactsText(const std::string& strFolder) {
+    if (!HasFacts(strFolder)) return std::nullopt;
+    std::ifstream file(FactsPath(strFolder), std::ios::binary);
+    if (!file) return std::nullopt;
+    return std::string{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+std::optional<CPhoneFacts> ParseFacts(const std::string& strText, std::string& strError) {
+    std::istringstream text(strText);
     CPhoneFacts facts;
     int nLine = 0;
-    for (std::string strLine; std::getline(file, strLine);) {
+    for (std::string strLine; std::getline(text, strLine);) {
         ++nLine;
         const std::string strFault = TakeLine(strLine, facts);
         if (strFault.empty()) continue;
-        strError = strPath + " line " + std::to_string(nLine) + ": " + strFault;
+        strError = std::string(kFactsFile) + " line " + std::to_string(nLine) + ": " + strFault;
         return std::nullopt;
     }
-    // A folder opens, but nothing can be read of it.
-    if (file.is_open() && !file.bad()) return facts;
-    strError = strPath + " cannot be read";
-    return std::nullopt;
+    return facts;
 }
 
 bool WriteFact(const std::string& strFolder, const std::string& strName, const std::string& strValue) {

@@ -48,6 +48,9 @@ CFactWords FactWords(const std::string& strText);
 bool HasFacts(const std::string& strFolder);
 // Nothing if the file cannot be read or a line of it not be understood; strError then says which.
 std::optional<CPhoneFacts> ReadFacts(const std::string& strFolder, std::string& strError);
+// The same in its two steps, for whoever looks again and again: most often the text is still the same.
+std::optional<std::string> ReadFactsText(const std::string& strFolder);
+std::optional<CPhoneFacts> ParseFacts(const std::string& strText, std::string& strError);
 // Gives a fact its value in the file and leaves all other lines as they are; makes the file if there is none.
 [[nodiscard]] bool WriteFact(const std::string& strFolder, const std::string& strName,
                              const std::string& strValue);

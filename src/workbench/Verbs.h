@@ -26,6 +26,8 @@ std::optional<long long> ParseNumber(const std::string& strWord, long long nMin,
 
 CWorkResult RunEffectVerb(std::span<const std::string> words);
 CWorkResult RunFiguresVerb(std::span<const std::string> words);
+CWorkResult RunFileDatVerb(std::span<const std::string> words);
+CWorkResult RunUserDatVerb(std::span<const std::string> words);
 CWorkResult RunWarpVerb(std::span<const std::string> words);
 // Lines that name the effects with their numbers and levels.
 std::string EffectList();

@@ -105,7 +105,7 @@ int CFolderPhone::GetFileInfoListfromPhone(int nClass, int& nCount, const std::s
         set.m_nDataArray.push_back({file.m_nId, Clipped(file.m_nBytes), file.m_bOnCard ? 1 : 0,
                                     file.m_bClosed ? 1 : 0, file.m_strName, 0});
     }
-    if (!set.Write()) return LINK_TARGET_FAILED;
+    if (strTargetFolder.empty() || !set.Write()) return LINK_TARGET_FAILED;
     nCount = static_cast<int>(arrFiles->size());
     return LINK_OK;
 }

@@ -169,20 +169,18 @@ std::optional<CPhoneFacts> ParseFacts(const std::string& strText, std::string& s
 
 bool WriteFact(const std::string& strFolder, const std::string& strName, const std::string& strValue) {
     const std::string strPath = FactsPath(strFolder);
+    const std::string strNewLine = strName + ' ' + strValue;
     std::string strText;
     bool bWritten = false;
     std::ifstream file(strPath);
     for (std::string strLine; std::getline(file, strLine);) {
         const CFactWords words = FactWords(strLine);
-        if (words.empty() || words[0] != strName) {
-            strText += strLine + '\n';
-        } else if (!bWritten) {
-            strText += strName + ' ' + strValue + '\n';
-            bWritten = true;
-        }
+        const bool bThisFact = !words.empty() && words[0] == strName;
+        if (!bThisFact || !bWritten) strText.append(bThisFact ? strNewLine : strLine).append("\n");
+        bWritten = bWritten || bThisFact;
     }
     if (file.bad()) return false;
-    if (!bWritten) strText += strName + ' ' + strValue + '\n';
+    if (!bWritten) strText.append(strNewLine).append("\n");
     const std::span<const char> text(strText);
     CAtomicFile out;
     return out.Open(strPath) &&

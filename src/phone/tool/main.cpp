@@ -10,6 +10,7 @@
 
 #include "LibraryCalls.h"
 #include "engines/linkset/PhoneLibrary.h"
+#include "engines/ports/DeviceNumbers.h"
 #include "phone/PhoneFacts.h"
 #include "phone/PhoneStore.h"
 
@@ -160,9 +161,9 @@ constexpr CVerb kVerbs[] = {
     {"call", "FOLDER FUNCTION ARGUMENT... [then FUNCTION ARGUMENT...]...",
      "    Calls functions of the phone library, one after the other, and prints for each its name, its code "
      "and\n"
-     "    its out-values in their order. Out-values are left out of the arguments. The port of a phone in a\n"
-     "    folder is 200. The library is the one with this program, or the file that FOTARIUM_PHONE_LIBRARY\n"
-     "    names.\n",
+     "    its out-values in their order. Out-values are left out of the arguments. The library is the one "
+     "with\n"
+     "    this program, or the file that FOTARIUM_PHONE_LIBRARY names.\n",
      2, kAny, CallLibrary},
 };
 
@@ -173,7 +174,7 @@ int PrintHelp() {
     std::cout << "Exit status: 0 done, 1 it cannot be done, 2 a wrong call.\n\nFacts:\n" << std::left;
     for (const CFactRow& fact : AllFacts())
         std::cout << "  " << std::setw(14) << fact.szName << fact.szHelp << "\n";
-    std::cout << "\nFunctions:\n";
+    std::cout << "\nFunctions (the port of a phone in a folder is " << kFolderPhonePort << "):\n";
     for (const CLibraryCall& call : AllCalls())
         std::cout << "  " << call.szName << " " << call.szWords << "\n";
     return kDone;

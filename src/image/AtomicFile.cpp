@@ -85,11 +85,17 @@ bool CAtomicFile::Write(std::span<const std::uint8_t> bytes) {
 }
 
 bool CAtomicFile::Commit() {
-    if (m_nFile < 0) return false;
-    const bool bOnDisk = fsync(m_nFile) == 0;
+    return m_nFile >= 0 && PutInPlace(fsync(m_nFile) == 0);
+}
+
+bool CAtomicFile::CommitUnsynced() {
+    return m_nFile >= 0 && PutInPlace(true);
+}
+
+bool CAtomicFile::PutInPlace(bool bWhole) {
     const bool bClosed = close(m_nFile) == 0;
     m_nFile = -1;
-    if (!bOnDisk || !bClosed) return false;
+    if (!bWhole || !bClosed) return false;
     if (std::rename(m_strTemporary.c_str(), m_strTarget.c_str()) != 0) return false;
     m_strTemporary.clear();
     return true;

@@ -24,9 +24,13 @@ class CAtomicFile {
     [[nodiscard]] bool Write(std::span<const std::uint8_t> bytes);
     // Brings the bytes to the disk and gives the file its name.
     [[nodiscard]] bool Commit();
+    // Gives it its name without waiting for the disk, for a copy of what stands elsewhere: after a loss of power
+    // the file may be empty.
+    [[nodiscard]] bool CommitUnsynced();
 
   private:
     [[nodiscard]] bool TakeOverRights(const std::string& strTarget);
+    [[nodiscard]] bool PutInPlace(bool bWhole);
 
     int m_nFile = -1;
     std::string m_strTarget;

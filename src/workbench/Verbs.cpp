@@ -72,6 +72,17 @@ constexpr CWorkVerb kVerbs[] = {
      "      device N|NAME   device PATH of the port N on this machine, empty for none; number N of a device\n"
      "                  such as ttyUSB0, 0 for none\n",
      RunPortsVerb},
+    {"filedat", "RECORDS OUT",
+     "    Makes a FILE.Dat, the list of a phone's files, of a text file with one record a line. Its parts "
+     "are\n"
+     "    parted by tabs; records are numbered by their lines, from 0.\n"
+     "      ID SIZE MEMORY CLOSED NAME   MEMORY is 0 for the phone's own, CLOSED 1 for what cannot be "
+     "taken\n",
+     RunFileDatVerb},
+    {"userdat", "RECORDS OUT",
+     "    Makes a User.Dat, the phones that are known, likewise.\n"
+     "      ID MAXFILES THUMBW THUMBH CARD FETCH NORESTART WxH...   MAXFILES is -1 for no limit\n",
+     RunUserDatVerb},
     {"warp", "PARAMS BASE.ppm MASK.pgm OUT.ppm",
      "    Warps a text over a picture. The mask is a binary PGM, 0 full ink and 255 none. PARAMS is a text\n"
      "    file with one setting a line; # begins a comment. What is not set: kind 0, effect 0, colour\n"

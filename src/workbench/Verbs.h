@@ -28,6 +28,8 @@ CWorkResult RunEffectVerb(std::span<const std::string> words);
 CWorkResult RunFiguresVerb(std::span<const std::string> words);
 CWorkResult RunPackVerb(std::span<const std::string> words);
 CWorkResult RunPortsVerb(std::span<const std::string> words);
+CWorkResult RunFileDatVerb(std::span<const std::string> words);
+CWorkResult RunUserDatVerb(std::span<const std::string> words);
 CWorkResult RunWarpVerb(std::span<const std::string> words);
 // Lines that name the effects with their numbers and levels.
 std::string EffectList();

@@ -47,10 +47,14 @@ TEST_F(DataVerbs, TellTheLineThatIsNoRecord) {
     const std::string strUser = "1\t2\t3\t4\t0\t0", strFile = "1\t2\t0\t0";
     for (const std::string& strLine :
          {strFile, std::string(), "-" + strFile + "\ta", "99999999999" + strFile + "\ta"})
-        EXPECT_EQ(Run("filedat", strFile + "\ta\n" + strLine + "\n"), kCannotBeDone) << strLine;
+        EXPECT_EQ(Run("filedat", std::string(strFile).append("\ta\n").append(strLine).append("\n")),
+                  kCannotBeDone)
+            << strLine;
     for (const std::string& strLine :
          {strUser, strUser + "\t1\t640", strUser + "\t1\t6x4x1", strUser + "\t1\t"})
-        EXPECT_EQ(Run("userdat", strUser + "\t1\n" + strLine + "\n"), kCannotBeDone) << strLine;
+        EXPECT_EQ(Run("userdat", std::string(strUser).append("\t1\n").append(strLine).append("\n")),
+                  kCannotBeDone)
+            << strLine;
     EXPECT_EQ(m_strError, "workbench: " + m_folder.Path("in") + " line 2: no record\n");
     EXPECT_EQ(m_folder.Names(), std::set<std::string>{"in"});
 }

@@ -24,8 +24,8 @@ class CAtomicFile {
     [[nodiscard]] bool Write(std::span<const std::uint8_t> bytes);
     // Brings the bytes to the disk and gives the file its name.
     [[nodiscard]] bool Commit();
-    // Gives it its name without waiting for the disk, for a copy of what stands elsewhere: after a loss of power
-    // the file may be empty.
+    // Gives it its name without waiting for the disk, for a copy of what stands elsewhere: after a loss of
+    // power the file may be empty.
     [[nodiscard]] bool CommitUnsynced();
 
   private:

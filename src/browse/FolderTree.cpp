@@ -170,10 +170,13 @@ std::string CFolderTree::FollowTake(const std::string& strFolder) {
     std::string strPath = strFolder;
     if (strPath.empty() || strPath.back() != m_cSeparator) strPath += m_cSeparator;
     const CDrive* pDrive = DriveOfFolder(strPath);
+    // What is below it has perhaps not been read yet.
+    if (m_hCurItem != kNoTreeItem) m_model.Expand(m_hCurItem);
     return MakeCurrent(strPath, pDrive != nullptr ? pDrive->strRoot : std::string(1, m_cSeparator));
 }
 
-// The child of the current item with that path, or else the one that is the folder of the first level above it.
+// The child of the current item with that path, or else the one that is the folder of the first level above
+// it.
 std::string CFolderTree::MakeCurrent(std::string strPath, const std::string& strRoot) {
     CTreeItem child = FindChild(m_hCurItem, strPath);
     if (child == kNoTreeItem && strPath.size() > strRoot.size()) {

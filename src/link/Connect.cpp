@@ -32,8 +32,10 @@ bool AskSizes(CPhoneSession& session, CRunningPicture& picture) {
         std::int32_t nHeight = 0;
         nCode = session.Calls().GetResolution(i, nWidth, nHeight);
         if (nCode != LINK_OK) {
+            session.ReportLinkError(nCode);
             state.m_arrPhoneSizes.clear();
-            return Report(session, picture, nCode);
+            picture.StopPicture();
+            return false;
         }
         state.m_arrPhoneSizes.push_back({nWidth, nHeight});
     }
@@ -58,7 +60,9 @@ int LearnPhone(CPhoneSession& session, CRunningPicture& picture) {
     state.m_nPhoneKind = nKind;
     state.m_bPhotoPhone = nKind != 0 && nKind % 2 == 0;
     if (state.m_nMaxFiles == 0) state.m_nMaxFiles = -1;
-    if (state.m_bPhotoPhone) {
+    if (!state.m_bPhotoPhone) {
+        state.m_arrPhoneSizes.clear();
+    } else {
         if (!AskSizes(session, picture)) {
             session.Calls().DisconnectToPhone();
             return CPhoneSession::kEndNothing;

@@ -22,8 +22,8 @@ int DoTakePrepare(CPhoneSession& session, CRunningPicture& picture, std::int32_t
 struct CSendPlan {
     bool bList = false;  // files from the list, else the picture in the editor
     int nFiles = 1;
-    CSize sizePicture;   // the display size of the picture in the editor
-    CSize sizeWanted;    // what it would be sent as
+    CSize sizePicture;  // the display size of the picture in the editor
+    CSize sizeWanted;   // what it would be sent as
 };
 // Holds the phone's limit of files and, for the picture in the editor, its sizes against the plan.
 int DoSendPrepare(CPhoneSession& session, CRunningPicture& picture, const CSendPlan& plan);

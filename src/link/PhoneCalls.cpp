@@ -15,15 +15,17 @@ int Call(TFunction* pFunction, TArguments... arguments) {
 bool CPhoneCalls::Load(CLibraries& libraries) {
     std::unique_ptr<CLibrary> pLibrary = libraries.Load(PHONE_LIBRARY_NAME);
     if (pLibrary == nullptr) return false;
-    // Functions of a former library are not to be called any more.
+    // Functions of a former library are not to be called any more; but it may be at work behind them still.
+    std::vector<std::unique_ptr<CLibrary>> arrLoaded = std::move(m_arrLoaded);
     *this = {};
-    m_pLibrary = std::move(pLibrary);
+    m_arrLoaded = std::move(arrLoaded);
+    m_arrLoaded.push_back(std::move(pLibrary));
     return true;
 }
 
 template <class TFunction>
 void CPhoneCalls::Find(TFunction& pFunction, const char* szName) {
-    pFunction = m_pLibrary == nullptr ? nullptr : reinterpret_cast<TFunction>(m_pLibrary->Find(szName));
+    pFunction = m_arrLoaded.empty() ? nullptr : reinterpret_cast<TFunction>(m_arrLoaded.back()->Find(szName));
 }
 
 void CPhoneCalls::FindForConnect() {

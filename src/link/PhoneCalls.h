@@ -3,14 +3,15 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "engines/linkset/PhoneLibrary.h"
 #include "link/PhoneState.h"
 #include "window/Libraries.h"
 
 // The phone library with its functions, by the names in its contract. Each is looked up when its step begins,
-// and a step finds out what the library lacks. A function that is not there fails as a connection does, and one
-// without a code does nothing. All of them block until the library is done.
+// and a step finds out what the library lacks. A function that is not there fails as a connection does, and
+// one without a code does nothing. All of them block until the library is done.
 class CPhoneCalls {
   public:
     // How long the phone may take to tell who it is, in milliseconds.
@@ -51,7 +52,7 @@ class CPhoneCalls {
     template <class TFunction>
     void Find(TFunction& pFunction, const char* szName);
 
-    std::unique_ptr<CLibrary> m_pLibrary;
+    std::vector<std::unique_ptr<CLibrary>> m_arrLoaded;  // the last one is in use; none is let go
     decltype(&::GetPhoneInfo) m_pGetPhoneInfo = nullptr;
     decltype(&::ConnectToPhone) m_pConnectToPhone = nullptr;
     decltype(&::DisconnectToPhone) m_pDisconnectToPhone = nullptr;

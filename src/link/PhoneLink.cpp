@@ -24,18 +24,34 @@ void CPhoneLink::OnConnect() {
 // --- taking ---
 
 void CPhoneLink::OnTake() {
-    while (Take()) {
-    }
-    m_env.host.FocusEffectList();
+    bool bLineUp = false;
+    while (Take(bLineUp)) bLineUp = true;
 }
 
-bool CPhoneLink::Take() {
-    if (!m_session.CheckPhone()) return false;
+void CPhoneLink::CloseLine() {
+    if (m_session.Restarts())
+        WaitForRestart();
+    else
+        m_session.Calls().DisconnectToPhone();
+}
+
+bool CPhoneLink::Take(bool bLineUp) {
+    if (!m_session.CheckPhone()) {
+        if (bLineUp) CloseLine();
+        return false;
+    }
+    const bool bAgain = TakeList(bLineUp);
+    if (!bAgain) m_env.host.FocusEffectList();
+    return bAgain;
+}
+
+bool CPhoneLink::TakeList(bool bLineUp) {
     std::int32_t nFiles = 0;
     const int nEnd = RunLink(ELinkTask::PrepareTake, [&](CRunningPicture& picture) -> std::optional<int> {
         return DoTakePrepare(m_session, picture, nFiles);
     });
     if (nEnd == CPhoneSession::kEndRestart) WaitForRestart();
+    if (nEnd == CPhoneSession::kEndNothing && bLineUp) CloseLine();
     if (nEnd != CPhoneSession::kEndDone) return false;
 
     // A phone without a card is kept in the exchange meanwhile; one with a card is asked about it.
@@ -64,14 +80,15 @@ bool CPhoneLink::TakePicked(const std::vector<int>& arrPicked) {
     CTake take;
     take.arrPicked = arrPicked;
     take.strSaveFolder = m_env.thum.Tree().CurrentPath();
+    // Before a folder has been chosen the list shows none.
+    take.bFolderMoved = take.strSaveFolder.empty();
+    if (take.bFolderMoved)
+        take.strSaveFolder = m_session.Env().folders.CurrentFolder() + m_session.Env().folders.Separator();
     CTransferDlg dialog(EDirection::Take, m_session,
                         [&](CTransferDlg& transfer) { return DoTakeFiles(m_session, transfer, take); });
     m_session.Env().modals.Run(dialog);
     if (take.bCardChanged) return true;
-    if (m_session.Restarts())
-        WaitForRestart();
-    else
-        m_session.Calls().DisconnectToPhone();
+    CloseLine();
     if (take.bFolderMoved) FollowTake();
     m_env.thum.List().FillThumbnails();
     return false;

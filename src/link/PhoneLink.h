@@ -16,8 +16,8 @@
 class CPhoneHost {
   public:
     virtual ~CPhoneHost() = default;
-    // A floating selection is merged and what DRAW has on the canvas becomes the working image. False behind a
-    // message that there is no memory.
+    // A floating selection is merged and what DRAW has on the canvas becomes the working image. False behind
+    // a message that there is no memory.
     [[nodiscard]] virtual bool SettlePicture() = 0;
     // The picture gets the size for the phone, as one step. False behind a message that there is no memory.
     [[nodiscard]] virtual bool ResizeForPhone(CSize size) = 0;
@@ -25,8 +25,8 @@ class CPhoneHost {
     virtual void FocusEffectList() = 0;
 };
 
-// The phone: connecting, sending and taking. Every exchange opens the line, works in modal dialogs, and closes
-// the line again.
+// The phone: connecting, sending and taking. Every exchange opens the line, works in modal dialogs, and
+// closes the line again.
 class CPhoneLink {
   public:
     // All of these outlive the link.
@@ -53,13 +53,18 @@ class CPhoneLink {
     int RunLink(ELinkTask task, CLinkDlg::CWork work = {});
     void WaitForRestart() { RunLink(ELinkTask::WaitForRestart); }
 
-    // Taking. Each is true if the whole take begins anew, since the card has changed.
-    bool Take();
+    // Behind an exchange: a phone that restarts is waited for.
+    void CloseLine();
+
+    // Taking. Each is true if the whole take begins anew, since the card has changed; the line is up then.
+    bool Take(bool bLineUp);
+    bool TakeList(bool bLineUp);
     bool TakePicked(const std::vector<int>& arrPicked);
     void LeaveTake();
     void FollowTake();
 
     // Sending
+    void SendChecked();
     CSendPlan PlanSend() const;
     void CheckSendFiles();
     void CheckSelected();

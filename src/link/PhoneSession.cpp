@@ -89,8 +89,8 @@ bool CPhoneSession::ReadKnownPhone(std::uint32_t nIdentity) {
     users.m_strFileName = DataFile("User.Dat");
     // What cannot be read holds no record.
     static_cast<void>(users.Open());
-    const auto it =
-        std::ranges::find_if(users.m_nDataArray, [&](const CUserItem& item) { return item.m_nUserId == nIdentity; });
+    const auto it = std::ranges::find_if(users.m_nDataArray,
+                                         [&](const CUserItem& item) { return item.m_nUserId == nIdentity; });
     if (it == users.m_nDataArray.end()) return false;
     m_state.m_nMaxFiles = it->m_nUserMaxFiles;
     m_state.m_nThumbWidth = it->m_nUserThumbWidth;

@@ -37,10 +37,10 @@ class CPhoneSession {
         CSerialPorts& ports;
     };
     // The codes with which the dialogs of an exchange end.
-    static constexpr int kEndNothing = 0;   // nothing more to do
+    static constexpr int kEndNothing = 0;  // nothing more to do
     static constexpr int kEndDone = 1;
-    static constexpr int kEndRestart = 4;   // the phone is about to restart and is to be waited for
-    static constexpr int kEndResize = 5;    // the user wants the picture in one of the phone's sizes
+    static constexpr int kEndRestart = 4;  // the phone is about to restart and is to be waited for
+    static constexpr int kEndResize = 5;   // the user wants the picture in one of the phone's sizes
 
     explicit CPhoneSession(const CEnvironment& env) : m_env(env) {}
 
@@ -54,8 +54,8 @@ class CPhoneSession {
 
     // Shows what a code of the library means, if it means anything; most codes then end the connection.
     void ReportLinkError(int nCode);
-    // The search for the phone's line: its number, or below 0 if there is none or if the user chose none. Sets
-    // the USB flag, and for a phone on USB the modem's number.
+    // The search for the phone's line: its number, or below 0 if there is none or if the user chose none.
+    // Sets the USB flag, and for a phone on USB the modem's number.
     int FindPhonePort();
     // A phone whose facts are in User.Dat; they become the state's.
     bool ReadKnownPhone(std::uint32_t nIdentity);

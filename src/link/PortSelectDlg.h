@@ -6,8 +6,8 @@
 #include "window/Dialog.h"
 #include "window/MessageBoxes.h"
 
-// Asks for the port of the phone. It offers COM1 to COM256 whatever the search has found, so that a port can be
-// picked that the search does not know.
+// Asks for the port of the phone. It offers COM1 to COM256 whatever the search has found, so that a port can
+// be picked that the search does not know.
 class CPortSelectDlg : public CDialog {
   public:
     static constexpr int kMostPorts = 256;

@@ -20,14 +20,18 @@ void CPhoneLink::EndSend() {
 }
 
 void CPhoneLink::OnSend() {
-    if (!m_env.host.SettlePicture()) return;
+    if (!m_env.host.SettlePicture()) return EndSend();
     if (!State().m_bPhotoPhone) {
         m_session.Show(kTextNoPhotoPhone, kTitleNotice);
-        return;
+        return EndSend();
     }
-    if (!m_session.CheckPhone()) return;
+    if (!m_session.CheckPhone()) return EndSend();
     CheckSendFiles();
-    if (!m_bSendReady) return EndSend();
+    if (m_bSendReady) SendChecked();
+    EndSend();
+}
+
+void CPhoneLink::SendChecked() {
     const int nEnd = RunLink(ELinkTask::PrepareSend, [&](CRunningPicture& picture) -> std::optional<int> {
         return DoSendPrepare(m_session, picture, PlanSend());
     });
@@ -37,7 +41,6 @@ void CPhoneLink::OnSend() {
     }
     const bool bGoesOn = nEnd == CPhoneSession::kEndDone || nEnd == CPhoneSession::kEndResize;
     if (bGoesOn && (nEnd == CPhoneSession::kEndDone || ChooseSize())) Transfer();
-    EndSend();
 }
 
 CSendPlan CPhoneLink::PlanSend() const {
@@ -85,9 +88,8 @@ void CPhoneLink::RunTransfer() {
             return;
         }
     }
-    CTransferDlg dialog(EDirection::Send, m_session, [&](CTransferDlg& transfer) {
-        return DoSendFiles(m_session, transfer, send);
-    });
+    CTransferDlg dialog(EDirection::Send, m_session,
+                        [&](CTransferDlg& transfer) { return DoSendFiles(m_session, transfer, send); });
     m_session.Env().modals.Run(dialog);
 }
 

@@ -1,6 +1,6 @@
 #include "link/SendFiles.h"
 
-#include <optional>
+#include <algorithm>
 #include <span>
 
 #include "engines/pack/PhoneJpeg.h"
@@ -32,9 +32,8 @@ class CSender {
 
   private:
     bool SendPicture() {
-        return SendOne(m_send.image.Pixels(), m_send.strName, [&] {
-            m_session.ReportLinkError(LINK_PHONE_FULL);
-        });
+        return SendOne(m_send.image.Pixels(), m_send.strName,
+                       [&] { m_session.ReportLinkError(LINK_PHONE_FULL); });
     }
 
     bool SendList() {
@@ -73,7 +72,8 @@ class CSender {
             return Stop([&] { m_session.Show(kTextNoMemory, kTextProgram, EBoxIcon::Exclamation); });
         const bool bWritten = m_temporary.Write(m_packed);
         std::uint32_t nFree = 0;
-        if (const int nCode = m_session.Calls().GetAvailableMemory(nFree); nCode != LINK_OK) return Fail(nCode);
+        if (const int nCode = m_session.Calls().GetAvailableMemory(nFree); nCode != LINK_OK)
+            return Fail(nCode);
         if (!bWritten) return Stop([&] { m_session.Show(kTextFileOpenFailed, kTitleFileOpenFailed); });
         if (m_packed.size() > nFree) return Stop(tellFull);
         const int nCode = m_session.Calls().Transfer(m_session.State(), m_temporary.Path(), strName);
@@ -86,16 +86,25 @@ class CSender {
         CxImage thumb;
         if (!MakeThumb(pixels, thumb)) return false;
         m_picture.clear();
-        m_thumb.clear();
-        return EncodeJpeg(pixels, {}, m_picture) && EncodeJpeg(thumb.Pixels(), {}, m_thumb) &&
+        return EncodeJpeg(pixels, {}, m_picture) && EncodeThumb(thumb) &&
                PackPhoneJpeg(m_picture, m_thumb, m_packed);
+    }
+
+    // A thumbnail that does not go into its segment, as a phone of odd sizes may want it, is made smaller.
+    bool EncodeThumb(CxImage& thumb) {
+        for (;;) {
+            m_thumb.clear();
+            if (!EncodeJpeg(thumb.Pixels(), {}, m_thumb)) return false;
+            if (m_thumb.size() <= kMostThumbBytes) return true;
+            if (!thumb.Resample(std::max(1, thumb.GetWidth() / 2), std::max(1, thumb.GetHeight() / 2)))
+                return false;
+        }
     }
 
     bool MakeThumb(const CPixels& pixels, CxImage& thumb) const {
         const CPhoneState& state = m_session.State();
         const CSize sizeBox = ThumbBox({state.m_nThumbWidth, state.m_nThumbHeight});
-        const CThumbPlan plan =
-            PlanThumb({pixels.Width(), pixels.Height()}, sizeBox, state.m_arrPhoneSizes);
+        const CThumbPlan plan = PlanThumb({pixels.Width(), pixels.Height()}, sizeBox, state.m_arrPhoneSizes);
         if (!thumb.CreateFromHBITMAP(pixels)) return false;
         if (plan.bTwoStages && !thumb.Resample(kLargeThumb.cx, kLargeThumb.cy)) return false;
         return thumb.Resample(plan.size.cx, plan.size.cy);

@@ -52,7 +52,6 @@ class CTaker {
         const std::optional<std::string> strTarget = ChooseTarget(TitleOf(item.m_strFileName));
         if (!strTarget) return std::nullopt;
         const int nCode = m_session.Calls().GetFile(m_session.State(), item.m_nFileId, *strTarget);
-        FollowFolder();
         if (nCode == LINK_OK) return std::nullopt;
         if (nCode == LINK_FILE_FAILED) {
             m_strFailed.append("\n").append(item.m_strFileName);
@@ -74,20 +73,25 @@ class CTaker {
     // the user passes the file over.
     std::optional<std::string> ChooseTarget(const std::string& strTitle) {
         const std::string strTarget = m_take.strSaveFolder + strTitle + ".jpg";
+        // A link that leads nowhere has the name too, and would be followed.
         std::error_code error;
-        if (!IsForbidden(strTitle) && !std::filesystem::exists(strTarget, error)) return strTarget;
+        if (!IsForbidden(strTitle) && !exists(std::filesystem::symlink_status(strTarget, error)))
+            return strTarget;
         const CIdleTraffic traffic(m_session.Calls());
         const auto choice = m_session.Env().files.RunSave({kFilterTake, strTarget});
         if (!choice) return std::nullopt;
+        FollowFolder();
         const bool bNamed = choice->strName.find('.') != std::string::npos;
         return bNamed ? choice->strPath : choice->strPath + ".jpg";
     }
 
-    // The folder that the user has chosen takes the following files too.
+    // The folder that the user has chosen takes the following files too. It may be the same one under another
+    // name.
     void FollowFolder() {
         const CFolders& folders = m_session.Env().folders;
         m_take.strSaveFolder = Closed(folders.CurrentFolder(), folders.Separator());
-        m_take.bFolderMoved = m_take.strSaveFolder != m_strStart;
+        std::error_code error;
+        m_take.bFolderMoved = !std::filesystem::equivalent(m_take.strSaveFolder, m_strStart, error);
     }
 
     void TellEnd() {

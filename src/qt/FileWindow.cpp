@@ -95,6 +95,11 @@ bool CFileWindow::AskReplace(const std::string& strPath) {
                                    EBoxIcon::Exclamation, EBoxButtons::YesNo}) == EBoxAnswer::Yes;
 }
 
+void CFileWindow::TellNoFolder(const std::filesystem::path& folder) {
+    CQtMessageBoxes{}.Show({folder.string() + "\n没有这个文件夹。请检查路径后再试。", FromQt(windowTitle()),
+                            EBoxIcon::Exclamation, EBoxButtons::Ok});
+}
+
 void CFileWindow::accept() {
     if (acceptMode() == AcceptSave) {
         const std::string strPath = ChosenPath();
@@ -102,6 +107,8 @@ void CFileWindow::accept() {
         const auto status = std::filesystem::status(strPath, error);
         const bool bFile = std::filesystem::exists(status) && !std::filesystem::is_directory(status);
         if (bFile && !AskReplace(strPath)) return;
+        const std::filesystem::path folder = std::filesystem::path(strPath).parent_path();
+        if (!strPath.empty() && !std::filesystem::is_directory(folder, error)) return TellNoFolder(folder);
     }
     QFileDialog::accept();
 }

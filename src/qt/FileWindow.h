@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QLabel>
+#include <filesystem>
 #include <string>
 
 #include "qt/FileDateDelegate.h"
@@ -28,6 +29,7 @@ class CFileWindow : public QFileDialog {
     void SetUpUnlisted();
     void FillUnlisted();
     bool AskReplace(const std::string& strPath);
+    void TellNoFolder(const std::filesystem::path& folder);
 
     CFileDateDelegate m_dates;
     QLabel m_labelUnlisted;

@@ -72,8 +72,7 @@ std::int32_t SendDummy() {
 
 void StopDummy() {}
 
-std::int32_t FileList(unsigned char, std::int32_t, std::int32_t* pCount, const char* szFolder,
-                      std::int32_t) {
+std::int32_t FileList(unsigned char, std::int32_t, std::int32_t* pCount, const char* szFolder, std::int32_t) {
     const CFakePhone& phone = CFakePhone::Now();
     CFILESet files;
     files.m_strFileName = std::string(szFolder) + "/FILE.Dat";
@@ -102,8 +101,7 @@ std::int32_t Total(std::int32_t nClass, std::int32_t* pCount) {
 std::int32_t Transfer(std::int32_t, const char* szPath, const char* szName, std::int32_t) {
     const std::int32_t nCode = CFakePhone::Now().CodeOf("TransferFileToPhone");
     std::ifstream file(szPath, std::ios::binary);
-    if (nCode == LINK_OK)
-        CFakePhone::Now().mapSent[szName] = {std::istreambuf_iterator<char>(file), {}};
+    if (nCode == LINK_OK) CFakePhone::Now().mapSent[szName] = {std::istreambuf_iterator<char>(file), {}};
     return nCode;
 }
 

@@ -82,6 +82,14 @@ TEST_F(SendTest, WhatCannotGoIsToldBeforeAnythingGoes) {
         EXPECT_EQ(Boxes(), row.szBox);
         EXPECT_EQ(Calls(), "GetPhoneInfo ");
     }
+    // A send that does not begin forgets the press too.
+    ClickFile("b.jpg");
+    Phone().mapCodes["GetPhoneInfo"] = LINK_PHONE_FULL;
+    Click(kCmdSend);
+    Phone().mapCodes.clear();
+    Boxes();
+    Click(kCmdSend);
+    EXPECT_EQ(Boxes(), "请选择要下载的照片|");
     // With the table rising only its first size counts, and the largest is named.
     Phone().arrSizes = {{176, 144}, {640, 480}};
     ++Phone().nIdentity;
@@ -185,7 +193,8 @@ TEST_F(SendTest, ThePictureInTheEditorGoesInASizeOfThePhone) {
     GoTo(EMode::Stick);
     Click(kRadioPhoneSize);
     Click(kCmdSend);
-    EXPECT_EQ(Boxes().find("变更为手机最小化") != std::string::npos, true) << "and the larger one is asked about";
+    EXPECT_EQ(Boxes().find("变更为手机最小化") != std::string::npos, true)
+        << "and the larger one is asked about";
     m_platform.TakeProblems();
 }
 

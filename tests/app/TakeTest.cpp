@@ -7,10 +7,11 @@ namespace {
 class TakeTest : public PhoneWorkshop {
   protected:
     TakeTest() {
-        Phone().arrFiles = {{.m_nFileId = 30, .m_nFileSize = 900, .m_strFileName = "cam/Beta"},
-                            {.m_nFileId = 10, .m_nFileSize = 20, .m_nFileMemory = 1, .m_strFileName = "alpha"},
-                            {.m_nFileId = 20, .m_nFileSize = 900, .m_strFileName = "花"},
-                            {.m_nFileId = 40, .m_nFileSize = 5, .m_bFileClosed = 1, .m_strFileName = "shut"}};
+        Phone().arrFiles = {
+            {.m_nFileId = 30, .m_nFileSize = 900, .m_strFileName = "cam/Beta"},
+            {.m_nFileId = 10, .m_nFileSize = 20, .m_nFileMemory = 1, .m_strFileName = "alpha"},
+            {.m_nFileId = 20, .m_nFileSize = 900, .m_strFileName = "花"},
+            {.m_nFileId = 40, .m_nFileSize = 5, .m_bFileClosed = 1, .m_strFileName = "shut"}};
         for (std::size_t i = 0; i < Phone().arrFiles.size(); ++i)
             Phone().arrFiles[i].m_nFileNo = static_cast<int>(i);
     }
@@ -62,15 +63,15 @@ TEST_F(TakeTest, TheListCountsClosesAndSorts) {
         std::vector<std::string> arrSteps;
         const char* szTaken;
     } const kCases[] = {
-        {{"all", "ok"}, "30 10 20 "},                          // a closed file never goes
+        {{"all", "ok"}, "30 10 20 "},  // a closed file never goes
         {{"all", "none", "tick 2", "ok"}, "20 "},
-        {{"sort 0", "all", "ok"}, "30 20 10 "},                // the number's column again: downward
+        {{"sort 0", "all", "ok"}, "30 20 10 "},  // the number's column again: downward
         {{"sort 0", "sort 0", "all", "ok"}, "10 20 30 "},
-        {{"sort 1", "all", "ok"}, "10 30 20 "},                // letters upward, others behind them
+        {{"sort 1", "all", "ok"}, "10 30 20 "},  // letters upward, others behind them
         {{"sort 1", "sort 1", "all", "ok"}, "20 30 10 "},
-        {{"sort 2", "all", "ok"}, "10 30 20 "},                // of equal size as they stood
+        {{"sort 2", "all", "ok"}, "10 30 20 "},  // of equal size as they stood
         {{"sort 2", "sort 2", "all", "ok"}, "30 20 10 "},
-        {{"tick 0", "sort 2", "ok"}, "30 "},                   // ticks go along
+        {{"tick 0", "sort 2", "ok"}, "30 "},  // ticks go along
     };
     for (const auto& row : kCases) {
         SCOPED_TRACE(testing::PrintToString(row.arrSteps));
@@ -89,8 +90,9 @@ TEST_F(TakeTest, WhatIsThereOrHasNoGoodNameIsAskedAbout) {
     Connect();
     m_folder.Write("start/other/mine", "");
     m_folder.Write(std::string("start/") + CFolderTree::kStartFolder + "/Beta.jpg", "old");
-    m_platform.AnswerSave(Start("inside/taken"));  // for Beta, which is there; the others follow into its folder
-    m_platform.AnswerCancel();                     // for what?, which is passed over
+    m_platform.AnswerSave(
+        Start("inside/taken"));  // for Beta, which is there; the others follow into its folder
+    m_platform.AnswerCancel();   // for what?, which is passed over
     AnswerFiles({"tick 0", "tick 1", "tick 2", "ok"});
     std::swap(const_cast<std::vector<CAnswer>&>(m_platform.WaitingAnswers())[1],
               const_cast<std::vector<CAnswer>&>(m_platform.WaitingAnswers())[2]);
@@ -103,6 +105,29 @@ TEST_F(TakeTest, WhatIsThereOrHasNoGoodNameIsAskedAbout) {
     EXPECT_EQ(m_dialog.Thum().List().Path(), Start("inside/")) << "tree and list follow";
     EXPECT_EQ(m_dialog.Thum().Tree().CurrentPath(), Start("inside/"));
     EXPECT_NE(m_host.FindIcon(kFileList, "taken.jpg"), -1);
+}
+
+// The process may stand anywhere; the folder may have another name; nothing is written through a link.
+TEST_F(TakeTest, TheFolderStaysUnlessTheUserMovesIt) {
+    std::filesystem::create_directories(m_folder.Path("far/photos/deep"));
+    std::filesystem::create_directory_symlink(m_folder.Path("far/photos"), m_folder.Path("link"));
+    std::filesystem::create_symlink(m_folder.Path("outside.jpg"), m_folder.Path("far/photos/alpha.jpg"));
+    m_platform.AddDrive('C', m_folder.Path("link"));
+    m_dialog.Thum().Build();
+    Connect();
+    auto& tree = m_dialog.Thum().Tree();
+    tree.Model().Select(tree.Model().Children(tree.Model().Children(0).front()).front());
+    ASSERT_EQ(tree.CurrentPath(), m_folder.Path("link") + "/");
+    std::filesystem::current_path(m_folder.Path("far"));
+    m_platform.AnswerCancel();
+    AnswerFiles({"tick 1", "tick 2", "ok"});
+    std::swap(const_cast<std::vector<CAnswer>&>(m_platform.WaitingAnswers())[0],
+              const_cast<std::vector<CAnswer>&>(m_platform.WaitingAnswers())[1]);
+    Click(kCmdTake);
+    EXPECT_FALSE(Is(m_folder.Path("outside.jpg")));
+    EXPECT_TRUE(Is(m_folder.Path("far/photos/花.jpg")));
+    EXPECT_EQ(m_dialog.Thum().List().Path(), m_folder.Path("link") + "/");
+    Boxes();
 }
 
 TEST_F(TakeTest, FailedFilesAreToldAtTheEndAndTheCardAsksAnew) {
@@ -132,6 +157,14 @@ TEST_F(TakeTest, FailedFilesAreToldAtTheEndAndTheCardAsksAnew) {
     EXPECT_EQ(Calls(),
               "GetPhoneInfo ChangeUSBStream IsConnected ConnectToPhone GetFileInfoListfromPhone "
               "SendDummyPacket StopDummyPacket GetFilefromPhone StopDummyPacket DisconnectToPhone ");
+    // A phone that is gone by then leaves no line open.
+    m_platform.Answer(EBoxAnswer::Ok);
+    Phone().fnCode = [](const std::string& strCall) -> std::int32_t {
+        if (strCall == "GetFilefromPhone") CFakePhone::Now().mapCodes["GetPhoneInfo"] = LINK_PHONE_FULL;
+        return LINK_OK;
+    };
+    Take({"tick 2", "ok"});
+    EXPECT_TRUE(Calls().ends_with("GetFilefromPhone GetPhoneInfo DisconnectToPhone "));
     Boxes();
 }
 
@@ -142,9 +175,8 @@ TEST_F(TakeTest, TheCardIsWatchedWhileTheListStands) {
     EXPECT_EQ(Calls(),
               "GetPhoneInfo ChangeUSBStream IsConnected ConnectToPhone GetFileInfoListfromPhone "
               "GetSDCardStatus GetSDCardStatus DisconnectToPhone ");
-    for (const auto& [nCode, szBox] : {std::pair{16, "外存卡脱落/装载|"},
-                                       {21, "전화가 왔습니다. 자료교환을 중단합니다.|"},
-                                       {19, ""}}) {
+    for (const auto& [nCode, szBox] :
+         {std::pair{16, "外存卡脱落/装载|"}, {21, "전화가 왔습니다. 자료교환을 중단합니다.|"}, {19, ""}}) {
         Phone().mapCodes["GetSDCardStatus"] = nCode;
         Connect();
         Take({"wait 20000"});

@@ -179,9 +179,10 @@ TEST_F(FileDialogs, SaveAsksBeforeItReplaces) {
         bool bYes;
         std::string strName;  // empty: not chosen
     };
-    for (const CCase& one : {CCase{"new.jpg", 0, false, "new.jpg"}, CCase{"new", 0, false, "new.jpg"},
-                             CCase{"a", 1, true, "a.jpg"}, CCase{"a.jpg", 1, false, ""},
-                             CCase{"c.png", 1, true, "c.png"}, CCase{"x.y", 0, false, "x.y"}}) {
+    for (const CCase& one :
+         {CCase{"new.jpg", 0, false, "new.jpg"}, CCase{"new", 0, false, "new.jpg"},
+          CCase{"a", 1, true, "a.jpg"}, CCase{"a.jpg", 1, false, ""}, CCase{"c.png", 1, true, "c.png"},
+          CCase{"x.y", 0, false, "x.y"}, CCase{"no folder/x", 1, false, ""}}) {
         int nAsked = 0;
         Later([&] {
             Type(one.szTyped);
@@ -189,7 +190,8 @@ TEST_F(FileDialogs, SaveAsksBeforeItReplaces) {
                 auto* pBox = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
                 if (pBox == nullptr) return;
                 ++nAsked;
-                pBox->button(one.bYes ? QMessageBox::Yes : QMessageBox::No)->click();
+                QAbstractButton* pAnswer = pBox->button(one.bYes ? QMessageBox::Yes : QMessageBox::No);
+                (pAnswer != nullptr ? pAnswer : pBox->button(QMessageBox::Ok))->click();
             });
             QFileDialog& window = Window();
             Accept();

@@ -10,13 +10,13 @@
 // What the small window with the running picture does.
 enum class ELinkTask { Connect, PrepareTake, PrepareSend, WaitForRestart };
 
-// The window with the running picture. It carries all blocking work of connecting and of preparing a take or a
-// send, which comes a moment behind the picture's first step so that it can be seen; and it waits for a phone
-// that restarts. It has no button: the close box does nothing, and Esc ends only the wait.
+// The window with the running picture. It carries all blocking work of connecting and of preparing a take or
+// a send, which comes a moment behind the picture's first step so that it can be seen; and it waits for a
+// phone that restarts. It has no button: the close box does nothing, and Esc ends only the wait.
 class CLinkDlg : public CDialog, private CRunningPicture {
   public:
-    // Does the work of a task. The code with which the dialog ends, or nothing where the picture runs on to its
-    // end.
+    // Does the work of a task. The code with which the dialog ends, or nothing where the picture runs on to
+    // its end.
     using CWork = std::function<std::optional<int>(CRunningPicture& picture)>;
 
     // The session outlives the dialog. WaitForRestart needs no work.
@@ -44,6 +44,7 @@ class CLinkDlg : public CDialog, private CRunningPicture {
     ELinkTask m_nLinkTask;
     CPhoneSession& m_session;
     CWork m_work;
+    CPictureStep m_step;
     std::optional<CWaitScope> m_wait;
     int m_nFrame = 0;
     // The picture's last step when a phone has been recognised.

@@ -26,7 +26,7 @@ CTourCheck Rows(const QStringList& arrNumbers, const std::vector<int>& arrTicked
 void AddRows(CSteps& steps) {
     steps.push_back(
         Press("phone-files", "Take: the phone's files, one of them closed", kCmdTake, [](CPerson& person) {
-            const QString strRows = Rows({"1", "2", "3", "4"}, {})(person);
+            QString strRows = Rows({"1", "2", "3", "4"}, {})(person);
             if (!strRows.isEmpty()) return strRows;
             if (person.RowTexts(kPhoneFiles, 2)[2] != kTextClosedFile)
                 return QStringLiteral("none is closed");

@@ -53,7 +53,10 @@ QImage GrabScreen() {
 }
 
 QImage LookAtScreen() {
-    return Compose([](QWidget& window) { return window.screen()->grabWindow(window.winId()); });
+    // With its size told: on a dense screen a part would come else.
+    return Compose([](QWidget& window) {
+        return window.screen()->grabWindow(window.winId(), 0, 0, window.width(), window.height());
+    });
 }
 
 int CountColors(const QImage& image, int nLimit) {

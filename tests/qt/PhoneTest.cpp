@@ -25,7 +25,7 @@ class Waiting : public testing::Test {
     // Inside a handler, with no event between: the screen has all of the window's present look.
     static QImage Look(const char* szWhen) {
         QWidget& window = *QApplication::activeModalWidget();
-        const QImage screen = window.screen()->grabWindow(window.winId()).toImage();
+        QImage screen = window.screen()->grabWindow(window.winId()).toImage();
         EXPECT_EQ(screen.convertToFormat(QImage::Format_RGB32), Repainted(window)) << szWhen;
         return screen;
     }

@@ -140,13 +140,13 @@ TEST_F(Waiting, TheGroundIsNeverSeenAlone) {
 }
 
 TEST_F(PhoneWindow, ADragOntoAKeyKeepsWhatIsSelected) {
-    Click(kCmdConnect);
-    ASSERT_TRUE(Widget(kCmdSend).isEnabled());
-    QApplication::setActiveWindow(&m_view);
-    Settle();
     Tap(m_view, Item(0));
     QTest::mouseClick(m_view.windowHandle(), Qt::LeftButton, Qt::ControlModifier, Item(2));
-    for (const int nKey : {kCmdOpen, kCmdNew, kCmdSend}) {
+    for (const int nKey : {kCmdOpen, kCmdNew, kCmdConnect, kCmdSend}) {
+        if (nKey == kCmdSend) Click(kCmdConnect);
+        // A window system does that by itself behind a dialog.
+        QApplication::setActiveWindow(&m_view);
+        ASSERT_TRUE(Widget(nKey).isEnabled());
         DragOnto(2, nKey);
         EXPECT_EQ(Selected(), (std::vector{0, 2})) << nKey;
         EXPECT_EQ(m_dialog.Controls().Focus(), kFileList) << nKey;

@@ -53,9 +53,10 @@ QImage GrabScreen() {
 }
 
 QImage LookAtScreen() {
-    // With its size told: on a dense screen a part would come else.
     return Compose([](QWidget& window) {
-        return window.screen()->grabWindow(window.winId(), 0, 0, window.width(), window.height());
+        const QPixmap pixmap = window.screen()->grabWindow(window.winId());
+        // Of a dense window the invisible screen gives a part only.
+        return pixmap.deviceIndependentSize() == window.size() ? pixmap : window.grab();
     });
 }
 

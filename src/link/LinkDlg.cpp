@@ -26,10 +26,19 @@ int WorkTimer(ELinkTask task) {
     return task == ELinkTask::PrepareTake ? kTimerTake : kTimerSend;
 }
 
+int FirstStrip(ELinkTask task) {
+    if (task == ELinkTask::Connect) return 0;
+    return task == ELinkTask::WaitForRestart ? kBmpStripRestart : kBmpStripConnect;
+}
+
 }  // namespace
 
 CLinkDlg::CLinkDlg(ELinkTask task, CPhoneSession& session, CWork work)
-    : CDialog(kLinkDialog), m_nLinkTask(task), m_session(session), m_work(std::move(work)) {}
+    : CDialog(kLinkDialog),
+      m_nLinkTask(task),
+      m_session(session),
+      m_work(std::move(work)),
+      m_step{kBmpConnectFrame, FirstStrip(task)} {}
 
 CLinkDlg::~CLinkDlg() {
     for (int nTimer = kTimerConnect; nTimer <= kTimerSend; ++nTimer) KillTimer(nTimer);
@@ -80,11 +89,12 @@ void CLinkDlg::OnTimer(int nTimer) {
 
 void CLinkDlg::OnPaint(CClientArea& client) {
     client.DrawBitmap(kBmpLink, 0, 0);
+    m_step.Draw(client);
 }
 
 void CLinkDlg::DrawStep(int nFrame, int nStrip) {
-    Client().DrawBitmap(kBmpConnectFrame + nFrame % kConnectFrames, kLinkFrameAt.x, kLinkFrameAt.y);
-    if (nStrip != 0) Client().DrawBitmap(nStrip, kLinkStripAt.x, kLinkStripAt.y);
+    m_step = {kBmpConnectFrame + nFrame % kConnectFrames, nStrip};
+    m_step.Draw(Client());
     Present();
 }
 
@@ -104,6 +114,7 @@ void CLinkDlg::RunPicture() {
 }
 
 void CLinkDlg::RunWork() {
+    ShowNow();
     const std::optional<int> nEnd = m_work(*this);
     if (!nEnd) {
         m_nFrameEnd = kKnownPhoneSteps;
@@ -117,6 +128,8 @@ void CLinkDlg::RunWork() {
 
 void CLinkDlg::PollRestart() {
     DrawStep(m_bGone ? 1 : 0, kBmpStripRestart);
+    // A phone that is silent keeps the thread for seconds.
+    ShowNow();
     // Whose answer it is does not matter.
     std::uint32_t nIdentity = 0;
     const bool bAnswers = m_session.Calls().GetPhoneInfo(m_session.State(), nIdentity) == LINK_OK;

@@ -44,6 +44,7 @@ class CLinkDlg : public CDialog, private CRunningPicture {
     ELinkTask m_nLinkTask;
     CPhoneSession& m_session;
     CWork m_work;
+    CPictureStep m_step;
     std::optional<CWaitScope> m_wait;
     int m_nFrame = 0;
     // The picture's last step when a phone has been recognised.

@@ -28,7 +28,11 @@ const CTransferDlg::CLook& CTransferDlg::Look() const {
 }
 
 CTransferDlg::CTransferDlg(EDirection direction, CPhoneSession& session, CWork work)
-    : CDialog(kTransferDialog), m_direction(direction), m_session(session), m_work(std::move(work)) {}
+    : CDialog(kTransferDialog),
+      m_direction(direction),
+      m_session(session),
+      m_work(std::move(work)),
+      m_step{Look().nFirstFrame + 1, Look().nStrip} {}
 
 CTransferDlg::~CTransferDlg() {
     StopPicture();
@@ -45,6 +49,7 @@ void CTransferDlg::OnTimer(int nTimer) {
     m_session.Env().timers.KillTimer(*this, nTimer);
     if (HasEnded()) return;
     if (nTimer == Look().nTimerPicture) return RunPicture();
+    ShowNow();
     const int nEnd = m_work(*this);
     StopPicture();
     EndDialog(nEnd);
@@ -54,13 +59,18 @@ void CTransferDlg::OnTimer(int nTimer) {
 
 void CTransferDlg::OnPaint(CClientArea& client) {
     client.DrawBitmap(kBmpTransfer, 0, 0);
+    m_step.Draw(client);
+}
+
+void CTransferDlg::DrawStep() {
+    m_step.Draw(Client());
+    Present();
 }
 
 void CTransferDlg::RunPicture() {
     ++m_nFrame;
-    Client().DrawBitmap(Look().nFirstFrame + m_nFrame % kTransferFrames, kLinkFrameAt.x, kLinkFrameAt.y);
-    Client().DrawBitmap(Look().nStrip, kLinkStripAt.x, kLinkStripAt.y);
-    Present();
+    m_step.nFrame = Look().nFirstFrame + m_nFrame % kTransferFrames;
+    DrawStep();
     m_session.Env().timers.SetTimer(*this, Look().nTimerPicture, kStepPeriod);
 }
 
@@ -74,7 +84,8 @@ void CTransferDlg::TellProgress(int nFile, int nFiles) {
 }
 
 void CTransferDlg::ShowDone() {
-    Client().DrawBitmap(Look().nStripDone, kLinkStripAt.x, kLinkStripAt.y);
+    m_step.nStrip = Look().nStripDone;
+    DrawStep();
     StopPicture();
     ShowNow();
 }

@@ -37,10 +37,12 @@ class CTransferDlg : public CDialog, public CRunningPicture {
   private:
     struct CLook;
     const CLook& Look() const;
+    void DrawStep();
     void RunPicture();
 
     EDirection m_direction;
     CPhoneSession& m_session;
     CWork m_work;
+    CPictureStep m_step;
     int m_nFrame = 0;
 };

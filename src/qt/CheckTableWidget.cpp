@@ -95,6 +95,8 @@ void CCheckTableWidget::SetUpLook() {
     int nColumn = 0;
     for (const CTableColumn& column : m_context.control.look.arrColumns)
         setColumnWidth(nColumn++, column.nWidth);
+    // The last one ends where the table does, so that its texts stand in the middle of what is seen of it.
+    titles.setStretchLastSection(true);
 }
 
 // --- from the dialog ---

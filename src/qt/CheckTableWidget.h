@@ -16,7 +16,7 @@ class CCheckTableDelegate : public QStyledItemDelegate {
 };
 
 // Rows of texts in columns below their titles, each with a box to tick. The dialog's table is what counts:
-// the view shows it and tells the hand. What the columns have beyond the right edge is cut off.
+// the view shows it and tells the hand. The last column takes the room that the others leave.
 class CCheckTableWidget : public QTableView, public CControlWidget, private CCheckTableObserver {
   public:
     explicit CCheckTableWidget(const CControlContext& context);

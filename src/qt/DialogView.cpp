@@ -105,7 +105,7 @@ void CDialogView::Prepare() {
     if (frame == EDialogFrame::Caption) {
         move(rcScreen.topLeft());
     } else {
-        const QWidget* pAbove = frame == EDialogFrame::Plain ? parentWidget() : nullptr;
+        const QWidget* pAbove = parentWidget();
         const QRect rcAround = pAbove != nullptr ? pAbove->window()->geometry() : rcScreen;
         move(rcAround.center() - rect().center());
     }

@@ -140,7 +140,8 @@ void CIconListWidget::mouseMoveEvent(QMouseEvent* pEvent) {
 
 void CIconListWidget::mouseReleaseEvent(QMouseEvent* pEvent) {
     if (pEvent->button() != Qt::LeftButton) return;
-    QListView::mouseReleaseEvent(pEvent);
+    // The end of a drag leaves what is selected as it is; Qt would take it for a click beside all items.
+    if (!m_hand.IsDragging()) QListView::mouseReleaseEvent(pEvent);
     m_hand.OnRelease(ItemAt(pEvent->pos()), viewport()->rect().contains(pEvent->pos()), IsFar(pEvent->pos()));
 }
 

@@ -71,7 +71,9 @@ constexpr CControlLookRow kPhoneFileLooks[] = {
 };
 
 constexpr CControlTemplate kPhoneSizeControls[] = {
-    {kPhoneSizePicture, EControlKind::BitmapButton, CRect::FromPlace(7, 20, 117, 24), "PHONEIMAGE"},
+    // A part of the ground that only looks like a key: there is no other page here.
+    {kPhoneSizePicture, EControlKind::BitmapButton, CRect::FromPlace(7, 20, 117, 24), "PHONEIMAGE", true,
+     false},
     {kPhoneSizes, EControlKind::Combo, CRect::FromPlace(66, 96, 154, 24)},
     {kPhoneSizeOk, EControlKind::BitmapButton, CRect::FromPlace(278, 69, 86, 24), "SIZEOK"},
     {kPhoneSizeCancel, EControlKind::BitmapButton, CRect::FromPlace(278, 110, 86, 24), "SIZECANCEL"},

@@ -5,6 +5,8 @@
 #include <QPoint>
 #include <QString>
 #include <QStringList>
+#include <optional>
+#include <vector>
 
 class CDialogView;
 class QAbstractItemView;
@@ -56,6 +58,17 @@ class CPerson {
     // In a list of pictures, which is scrolled to the item.
     void ClickPicture(int nId, int nItem);
 
+    // In a list or a table of the dialog on top, by rows as they stand now.
+    void ClickRow(int nId, int nRow, Qt::MouseButton button = Qt::LeftButton);
+    void TickRow(int nId, int nRow);  // the box before it
+    QStringList RowTexts(int nId, int nColumn) const;
+    std::vector<int> TickedRows(int nId) const;
+    int Selected(int nId) const;  // the row that is chosen; -1 if none is
+    // A key where the focus of the dialog on top stands.
+    void KeyInDialog(Qt::Key key);
+    // The item of the menu that is up.
+    void ChooseInMenu(const QString& strText);
+
     // In a line of text of the dialog on top: what stands there is replaced.
     void TypeOver(int nId, const QString& strText);
     QString TypedIn(int nId) const;
@@ -84,6 +97,7 @@ class CPerson {
     QModelIndex ListItem(const QString& strName) const;
     // The middle of a row of one of them, brought into view; a fault if there is none.
     QPoint Aim(QAbstractItemView* pView, const QModelIndex& index, const QString& strName);
+    void ClickRowAt(int nId, int nRow, std::optional<int> x, Qt::MouseButton button);
     QListView* List() const;
     QTreeView* Tree() const;
 

@@ -1,8 +1,10 @@
 // How the person deals with the folder tree, the list of photographs and lines of text.
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTest>
 #include <QTreeView>
@@ -11,6 +13,7 @@
 #include "qt/DialogView.h"
 #include "resources/Ids.h"
 #include "tour/Person.h"
+#include "window/CheckTableHand.h"
 
 namespace {
 
@@ -129,6 +132,60 @@ void CPerson::ClickPicture(int nId, int nItem) {
     const QModelIndex index = pList == nullptr ? QModelIndex() : pList->model()->index(nItem, 0);
     const QPoint pt = Aim(pList, index, QStringLiteral("picture %1 of list %2").arg(nItem).arg(nId));
     if (m_strFault.isEmpty()) QTest::mouseClick(pList->viewport(), Qt::LeftButton, Qt::NoModifier, pt);
+}
+
+void CPerson::ClickRowAt(int nId, int nRow, std::optional<int> x, Qt::MouseButton button) {
+    auto* pView = qobject_cast<QAbstractItemView*>(Widget(nId));
+    const QModelIndex index = pView == nullptr ? QModelIndex() : pView->model()->index(nRow, 0);
+    QPoint pt = Aim(pView, index, QStringLiteral("row %1 of list %2").arg(nRow).arg(nId));
+    if (!m_strFault.isEmpty()) return;
+    if (x) pt.setX(*x);
+    // A menu comes up where the pointer is.
+    QTest::mouseMove(pView->viewport(), pt);
+    QTest::mouseClick(pView->viewport(), button, Qt::NoModifier, pt);
+}
+
+void CPerson::ClickRow(int nId, int nRow, Qt::MouseButton button) {
+    ClickRowAt(nId, nRow, std::nullopt, button);
+}
+
+void CPerson::TickRow(int nId, int nRow) {
+    ClickRowAt(nId, nRow, CCheckTableHand::kBoxLeft + CCheckTableHand::kBoxPixels / 2, Qt::LeftButton);
+}
+
+QStringList CPerson::RowTexts(int nId, int nColumn) const {
+    QStringList arrTexts;
+    const auto* pView = qobject_cast<QAbstractItemView*>(Widget(nId));
+    for (int nRow = 0; pView != nullptr && nRow < pView->model()->rowCount(); ++nRow)
+        arrTexts.append(pView->model()->index(nRow, nColumn).data().toString());
+    return arrTexts;
+}
+
+std::vector<int> CPerson::TickedRows(int nId) const {
+    std::vector<int> arrRows;
+    const auto* pView = qobject_cast<QAbstractItemView*>(Widget(nId));
+    for (int nRow = 0; pView != nullptr && nRow < pView->model()->rowCount(); ++nRow)
+        if (pView->model()->index(nRow, 0).data(Qt::CheckStateRole) == Qt::Checked) arrRows.push_back(nRow);
+    return arrRows;
+}
+
+int CPerson::Selected(int nId) const {
+    return TopDialog() == nullptr ? -1 : TopDialog()->Dialog().Controls().Selection(nId);
+}
+
+void CPerson::KeyInDialog(Qt::Key key) {
+    QWidget* pFocus = TopDialog() == nullptr ? nullptr : TopDialog()->focusWidget();
+    if (pFocus != nullptr) QTest::keyClick(pFocus, key);
+}
+
+void CPerson::ChooseInMenu(const QString& strText) {
+    auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    const QList<QAction*> arrActions = pMenu == nullptr ? QList<QAction*>() : pMenu->actions();
+    for (QAction* pAction : arrActions)
+        if (pAction->text() == strText)
+            return QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier,
+                                     pMenu->actionGeometry(pAction).center());
+    m_strFault = QStringLiteral("no menu with %1 is up").arg(strText);
 }
 
 void CPerson::TypeOver(int nId, const QString& strText) {

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QScreen>
 #include <QWidget>
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <unordered_set>
 #include <vector>
 
@@ -29,9 +31,7 @@ std::vector<QWidget*> VisibleWindows() {
     return arrWindows;
 }
 
-}  // namespace
-
-QImage GrabScreen() {
+QImage Compose(const std::function<QPixmap(QWidget&)>& fnLook) {
     const std::vector<QWidget*> arrWindows = VisibleWindows();
     QRect rcAll;
     for (const QWidget* pWindow : arrWindows) rcAll = rcAll.united(pWindow->geometry());
@@ -42,8 +42,22 @@ QImage GrabScreen() {
     image.fill(kDesktop);
     QPainter painter(&image);
     for (QWidget* pWindow : arrWindows)
-        painter.drawPixmap(pWindow->geometry().topLeft() - rcAll.topLeft(), pWindow->grab());
+        painter.drawPixmap(pWindow->geometry().topLeft() - rcAll.topLeft(), fnLook(*pWindow));
     return image;
+}
+
+}  // namespace
+
+QImage GrabScreen() {
+    return Compose([](QWidget& window) { return window.grab(); });
+}
+
+QImage LookAtScreen() {
+    return Compose([](QWidget& window) {
+        const QPixmap pixmap = window.screen()->grabWindow(window.winId());
+        // Of a dense window the invisible screen gives a part only.
+        return pixmap.deviceIndependentSize() == window.size() ? pixmap : window.grab();
+    });
 }
 
 int CountColors(const QImage& image, int nLimit) {

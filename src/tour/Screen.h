@@ -5,6 +5,8 @@
 
 // What a person would see: all windows that are up, the newest on top.
 QImage GrabScreen();
+// The same without painting anything anew: what has not come to the screen in time is not in it.
+QImage LookAtScreen();
 
 // How many different colours a picture has, counted up to a limit; tells a photograph from an empty area.
 int CountColors(const QImage& image, int nLimit);

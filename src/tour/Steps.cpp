@@ -2,9 +2,10 @@
 
 #include "tour/DrawSteps.h"
 #include "tour/EffectSteps.h"
+#include "tour/PhoneSteps.h"
 #include "tour/StepTools.h"
 
-std::vector<CTourStep> MakeSteps(const CTourFiles& files) {
+std::vector<CTourStep> MakeSteps(const CTourFiles& files, CTourMachine& machine) {
     CSteps steps;
     AddStart(steps);
     AddBrowse(steps, files);
@@ -22,6 +23,7 @@ std::vector<CTourStep> MakeSteps(const CTourFiles& files) {
     AddEffects(steps);
     AddBroken(steps, files);
     AddSave(steps, files);
+    AddPhone(steps, files, machine);
     AddEnd(steps);
     return steps;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tour/Tour.h"
+#include "tour/TourMachine.h"
 
 // Where the walk finds its pictures and may write. What it opens through the file dialog lies among the
 // samples.
@@ -23,7 +24,13 @@ struct CTourFiles {
     QStringList arrGood;     // those of photographs
     QString strBrokenName;   // that of a file that is none
     QString strTrash;        // the trash's folder
+
+    QString strTakeFolder;    // one of arrFolders, which is empty
+    QString strTakePath;      // its path
+    CTourPhone phone;         // with four files, one of them closed and one larger than its screen
+    CTourPhone phoneCard;     // one with a memory card
+    CTourPhone phoneRestart;  // one that restarts after an exchange
 };
 
-// The walk through the whole program in its order.
-std::vector<CTourStep> MakeSteps(const CTourFiles& files);
+// The walk through the whole program in its order. The machine outlives the steps.
+std::vector<CTourStep> MakeSteps(const CTourFiles& files, CTourMachine& machine);

@@ -46,11 +46,12 @@ void CTour::Look(int nMillisecondsLeft) {
 }
 
 bool CTour::Keep() {
+    const CTourStep& step = m_arrSteps[m_nStep];
     const QString strPath = QStringLiteral("%1/%2-%3.png")
                                 .arg(m_strFolder)
                                 .arg(m_nStep + 1, 2, 10, QLatin1Char('0'))
-                                .arg(m_arrSteps[m_nStep].strName);
-    if (GrabScreen().save(strPath)) return true;
+                                .arg(step.strName);
+    if ((step.fnPicture ? step.fnPicture() : GrabScreen()).save(strPath)) return true;
     std::fprintf(stderr, "fotarium-tour: cannot write %s\n", qUtf8Printable(strPath));
     return false;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
 #include <functional>
 #include <vector>
@@ -14,6 +15,8 @@ struct CTourStep {
     // Empty when all is as it should be, else what is wrong. Asked again and again until it is content or the
     // step's time is over.
     std::function<QString(CPerson&)> fnCheck;
+    // The picture to keep where it is not what is seen when the check is content.
+    std::function<QImage()> fnPicture = nullptr;
 };
 
 // Walks through the steps on the event loop, one after the other, while the program runs in the same loop: a

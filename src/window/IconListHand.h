@@ -25,6 +25,8 @@ class CIconListHand {
     // A rubber band starts on the ground only: what is drawn along from an item is on its way out of the
     // list.
     bool IsOnItem() const { return m_press == EPress::Item || m_press == EPress::Drag; }
+    // What is held has left its place, and its release is no click.
+    bool IsDragging() const { return m_press == EPress::Drag; }
     // The items are new: what is held is none of them.
     void Forget() { m_press = EPress::None; }
 

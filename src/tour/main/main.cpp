@@ -61,6 +61,8 @@ bool LayOutAlbum(const QDir& samples, const QString& strAlbum, CTourFiles& files
     files.arrFolders = {"儿时", "山水", "节日"};
     for (const QString& strName : files.arrFolders)
         if (!QDir().mkpath(strAlbum + "/" + strName)) return false;
+    files.strTakeFolder = "节日";
+    files.strTakePath = strAlbum + "/节日";
     files.strFolder = "山水";
     files.strMixedFolder = strAlbum + "/山水";
     for (const QString& strName : files.arrSamples)
@@ -83,12 +85,44 @@ bool LayOutAlbum(const QDir& samples, const QString& strAlbum, CTourFiles& files
            WriteFile(files.strBroken, "this is no picture");
 }
 
+bool MakePhone(CTourPhone& phone, const QString& strFolder, int nIdentity, const QString& strFacts) {
+    phone.strFolder = strFolder;
+    return QDir().mkpath(strFolder + "/inner/photo") && QDir().mkpath(strFolder + "/card/photo") &&
+           phone.SetFact(QStringLiteral("identity %1").arg(nIdentity)) && phone.SetFact(strFacts);
+}
+
+bool Shrink(const QString& strFrom, const QString& strTo) {
+    return QImage(strFrom).scaled(640, 480).save(strTo, "JPG");
+}
+
+// Phones with photographs in sizes that they show themselves, but for one that fills a computer's screen.
+bool LayOutPhones(const QDir& samples, const QString& strFolder, CTourFiles& files) {
+    const QString strFirst = samples.filePath(files.arrGood[0]);
+    const QString strSecond = samples.filePath(files.arrGood[1]);
+    const QString strThird = samples.filePath(files.arrGood[2]);
+    const QString strPhone = strFolder + "/phone", strCard = strFolder + "/card",
+                  strAgain = strFolder + "/again";
+    return MakePhone(files.phone, strPhone, 4711, "memory 4000000") &&
+           QFile::copy(strFirst, strPhone + "/inner/photo/IMG0001") &&
+           Shrink(strSecond, strPhone + "/inner/photo/IMG0002") &&
+           Shrink(strThird, strPhone + "/inner/photo/生日") &&
+           Shrink(strFirst, strPhone + "/inner/photo/IMG0003") &&
+           WriteFile(strPhone + "/closed", "photo/IMG0003\n") &&
+           MakePhone(files.phoneCard, strCard, 4712, "card 1\ncardin 1") &&
+           Shrink(strFirst, strCard + "/inner/photo/IMG0001") &&
+           Shrink(strSecond, strCard + "/card/photo/IMG0101") &&
+           Shrink(strThird, strCard + "/card/photo/IMG0102") &&
+           MakePhone(files.phoneRestart, strAgain, 4713, "norestart 0\nrestartpolls 4") &&
+           Shrink(strFirst, strAgain + "/inner/photo/IMG0001");
+}
+
 bool LayOutFiles(const QString& strFolder, CTourFiles& files) {
     const QDir samples(QFile::decodeName(SampleFolder().c_str()));
     files.strTrash = strFolder + "/data/Trash";
     return QDir().mkpath(strFolder + "/home/图片") &&
            LayOutSamples(samples, strFolder + "/drive/ZEFA肖像", files) &&
-           LayOutAlbum(samples, strFolder + "/drive/相册", files);
+           LayOutAlbum(samples, strFolder + "/drive/相册", files) &&
+           LayOutPhones(samples, strFolder + "/phones", files);
 }
 
 }  // namespace
@@ -120,7 +154,9 @@ int main(int argc, char** argv) {
     SetUpApplication(application);
     CBitmapStore bitmaps(SkinFolder());
     CQtPlatform platform(bitmaps);
-    CTour tour(MakeSteps(files), strFolder);
+    const CPlatform& p = platform.Platform();
+    CTourMachine machine(p.ports, p.libraries);
+    CTour tour(MakeSteps(files, machine), strFolder);
     const CStartWatch watch;
     bool bOver = false;
     tour.Start([&] {
@@ -129,7 +165,9 @@ int main(int argc, char** argv) {
         QApplication::closeAllWindows();
         QApplication::exit();
     });
-    CMainApp(platform.Platform()).InitInstance();
+    CMainApp({p.boxes, p.modals, p.files, p.colors, p.fonts, p.menus, p.timers, p.wait, p.clipboard,
+              p.folders, p.text, p.drives, p.shell, p.bitmaps, machine, machine})
+        .InitInstance();
     if (!bOver) QApplication::exec();
     // Qt's own way does not find names that are no valid text.
     std::error_code error;

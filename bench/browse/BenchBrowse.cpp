@@ -7,42 +7,24 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <string>
 
 #include "app/MainDlg.h"
 #include "play/PlayHost.h"
 #include "play/ScriptedPlatform.h"
+#include "support/Photographs.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using CClock = std::chrono::steady_clock;
 
-// Something of a photograph, another one for each number.
-CxImage MakePicture(CSize size, unsigned nNumber) {
-    CxImage image(size.cx, size.cy);
-    const CPixelView view = image.MutableView();
-    std::minstd_rand random(nNumber + 1);
-    const double fStep = 0.009 + 0.0004 * nNumber;
-    for (int y = 0; y < size.cy; ++y)
-        for (int x = 0; x < size.cx; ++x) {
-            const double fWave =
-                std::sin(x * fStep) * std::cos(y * 0.007) + 0.3 * std::sin((x + 2 * y) * 0.05);
-            const int n = 110 + static_cast<int>(60 * fWave) + static_cast<int>(random() % 17) - 8;
-            view.Set(x, y, {LimitToByte(n), LimitToByte(n - x * 40 / size.cx), LimitToByte(n / 2 + 60)});
-        }
-    return image;
-}
-
 // A folder of nFiles, of which nDifferent are different and the rest are further names of them.
 std::string MakeFolder(const char* szName, CSize size, unsigned nFiles, unsigned nDifferent) {
-    const char* const szFolder = std::getenv("FOTARIUM_BENCH_DIR");
-    const fs::path folder = (szFolder != nullptr ? fs::path(szFolder) : fs::temp_directory_path()) / szName;
+    const fs::path folder = BenchFolder() / szName;
     if (fs::exists(folder)) return folder.string();
     const fs::path folderNew = folder.string() + ".new";
     fs::remove_all(folderNew);
@@ -51,7 +33,7 @@ std::string MakeFolder(const char* szName, CSize size, unsigned nFiles, unsigned
     for (unsigned n = 0; n < nFiles; ++n) {
         if (n >= nDifferent)
             fs::create_hard_link(path(n % nDifferent), path(n));
-        else if (!MakePicture(size, n).Save(path(n).string(), ImageType::kJpeg))
+        else if (!MakePhotograph(size, n).Save(path(n).string(), ImageType::kJpeg))
             std::abort();
     }
     fs::rename(folderNew, folder);

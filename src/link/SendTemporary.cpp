@@ -33,7 +33,7 @@ bool WriteAll(int nFile, std::span<const std::uint8_t> bytes) {
 
 bool CSendTemporary::WriteTo(const std::string& strFolder, std::span<const std::uint8_t> bytes) {
     m_strPath = strFolder;
-    if (m_strPath.empty() || m_strPath.back() != m_cSeparator) m_strPath += m_cSeparator;
+    if (m_strPath.back() != m_cSeparator) m_strPath += m_cSeparator;
     m_strPath += kName;
     const int nFile = CreateAnew(m_strPath);
     if (nFile < 0) return false;
@@ -44,7 +44,8 @@ bool CSendTemporary::WriteTo(const std::string& strFolder, std::span<const std::
 }
 
 bool CSendTemporary::Write(std::span<const std::uint8_t> bytes) {
-    if (WriteTo(m_strFolder, bytes)) return true;
+    // A process whose folder has been deleted has none.
+    if (!m_strFolder.empty() && WriteTo(m_strFolder, bytes)) return true;
     std::error_code error;
     const fs::path own = fs::temp_directory_path(error);
     return !error && WriteTo(own.string(), bytes);

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string_view>
 
 #include "engines/linkset/FileSet.h"
 #include "resources/PhoneTexts.h"
@@ -15,9 +16,16 @@ std::string TitleOf(const std::string& strName) {
     return nSlash == std::string::npos ? strName : strName.substr(nSlash + 1);
 }
 
-// What no file on a computer may be called.
+// What no file on a computer may be called. A zero would end the path that the library gets.
 bool IsForbidden(const std::string& strTitle) {
-    return strTitle.find_first_of("\\/:*?<>|\"") != std::string::npos;
+    using namespace std::string_view_literals;
+    return strTitle.find_first_of("\\/:*?<>|\"\0"sv) != std::string::npos;
+}
+
+// A link counts wherever it leads: what is written through it would lie elsewhere.
+bool IsThere(const std::string& strPath) {
+    std::error_code error;
+    return std::filesystem::exists(std::filesystem::symlink_status(strPath, error));
 }
 
 std::string Closed(std::string strFolder, char cSeparator) {
@@ -73,10 +81,7 @@ class CTaker {
     // the user passes the file over.
     std::optional<std::string> ChooseTarget(const std::string& strTitle) {
         const std::string strTarget = m_take.strSaveFolder + strTitle + ".jpg";
-        // A link that leads nowhere has the name too, and would be followed.
-        std::error_code error;
-        if (!IsForbidden(strTitle) && !exists(std::filesystem::symlink_status(strTarget, error)))
-            return strTarget;
+        if (!IsForbidden(strTitle) && !IsThere(strTarget)) return strTarget;
         const CIdleTraffic traffic(m_session.Calls());
         const auto choice = m_session.Env().files.RunSave({kFilterTake, strTarget});
         if (!choice) return std::nullopt;
@@ -86,10 +91,11 @@ class CTaker {
     }
 
     // The folder that the user has chosen takes the following files too. It may be the same one under another
-    // name.
+    // name; a process whose folder has been deleted has none, and theirs stays.
     void FollowFolder() {
         const CFolders& folders = m_session.Env().folders;
-        m_take.strSaveFolder = Closed(folders.CurrentFolder(), folders.Separator());
+        const std::string strNow = folders.CurrentFolder();
+        if (!strNow.empty()) m_take.strSaveFolder = Closed(strNow, folders.Separator());
         std::error_code error;
         m_take.bFolderMoved = !std::filesystem::equivalent(m_take.strSaveFolder, m_strStart, error);
     }

@@ -234,3 +234,16 @@ TEST_F(SendTest, TheTemporaryFileFollowsNoLinkAndHasAnotherPlace) {
     EXPECT_EQ(Boxes(), "文件已发送|");
     EXPECT_EQ(Sent("b.jpg"), (CSize{100, 80}));
 }
+
+TEST_F(SendTest, NamesGoToThePhoneByteForByte) {
+    const std::vector<std::string> arrNames = {"\xFF\xFE.jpg", "100%s%n.jpg", std::string(251, 'n') + ".jpg"};
+    for (const std::string& strName : arrNames) std::filesystem::copy_file(Start("b.jpg"), Start(strName));
+    m_dialog.Thum().List().FillThumbnails();
+    Connect();
+    for (const std::string& strName : arrNames) {
+        ClickFile(strName);
+        Click(kCmdSend);
+        EXPECT_EQ(Boxes(), "文件已发送|");
+        EXPECT_EQ(Sent(strName), (CSize{100, 80}));
+    }
+}

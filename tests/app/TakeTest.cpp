@@ -206,3 +206,37 @@ TEST_F(TakeTest, AnotherPhoneOrNoListEndsIt) {
     Phone().nIdentity = 77;
     m_platform.TakeProblems();
 }
+
+// Whatever the phone calls its files, they come into the folder or are asked about.
+TEST_F(TakeTest, NoNameLeadsOutOfTheFolder) {
+    const auto all = [&] {
+        std::set<std::string> setPaths;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(m_folder.Path("")))
+            setPaths.insert(entry.path());
+        return setPaths;
+    };
+    std::filesystem::create_symlink(m_folder.Path("outside"), Start("link.jpg"));
+    Phone().arrFiles.clear();
+    for (const std::string& strName :
+         {std::string("../../up"), m_folder.Path("whole"), std::string(".."), std::string("..\\..\\back"),
+          std::string("cut\0.exe", 8), std::string("link"), std::string("\xFF\xFE"), std::string(4096, 'n'),
+          std::string()})
+        Phone().arrFiles.push_back({.m_nFileId = 50, .m_strFileName = strName});
+    Connect();
+    m_folder.Write("install/FILE.Dat", "");
+    std::set<std::string> setWanted = all();
+    for (const char* szName : {"up.jpg", "whole.jpg", "...jpg", "\xFF\xFE.jpg", ".jpg"})
+        setWanted.insert(Start(szName));
+    Take({"all", "ok"});
+    EXPECT_EQ(std::ranges::count(m_platform.TakeAsked(), EQuestion::Save, &CAsked::question), 3)
+        << "back, cut and link";
+    EXPECT_EQ(all(), setWanted);
+    EXPECT_EQ(Boxes(), "文件已接受|");
+    // The folder has been deleted and made anew behind the program's back.
+    std::filesystem::remove_all(Start(""));
+    std::filesystem::create_directory(Start(""));
+    Phone().arrFiles = {{.m_nFileId = 51, .m_strFileName = "one"}, {.m_nFileId = 52, .m_strFileName = "two"}};
+    Take({"all", "ok"});
+    EXPECT_EQ(ReadBytes(Start("one.jpg")) + ReadBytes(Start("two.jpg")), "file 51file 52");
+    Boxes();
+}

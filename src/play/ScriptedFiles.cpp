@@ -44,7 +44,7 @@ bool CScriptedPlatform::MayDelete(bool bToBin, bool bAsk) {
     }
     if (m_bRefuseDeletes) return false;
     if (!bToBin || !m_strBin.empty()) return true;
-    m_arrProblems.push_back({EProblem::Missing, "there is no recycle bin"});
+    m_arrProblems.emplace_back().strText = "there is no recycle bin";
     return false;
 }
 

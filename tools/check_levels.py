@@ -15,7 +15,7 @@ from pathlib import Path
 
 MAX_LINES = 500
 # Where Qt may be known: the window layer, what drives it, and what renders pictures for the build with its tests.
-QT_PLACES = re.compile(r"(src|tests)/(qt|tour|strips)/|src/resources/([^/]+/)*tool/|src/frames/tool/|tests/(art|frames)/")
+QT_PLACES = re.compile(r"(src|tests|bench)/(qt|tour|strips)/|src/resources/([^/]+/)*tool/|src/frames/tool/|tests/(art|frames)/")
 QT_HEADER = re.compile(r"(Qt\w+/)?(Q[A-Za-z]\w*|q\w+\.h|qt?\w+/q\w+\.h)$")
 
 ROW = re.compile(r"\|\s*(\d+|[-–—])\s*\|([^|]*`src/[^|]*)\|")

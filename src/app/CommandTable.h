@@ -12,11 +12,11 @@ enum class EKey {
     Left,  // stays as it is
     On,
     Off,
-    Undo,     // on if there is a step to take back
-    Redo,     // on if there is one to do again
-    Clip,     // on if something was copied or cut in this run
-    Phone,    // on if the phone is connected
-    NoPhone,  // on if it is not
+    Undo,      // on if there is a step to take back
+    Redo,      // on if there is one to do again
+    Clip,      // on if something was copied or cut in this run
+    Phone,     // on if the phone is connected
+    NoPhone,   // on if it is not
     Sendable,  // on if there is something to send: a picture, or the file list
     Picture,   // on if a picture is open, else left
 };
@@ -69,30 +69,17 @@ struct CKeyEventRow {
 
 inline constexpr std::array kKeyEvents = std::to_array<CKeyEventRow>({
     // A step lights the key of its stack and the last one that goes puts it out, whatever the mode allows.
-    {EEditEvent::UndoPushed, kCmdUndo, EKey::On},
-    {EEditEvent::UndoEmptied, kCmdUndo, EKey::Off},
-    {EEditEvent::RedoPushed, kCmdRedo, EKey::On},
-    {EEditEvent::RedoEmptied, kCmdRedo, EKey::Off},
-    {EEditEvent::LevelMoved, kCmdReset, EKey::Off},
-    {EEditEvent::SelectionMade, kCmdCut, EKey::On},
-    {EEditEvent::SelectionMade, kCmdCopy, EKey::On},
-    {EEditEvent::SelectionMade, kCmdCrop, EKey::On},
-    {EEditEvent::SelectionGone, kCmdCut, EKey::Off},
-    {EEditEvent::SelectionGone, kCmdCopy, EKey::Off},
-    {EEditEvent::SelectionGone, kCmdCrop, EKey::Off},
-    {EEditEvent::ClipFilled, kCmdPaste, EKey::On},
-    {EEditEvent::Cropped, kCmdCut, EKey::Off},
-    {EEditEvent::Cropped, kCmdCopy, EKey::Off},
-    {EEditEvent::Cropped, kCmdCrop, EKey::Off},
-    {EEditEvent::Cropped, kCmdPaste, EKey::Off},
-    {EEditEvent::PhoneFound, kCmdConnect, EKey::Off},
-    {EEditEvent::PhoneFound, kCmdTake, EKey::On},
-    {EEditEvent::PhoneFound, kCmdSend, EKey::Sendable},
-    {EEditEvent::PhoneReady, kCmdTake, EKey::On},
-    {EEditEvent::PhoneReady, kCmdSend, EKey::Picture},
-    {EEditEvent::PhoneLost, kCmdConnect, EKey::On},
-    {EEditEvent::PhoneLost, kCmdTake, EKey::Off},
-    {EEditEvent::PhoneLost, kCmdSend, EKey::Off},
-    {EEditEvent::TakeLineFailed, kCmdTake, EKey::Off},
-    {EEditEvent::SendLineFailed, kCmdSend, EKey::Off},
+    {EEditEvent::UndoPushed, kCmdUndo, EKey::On},       {EEditEvent::UndoEmptied, kCmdUndo, EKey::Off},
+    {EEditEvent::RedoPushed, kCmdRedo, EKey::On},       {EEditEvent::RedoEmptied, kCmdRedo, EKey::Off},
+    {EEditEvent::LevelMoved, kCmdReset, EKey::Off},     {EEditEvent::SelectionMade, kCmdCut, EKey::On},
+    {EEditEvent::SelectionMade, kCmdCopy, EKey::On},    {EEditEvent::SelectionMade, kCmdCrop, EKey::On},
+    {EEditEvent::SelectionGone, kCmdCut, EKey::Off},    {EEditEvent::SelectionGone, kCmdCopy, EKey::Off},
+    {EEditEvent::SelectionGone, kCmdCrop, EKey::Off},   {EEditEvent::ClipFilled, kCmdPaste, EKey::On},
+    {EEditEvent::Cropped, kCmdCut, EKey::Off},          {EEditEvent::Cropped, kCmdCopy, EKey::Off},
+    {EEditEvent::Cropped, kCmdCrop, EKey::Off},         {EEditEvent::Cropped, kCmdPaste, EKey::Off},
+    {EEditEvent::PhoneFound, kCmdConnect, EKey::Off},   {EEditEvent::PhoneFound, kCmdTake, EKey::On},
+    {EEditEvent::PhoneFound, kCmdSend, EKey::Sendable}, {EEditEvent::PhoneReady, kCmdTake, EKey::On},
+    {EEditEvent::PhoneReady, kCmdSend, EKey::Picture},  {EEditEvent::PhoneLost, kCmdConnect, EKey::On},
+    {EEditEvent::PhoneLost, kCmdTake, EKey::Off},       {EEditEvent::PhoneLost, kCmdSend, EKey::Off},
+    {EEditEvent::TakeLineFailed, kCmdTake, EKey::Off},  {EEditEvent::SendLineFailed, kCmdSend, EKey::Off},
 });

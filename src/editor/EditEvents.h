@@ -25,8 +25,8 @@ enum class EEditEvent {
     FillBegun,    // the list's pictures are being made
     FillEnded,
     // The phone
-    PhoneFound,      // a connect has succeeded
-    PhoneReady,      // it can be used again: its picture has run to the end, or it has restarted
+    PhoneFound,  // a connect has succeeded
+    PhoneReady,  // it can be used again: its picture has run to the end, or it has restarted
     PhoneLost,
     TakeLineFailed,  // the line did not open for a take
     SendLineFailed,  // for a send

@@ -47,8 +47,8 @@ struct CAnswer {
     int nMenuId = 0;
     int nPort = 0;  // of COM1 and so on
     int nRow = 0;   // of the phone's sizes
-    // What the hand does in the list of the phone's files, one step a piece: a step that takes a number has it
-    // behind its name, and a number alone ticks that row.
+    // What the hand does in the list of the phone's files, one step a piece: a step that takes a number has
+    // it behind its name, and a number alone ticks that row.
     std::vector<std::string> arrSteps;
     int nLine = 0;  // of the script that gave it, 0 for none
 };

@@ -133,7 +133,8 @@ constexpr CVerb kVerbs[] = {
      "answer box yes"},
     {"answer", "open PATH", 1, kMostWords, Answer, "A file for the open dialog.", "answer open ../海边.jpg"},
     {"answer", "save PATH", 1, kMostWords, Answer, "A file for the save dialog.", "answer save small.jpg"},
-    {"answer", "color RRGGBB", 1, kMostWords, Answer, "A colour for the colour dialog.", "answer color ff8000"},
+    {"answer", "color RRGGBB", 1, kMostWords, Answer, "A colour for the colour dialog.",
+     "answer color ff8000"},
     {"answer", "font FACE regular|bold", 1, kMostWords, Answer, "A face for the font dialog.",
      "answer font 黑体 bold"},
     {"answer", "size W H", 1, kMostWords, Answer,
@@ -145,13 +146,15 @@ constexpr CVerb kVerbs[] = {
     {"answer", "delete yes|no", 1, kMostWords, Answer,
      "For the system's own question before it deletes files, which comes for several and with shift.",
      "answer delete yes"},
-    {"answer", "menu ID", 1, kMostWords, Answer, "An item for the menu of a right click.", "answer menu 32785"},
+    {"answer", "menu ID", 1, kMostWords, Answer, "An item for the menu of a right click.",
+     "answer menu 32785"},
     {"answer", "port N", 1, kMostWords, Answer, "COMN in the dialog that asks for the phone's port.",
      "answer port 3"},
     {"answer", "phonefiles ROW...", 1, kMostWords, Answer,
      "Ticks these rows of the phone's files, which count from 0, and takes them.", "answer phonefiles 0 2"},
     {"answer", "phonefiles WORD...", 1, kMostWords, Answer,
-     "What the hand does there, in order: sort C (by column 0 to 2), tick R (the row as it stands then), all, "
+     "What the hand does there, in order: sort C (by column 0 to 2), tick R (the row as it stands then), "
+     "all, "
      "none, wait MS, ok, cancel. What still stands behind the last word is cancelled.",
      "answer phonefiles sort 2 tick 0 ok"},
     {"answer", "phonesize ROW", 1, kMostWords, Answer,

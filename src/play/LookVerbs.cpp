@@ -160,7 +160,8 @@ constexpr CVerb kVerbs[] = {
      "Prints how many message boxes there were since the last such line, and of each title, icon and text.",
      "boxes"},
     {"calls", "", 0, 0, Calls,
-     "Prints how many calls the program made into the phone's library since the last such line, and each: what "
+     "Prints how many calls the program made into the phone's library since the last such line, and each: "
+     "what "
      "it handed in, behind = the code, and the out-values in their order.",
      "calls"},
     {"shell", "", 0, 0, Shell,

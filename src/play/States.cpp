@@ -133,11 +133,15 @@ constexpr CStateEntry kStates[] = {
      "Whether the port was found without asking."},
     {"phoneid", [](const CStage& s) { return std::to_string(Facts(s).m_nPhoneId); }, "Its identity."},
     {"phonekind", [](const CStage& s) { return std::to_string(Facts(s).m_nPhoneKind); }, "Its kind."},
-    {"photophone", [](const CStage& s) { return Flag(Facts(s).m_bPhotoPhone); }, "Whether it takes pictures."},
+    {"photophone", [](const CStage& s) { return Flag(Facts(s).m_bPhotoPhone); },
+     "Whether it takes pictures."},
     {"card", [](const CStage& s) { return Flag(Facts(s).m_bHasCard != 0); }, "Whether it has a memory card."},
     {"norestart", [](const CStage& s) { return Flag(Facts(s).m_bNoRestart != 0); },
      "Whether it goes on working after an exchange."},
-    {"thumb", [](const CStage& s) { return Pair({Facts(s).m_nThumbWidth, Facts(s).m_nThumbHeight}); },
+    {"thumb",
+     [](const CStage& s) {
+         return Pair({Facts(s).m_nThumbWidth, Facts(s).m_nThumbHeight});
+     },
      "Width and height of its thumbnails."},
     {"connect", [](const CStage& s) { return Flag(s.dialog.Controls().IsEnabled(kCmdConnect)); },
      "Whether the key that connects is on."},

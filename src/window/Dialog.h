@@ -21,8 +21,8 @@ class CDialogHost {
     virtual void OnPaintWanted() = 0;
     // Pixels of the client area have changed; Client().TakeDamage() tells which.
     virtual void OnDrawn() = 0;
-    // All that has been drawn and told to controls is to be on the screen when this returns, in the middle of a
-    // handler.
+    // All that has been drawn and told to controls is to be on the screen when this returns, in the middle of
+    // a handler.
     virtual void OnShowNow() = 0;
     // EndDialog has been called.
     virtual void OnEnded() = 0;

@@ -215,6 +215,30 @@ TEST_F(SendTest, EveryModeSendsWhatItShows) {
     }
 }
 
+TEST_F(SendTest, AFloatIsMergedIntoWhatIsSent) {
+    Connect();
+    OpenSized(640, 480);
+    GoTo(EMode::Draw);
+    Click(FindToolButton(ETool::SelectRect));
+    // The picture begins at (9, 31) on the canvas.
+    const auto mouse = [&](EMouseAction action, CPoint pt) {
+        const EMouseButton button = action == EMouseAction::Move ? EMouseButton::None : EMouseButton::Left;
+        EXPECT_EQ(m_host.MouseOnView(kCanvas, action, button, pt), "");
+    };
+    mouse(EMouseAction::Press, {109, 131});
+    mouse(EMouseAction::Move, {159, 181});
+    mouse(EMouseAction::Release, {159, 181});
+    Click(kCmdCopy);
+    Click(kCmdPaste);
+    ASSERT_TRUE(m_dialog.Draw().IsFloating());
+    Click(kCmdSend);
+    EXPECT_EQ(Boxes(), "文件已发送|");
+    EXPECT_EQ(Sent("edited.png"), (CSize{640, 480}));
+    const CxImage image(m_folder.Path("sent.jpg"), ImageType::kJpeg);
+    EXPECT_NEAR(PixelAt(image.Pixels(), 20, 20).r, PixelAt(NumberedPixels(640, 480), 120, 120).r, 12);
+    EXPECT_FALSE(m_dialog.Draw().IsFloating());
+}
+
 TEST_F(SendTest, TheTemporaryFileFollowsNoLinkAndHasAnotherPlace) {
     Connect();
     m_folder.Write("precious", "precious");

@@ -119,8 +119,13 @@ TEST_F(Files, ASaveThatFailsLeavesEverythingAsItWas) {
 
 TEST_F(Files, SavingOverAFileKeepsItsRightsAndItsLinks) {
     const std::string strPath = Path("photo.jpg");
+    struct stat status {};
+    const mode_t nMask = umask(0027);
     ASSERT_TRUE(SmoothPicture(12, 9).Save(strPath, ImageType::kJpeg));
-    ASSERT_EQ(chmod(strPath.c_str(), 0640), 0);
+    umask(nMask);
+    ASSERT_EQ(stat(strPath.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0640U) << "a new file's are the user's own";
+    ASSERT_EQ(chmod(strPath.c_str(), 0604), 0);
     std::filesystem::create_directory(Path("links"));
     std::filesystem::create_symlink("../photo.jpg", Path("links/photo.jpg"));
 
@@ -129,9 +134,8 @@ TEST_F(Files, SavingOverAFileKeepsItsRightsAndItsLinks) {
     ASSERT_TRUE(image.Save(Path("links/photo.jpg"), ImageType::kJpeg)) << "over the opened file itself";
     EXPECT_TRUE(std::filesystem::is_symlink(Path("links/photo.jpg")));
     EXPECT_EQ(CxImage(strPath, ImageType::kJpeg).GetSize(), (CSize{9, 12}));
-    struct stat status {};
     ASSERT_EQ(stat(strPath.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 07777, 0640U);
+    EXPECT_EQ(status.st_mode & 07777, 0604U);
 }
 
 }  // namespace

@@ -189,6 +189,10 @@ class CTracedLibrary : public CLibrary {
 
 }  // namespace
 
+void CPhoneTrace::Note(std::string strCall) {
+    m_arrCalls.push_back(std::move(strCall));
+}
+
 CPhoneTrace::~CPhoneTrace() {
     if (g_pTrace == this) g_pTrace = nullptr;
 }

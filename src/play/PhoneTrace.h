@@ -20,7 +20,7 @@ class CPhoneTrace {
     std::unique_ptr<CLibrary> Wrap(std::unique_ptr<CLibrary> pLibrary);
     // Since the last time.
     std::vector<std::string> Take() { return std::exchange(m_arrCalls, {}); }
-    void Note(std::string strCall) { m_arrCalls.push_back(std::move(strCall)); }
+    void Note(std::string strCall);
 
   private:
     std::vector<std::string> m_arrCalls;

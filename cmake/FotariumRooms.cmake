@@ -16,8 +16,9 @@ if(FOTARIUM_SANITIZE)
   target_link_options(fotarium_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# What nearly every source includes, compiled once for all rooms, for all that stands on Qt's widgets, and for all test
-# programs; but not for those with compiler flags of their own, as Magick++ brings them.
+# What nearly every source includes, compiled once for all that stands on Qt's widgets, and once for all test programs but
+# those with compiler flags of their own, as Magick++ brings them. The plain rooms do without: GCC 12 then warns of
+# copies inside std::string that are none.
 # With a compiler cache, which passes such units over, it would cost more than it saves.
 if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
   set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
@@ -30,7 +31,6 @@ function(fotarium_headers NAME)
   target_link_libraries(${NAME} PRIVATE fotarium_flags ${ARG_LINK})
   target_precompile_headers(${NAME} PRIVATE ${STANDARD_HEADERS} ${ARG_HEADERS})
 endfunction()
-fotarium_headers(fotarium_room_headers)
 fotarium_headers(fotarium_test_headers LINK GTest::gtest HEADERS <gtest/gtest.h> <set>)
 fotarium_headers(fotarium_qt_headers LINK Qt6::Widgets HEADERS
   <QApplication> <QDialog> <QFileDialog> <QListView> <QMouseEvent> <QPainter> <QScrollBar> <QStyledItemDelegate>
@@ -50,8 +50,6 @@ function(fotarium_room FOLDER)
   target_link_libraries(room_${NAME} PRIVATE fotarium_flags ${ARG_PRIVATE} PUBLIC ${ARG_LINK})
   if("${ARG_LINK}" MATCHES "Qt6::Widgets|room_qt")
     target_precompile_headers(room_${NAME} REUSE_FROM fotarium_qt_headers)
-  elseif(NOT "${ARG_LINK}${ARG_PRIVATE}" MATCHES "Qt6::|MAGICK")
-    target_precompile_headers(room_${NAME} REUSE_FROM fotarium_room_headers)
   endif()
 endfunction()
 

@@ -260,7 +260,8 @@ TEST_F(SendTest, TheTemporaryFileFollowsNoLinkAndHasAnotherPlace) {
 }
 
 TEST_F(SendTest, NamesGoToThePhoneByteForByte) {
-    const std::vector<std::string> arrNames = {"\xFF\xFE.jpg", "100%s%n.jpg", std::string(251, 'n') + ".jpg"};
+    std::vector<std::string> arrNames = {"\xFF\xFE.jpg", "100%s%n.jpg", std::string(251, 'n')};
+    arrNames.back() += ".jpg";
     for (const std::string& strName : arrNames) std::filesystem::copy_file(Start("b.jpg"), Start(strName));
     m_dialog.Thum().List().FillThumbnails();
     Connect();

@@ -12,6 +12,7 @@
 #include "play/ScriptedPlatform.h"
 #include "qt/Application.h"
 #include "qt/DialogView.h"
+#include "qt/Pictures.h"
 #include "qt/ResourceFolders.h"
 #include "resources/BitmapStore.h"
 #include "resources/Ids.h"

@@ -115,9 +115,7 @@ int CPhoneCalls::GetFileList(const CPhoneState& state, std::int32_t& nCount,
 }
 
 int CPhoneCalls::GetFile(const CPhoneState& state, std::uint32_t nFileId, const std::string& strPath) const {
-    // The library gets a copy of its own.
-    const std::string strCopy = strPath;
-    return Call(m_pGetFilefromPhone, std::int32_t{LINK_ITEM_PHOTO}, nFileId, strCopy.c_str(),
+    return Call(m_pGetFilefromPhone, std::int32_t{LINK_ITEM_PHOTO}, nFileId, strPath.c_str(),
                 state.m_bFetchOption);
 }
 

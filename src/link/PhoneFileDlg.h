@@ -35,7 +35,7 @@ class CPhoneFileDlg : public CDialog {
     void WatchCard();
 
     CPhoneSession& m_session;
-    CFILESet fileSet;
+    CFILESet fileSet;  // NOLINT(readability-identifier-naming): what it has always been called
     CCheckTableModel m_table;
     int m_nSortKey = 1;  // the column times two, and 1 for ascending
     std::vector<int> m_arrPicked;

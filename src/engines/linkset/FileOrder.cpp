@@ -38,6 +38,7 @@ class CGbkConverter {
 
   private:
     static constexpr auto kFailed = static_cast<std::size_t>(-1);
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): so the library tells that it failed.
     bool IsThere() const { return m_conversion != iconv_t(-1); }
     // Over one character, or one byte that is of none.
     static void Skip(char*& pIn, std::size_t& nIn) {

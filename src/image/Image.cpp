@@ -152,6 +152,13 @@ bool CxImage::Resample(int nWidth, int nHeight, int nMode) {
     return true;
 }
 
+CPixels CxImage::ResampledRows(CSize size, int nTop, int nRows) const {
+    CPixels pixels;
+    if (!IsValid() || size.cx <= 0 || size.cy <= 0 || !pixels.CreateRaw(size.cx, nRows)) return {};
+    ResampleRows(m_pixels.Bytes().data(), GetSize(), pixels.MutableView().pBits, size, 3, nTop, nRows);
+    return pixels;
+}
+
 bool CxImage::Rotate(double fDegrees) {
     if (!IsValid() || (fDegrees != 90.0 && fDegrees != -90.0)) return false;
     const auto turn = fDegrees > 0 ? RotateClockwisePlane : RotateCounterPlane;

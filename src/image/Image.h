@@ -91,6 +91,9 @@ class CxImage {
     // pictures and sx, sy = old side / new side in single precision. The same size changes nothing. False for
     // a side of 0 or less.
     [[nodiscard]] bool Resample(int nWidth, int nHeight, int nMode = 1);
+    // Of the picture as Resample would make it only nRows rows from nTop on, counted from the top; they have
+    // to lie inside. Empty for a side of 0 or less and if memory is short.
+    [[nodiscard]] CPixels ResampledRows(CSize size, int nTop, int nRows) const;
     // Exact quarter turns: 90.0 clockwise (the left column becomes the top row), -90.0 the other way. False
     // for another angle.
     [[nodiscard]] bool Rotate(double fDegrees);

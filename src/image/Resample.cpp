@@ -37,6 +37,11 @@ std::vector<std::uint32_t> NearestPixels(int nSrc, int nDst) {
 
 void ResamplePlane(const std::uint8_t* pSrc, CSize sizeSrc, std::uint8_t* pDst, CSize sizeDst,
                    int nChannels) {
+    ResampleRows(pSrc, sizeSrc, pDst, sizeDst, nChannels, 0, sizeDst.cy);
+}
+
+void ResampleRows(const std::uint8_t* pSrc, CSize sizeSrc, std::uint8_t* pDst, CSize sizeDst, int nChannels,
+                  int nTop, int nRows) {
     std::vector<std::uint32_t> columns = NearestPixels(sizeSrc.cx, sizeDst.cx);
     const std::vector<std::uint32_t> rows = NearestPixels(sizeSrc.cy, sizeDst.cy);
     for (std::uint32_t& n : columns) n *= static_cast<std::uint32_t>(nChannels);
@@ -44,7 +49,8 @@ void ResamplePlane(const std::uint8_t* pSrc, CSize sizeSrc, std::uint8_t* pDst, 
     const std::size_t nSrcStride = static_cast<std::size_t>(sizeSrc.cx) * static_cast<std::size_t>(nChannels);
     const std::size_t nDstStride = static_cast<std::size_t>(sizeDst.cx) * static_cast<std::size_t>(nChannels);
     std::size_t nLastRow = SIZE_MAX;
-    for (std::size_t y = 0; y < rows.size(); ++y, pDst += nDstStride) {
+    const std::size_t nEnd = static_cast<std::size_t>(nTop) + static_cast<std::size_t>(nRows);
+    for (std::size_t y = static_cast<std::size_t>(nTop); y < nEnd; ++y, pDst += nDstStride) {
         const std::size_t nFromBottom = rows[rows.size() - 1 - y];
         const std::size_t nRow = static_cast<std::size_t>(sizeSrc.cy) - 1 - nFromBottom;
         if (nRow == nLastRow) {

@@ -11,5 +11,9 @@
 // single precision.
 void ResamplePlane(const std::uint8_t* pSrc, CSize sizeSrc, std::uint8_t* pDst, CSize sizeDst, int nChannels);
 
+// The same for nRows rows of dst from nTop on alone: pDst is where the first of them goes.
+void ResampleRows(const std::uint8_t* pSrc, CSize sizeSrc, std::uint8_t* pDst, CSize sizeDst, int nChannels,
+                  int nTop, int nRows);
+
 // Of one side: the source's pixel for every pixel of dst. For who scales row by row.
 std::vector<std::uint32_t> NearestPixels(int nSrc, int nDst);

@@ -2,6 +2,7 @@
 
 class CBitmaps;
 class CClipboard;
+class CClock;
 class CColorDialogs;
 class CDrives;
 class CFileDialogs;
@@ -11,6 +12,7 @@ class CLibraries;
 class CMessageBoxes;
 class CModalDialogs;
 class CPopupMenus;
+class CPrinters;
 class CSerialPorts;
 class CShell;
 class CTextRasterizer;
@@ -36,4 +38,6 @@ struct CPlatform {
     CBitmaps& bitmaps;
     CLibraries& libraries;
     CSerialPorts& ports;
+    CPrinters& printers;
+    CClock& clock;
 };

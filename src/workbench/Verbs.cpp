@@ -31,6 +31,16 @@ constexpr CWorkVerb kVerbs[] = {
      "start\n"
      "    mark and sixteen bytes of JFIF, 20 bytes that are cut; a thumbnail has at most 65119 bytes.\n",
      RunPackVerb},
+    {"page",
+     "preview W H CLIENTW CLIENTH PAPER PAPERW PAPERH portrait|landscape [stamp]\n"
+     "workbench page print W H DPIX DPIY HORZRES VERTRES portrait|landscape [stamp]",
+     "    Reckons where a picture of W by H stands on a page and prints it in pixels of the target: page\n"
+     "    WIDTH HEIGHT, margin BOTH, picture X Y WIDTH HEIGHT; of the preview sheet X Y WIDTH HEIGHT and\n"
+     "    question yes|no, whether a date would be tiny; and with stamp the date's stamp SIZE RESERVED X Y,\n"
+     "    its cell's height, the width kept for it, its left and its bottom edge in the picture.\n"
+     "    PAPER is 1 to 41, or 256 for one of PAPERW by PAPERH tenths of a millimetre; else it is A4.\n"
+     "    HORZRES and VERTRES are the dots that the printer reaches. Numbers go from 0 to 1000000.\n",
+     RunPageVerb},
     {"ports", "CASES OUT",
      "    Searches serial ports as a text file tells them. Its lines are carried out from the first to the\n"
      "    last; what asks for something is written to OUT, with its answers behind it, indented. Words are\n"

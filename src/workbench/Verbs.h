@@ -9,6 +9,7 @@
 struct CWorkResult {
     int nStatus = kDone;
     std::string strError;  // empty if it was done
+    std::string strOut{};  // lines to print
 };
 
 // A verb is one function over its words and a line in Verbs.cpp.
@@ -26,6 +27,7 @@ std::optional<long long> ParseNumber(const std::string& strWord, long long nMin,
 
 CWorkResult RunEffectVerb(std::span<const std::string> words);
 CWorkResult RunFiguresVerb(std::span<const std::string> words);
+CWorkResult RunPageVerb(std::span<const std::string> words);
 CWorkResult RunPackVerb(std::span<const std::string> words);
 CWorkResult RunPortsVerb(std::span<const std::string> words);
 CWorkResult RunFileDatVerb(std::span<const std::string> words);

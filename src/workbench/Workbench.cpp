@@ -33,5 +33,6 @@ int RunWorkbench(const CWorkWords& arrWords, std::ostream& out, std::ostream& er
     if (verb == verbs.end())
         return Fail(errors, kWrongCall, arrWords[0] + " is no verb; workbench --help lists them");
     const CWorkResult result = verb->run(std::span(arrWords).subspan(1));
+    out << result.strOut;
     return result.nStatus == kDone ? kDone : Fail(errors, result.nStatus, result.strError);
 }

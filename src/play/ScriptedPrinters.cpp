@@ -40,7 +40,7 @@ class CScriptedPrinters::CDevice : public CPrintDevice {
     [[nodiscard]] bool StartDocument(const std::string& strName) override {
         if (!m_printers.m_bThere || m_printers.m_bRefuses) return false;
         m_strName = strName;
-        m_nFactor = (m_printer.sizePrintable.cy + kMostPageHeight - 1) / kMostPageHeight;
+        m_nFactor = std::max(1, (m_printer.sizePrintable.cy + kMostPageHeight - 1) / kMostPageHeight);
         const auto kept = [this](int n) { return (n + m_nFactor - 1) / m_nFactor; };
         m_page = CSurface(CPixels::MakeFilled(kept(m_printer.sizePrintable.cx),
                                               kept(m_printer.sizePrintable.cy), {255, 255, 255}));

@@ -117,9 +117,12 @@ TEST_F(ConnectTest, ThePicturesRunWhileItWorks) {
     Connect();
     m_platform.SetBitmaps(&bitmaps);
     m_dialog.OnCommand(kCmdConnect);
-    std::vector<int> arrWanted;
-    for (int i = 0; i < 40; ++i) arrWanted.push_back(kBmpConnectFrame + i % kConnectFrames);
-    EXPECT_EQ(bitmaps.arrFrames, arrWanted);
+    const auto fnRun = [](int nFirst, int nFrames, int nFrom, int nSteps) {
+        std::vector<int> arrRun(static_cast<std::size_t>(nSteps));
+        for (int i = 0; i < nSteps; ++i) arrRun[static_cast<std::size_t>(i)] = nFirst + (nFrom + i) % nFrames;
+        return arrRun;
+    };
+    EXPECT_EQ(bitmaps.arrFrames, fnRun(kBmpConnectFrame, kConnectFrames, 0, 40));
     Phone().arrFiles = {{.m_nFileId = 1, .m_strFileName = "one"}};
     Phone().fnCode = [&](const std::string& strCall) -> std::int32_t {
         if (strCall != "GetFilefromPhone") return LINK_OK;
@@ -129,9 +132,7 @@ TEST_F(ConnectTest, ThePicturesRunWhileItWorks) {
     };
     AnswerFiles({"tick 0", "ok"});
     m_dialog.OnCommand(kCmdTake);
-    arrWanted.clear();
-    for (int i = 2; i < 11; ++i) arrWanted.push_back(kBmpTakeFrame + i % kTransferFrames);
-    EXPECT_EQ(bitmaps.arrFrames, arrWanted);
+    EXPECT_EQ(bitmaps.arrFrames, fnRun(kBmpTakeFrame, kTransferFrames, 2, 9));
     m_platform.SetBitmaps(nullptr);
     m_dialog.Thum().List().StopFill();
     Boxes();

@@ -12,6 +12,8 @@ packages=(
     libjpeg62-turbo-dev libmagick++-6.q16-dev libmagickcore-6.q16-6-extra
     # Faces with Chinese and Korean characters.
     fonts-wqy-zenhei fonts-noto-cjk
+    # The face of the date in printed pictures. Tests read printed files with poppler.
+    fonts-wine poppler-utils
     libgtest-dev libbenchmark-dev
 )
 if [[ ${1-} == lint ]]; then

@@ -6,9 +6,11 @@ target_compile_options(fotarium_flags INTERFACE
   # A fused multiply-add would change the last bit of the colour formulas.
   -ffp-contract=off)
 if(FOTARIUM_SANITIZE)
-  # Line numbers are all that a report needs; full debug information costs a third of the build.
+  # Line numbers are all that a report needs; full debug information costs a third of the build. What a test program has
+  # of its own is not optimised where that takes longer than it saves.
   target_compile_options(fotarium_flags INTERFACE -g1
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+    $<IF:$<BOOL:$<TARGET_PROPERTY:FOTARIUM_PLAIN>>,-O0,-O1>)
   # An index beyond an array's end need not leave the memory that the sanitizers guard.
   target_compile_definitions(fotarium_flags INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(fotarium_flags INTERFACE -fsanitize=address,undefined)
@@ -37,10 +39,13 @@ function(fotarium_use_headers TARGET HEADERS)
     target_compile_options(${TARGET} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread)
   endif()
 endfunction()
+set(WIDGET_HEADERS <QApplication> <QDialog> <QFileDialog> <QListView> <QMouseEvent> <QPainter> <QScrollBar>
+  <QStyledItemDelegate> <QTreeView> <QWidget>)
+fotarium_headers(fotarium_qt_headers LINK Qt6::Widgets HEADERS ${WIDGET_HEADERS})
 fotarium_headers(fotarium_test_headers LINK GTest::gtest HEADERS <gtest/gtest.h> <set>)
-fotarium_headers(fotarium_qt_headers LINK Qt6::Widgets HEADERS
-  <QApplication> <QDialog> <QFileDialog> <QListView> <QMouseEvent> <QPainter> <QScrollBar> <QStyledItemDelegate>
-  <QTreeView> <QWidget>)
+fotarium_headers(fotarium_qt_test_headers LINK Qt6::Widgets Qt6::Test GTest::gtest
+  HEADERS ${WIDGET_HEADERS} <QTest> <gtest/gtest.h> <set>)
+set_target_properties(fotarium_test_headers fotarium_qt_test_headers PROPERTIES FOTARIUM_PLAIN ON)
 
 # Rooms are named by their folder, engines/effects for one; targets by its last part, room_effects.
 
@@ -59,10 +64,11 @@ function(fotarium_room FOLDER)
   endif()
 endfunction()
 
-# fotarium_test(FOLDER [LINK libraries...] [FILTER tests]): one GoogleTest program of the files in tests/FOLDER/. With a
-# filter, ctest runs only what passes it, one by one; the rest is for an add_test of its own.
+# fotarium_test(FOLDER [SWIFT] [LINK libraries...] [FILTER tests]): one GoogleTest program of the files in tests/FOLDER/.
+# With a filter, ctest runs only what passes it, one by one; the rest is for an add_test of its own. SWIFT is for tests
+# that compute much by themselves: they are optimised under the sanitizers too.
 function(fotarium_test FOLDER)
-  cmake_parse_arguments(ARG "" "FILTER" "LINK" ${ARGN})
+  cmake_parse_arguments(ARG "SWIFT" "FILTER" "LINK" ${ARGN})
   get_filename_component(NAME ${FOLDER} NAME)
   file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${FOLDER}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${FOLDER}/*.h)
   if(NOT SOURCES)
@@ -71,9 +77,12 @@ function(fotarium_test FOLDER)
   add_executable(test_${NAME} ${SOURCES})
   target_include_directories(test_${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(test_${NAME} PRIVATE fotarium_flags ${ARG_LINK} GTest::gtest_main)
+  if(NOT ARG_SWIFT)
+    set_target_properties(test_${NAME} PROPERTIES FOTARIUM_PLAIN ON)
+  endif()
   if("${ARG_LINK}" MATCHES "room_qt")
-    fotarium_use_headers(test_${NAME} fotarium_qt_headers)
-  elseif(NOT "${ARG_LINK}" MATCHES "Qt6::|MAGICK|room_strips")
+    fotarium_use_headers(test_${NAME} fotarium_qt_test_headers)
+  elseif(NOT (ARG_SWIFT AND FOTARIUM_SANITIZE) AND NOT "${ARG_LINK}" MATCHES "Qt6::|MAGICK|room_strips")
     fotarium_use_headers(test_${NAME} fotarium_test_headers)
   endif()
   target_compile_definitions(test_${NAME} PRIVATE FOTARIUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")

@@ -10,18 +10,19 @@ namespace {
 constexpr int kWidth = 60;
 constexpr int kHeight = 40;
 
-// Frame N: one colour, with the key in the lower half.
+// Frame n: one colour, with the key in the lower half.
+std::vector<std::uint8_t> MakeRecord(int nFrame) {
+    std::vector<std::uint8_t> arrBytes;
+    for (std::size_t i = 0; i < kFrameRecordBytes / 3; ++i) {
+        const bool bKey = i >= kFrameRecordBytes / 6;
+        for (const int n : {bKey ? 254 : 200 - nFrame, bKey ? 1 : nFrame, bKey ? 1 : 90})
+            arrBytes.push_back(static_cast<std::uint8_t>(n));
+    }
+    return arrBytes;
+}
 template <int N>
 const std::uint8_t* Record() {
-    static const std::vector<std::uint8_t> arrRecord = [] {
-        std::vector<std::uint8_t> arrBytes;
-        for (std::size_t i = 0; i < kFrameRecordBytes / 3; ++i) {
-            const bool bKey = i >= kFrameRecordBytes / 6;
-            for (const int n : {bKey ? 254 : 200 - N, bKey ? 1 : N, bKey ? 1 : 90})
-                arrBytes.push_back(static_cast<std::uint8_t>(n));
-        }
-        return arrBytes;
-    }();
+    static const std::vector<std::uint8_t> arrRecord = MakeRecord(N);
     return arrRecord.data();
 }
 const std::uint8_t* NoRecord() {

@@ -36,7 +36,7 @@ CFileWindow::CFileWindow(AcceptMode mode, const CFileDialogRequest& request, QWi
     setLabelText(LookIn, "查找范围:");
     setLabelText(Accept, mode == AcceptOpen ? "打开(&O)" : "保存(&S)");
     setLabelText(Reject, "取消");
-    if (mode == AcceptSave) setDefaultSuffix("jpg");
+    if (mode == AcceptSave) setDefaultSuffix(ToQt(request.strSuffix));
     if (!request.strDefaultName.empty()) selectFile(PathToQt(request.strDefaultName));
     SetUpColumns();
     if (mode == AcceptOpen) SetUpUnlisted();

@@ -10,8 +10,8 @@
 #include "window/FileDialogs.h"
 
 // The window of the file dialogs: a list of the current folder with a line to type a name in. When opening, a
-// name need not exist and need not match the filter. When saving, a name without extension gets "jpg" and an
-// existing file is asked about.
+// name need not exist and need not match the filter. When saving, a name without extension gets the request's
+// and an existing file is asked about.
 class CFileWindow : public QFileDialog {
   public:
     CFileWindow(AcceptMode mode, const CFileDialogRequest& request, QWidget* pParent);

@@ -2,6 +2,7 @@
 
 #include "qt/Pictures.h"
 #include "qt/QtClipboard.h"
+#include "qt/QtClock.h"
 #include "qt/QtColorDialogs.h"
 #include "qt/QtDrives.h"
 #include "qt/QtFileDialogs.h"
@@ -11,6 +12,7 @@
 #include "qt/QtMessageBoxes.h"
 #include "qt/QtModalDialogs.h"
 #include "qt/QtPopupMenus.h"
+#include "qt/QtPrinters.h"
 #include "qt/QtSerialPorts.h"
 #include "qt/QtShell.h"
 #include "qt/QtTextRasterizer.h"
@@ -26,8 +28,10 @@ class CQtPlatform {
           m_modals(m_pictures, m_timers),
           m_files(m_pictures, m_timers),
           m_shell(m_boxes),
-          m_platform{m_boxes,     m_modals,  m_files, m_colors, m_fonts, m_menus, m_timers,    m_wait,
-                     m_clipboard, m_folders, m_text,  m_drives, m_shell, bitmaps, m_libraries, m_ports} {}
+          m_printers(m_files),
+          m_platform{m_boxes,  m_modals, m_files,     m_colors,  m_fonts,    m_menus,
+                     m_timers, m_wait,   m_clipboard, m_folders, m_text,     m_drives,
+                     m_shell,  bitmaps,  m_libraries, m_ports,   m_printers, m_clock} {}
     CQtPlatform(const CQtPlatform&) = delete;
     CQtPlatform& operator=(const CQtPlatform&) = delete;
 
@@ -51,5 +55,7 @@ class CQtPlatform {
     CQtShell m_shell;
     CQtLibraries m_libraries;
     CQtSerialPorts m_ports;
+    CQtPrinters m_printers;
+    CQtClock m_clock;
     CPlatform m_platform;
 };

@@ -10,6 +10,7 @@ struct CFileDialogRequest {
     // "JPG Files (*.JPG)|*.jpg||".
     std::string strFilter;
     std::string strDefaultName;
+    std::string strSuffix = "jpg";  // of a name that is typed without one, when saving
 };
 
 struct CFileChoice {

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "window/Clock.h"
+
+class CQtClock : public CClock {
+  public:
+    CDate Today() override;
+};

@@ -1,0 +1,78 @@
+#include "qt/QtPrinters.h"
+
+#include <QApplication>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <algorithm>
+
+#include "qt/ArrowCursor.h"
+#include "qt/PaperNumbers.h"
+#include "qt/PdfDevice.h"
+#include "qt/PrintQueue.h"
+#include "qt/QueueDevice.h"
+#include "window/FileDialogs.h"
+
+namespace {
+
+// Null if the system has none.
+QPrinterInfo DefaultPrinter() {
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (!info.isNull()) return info;
+    const QStringList arrNames = QPrinterInfo::availablePrinterNames();
+    return arrNames.isEmpty() ? info : QPrinterInfo::printerInfo(arrNames.constFirst());
+}
+
+// The finest that the printer offers, up to where every pixel of a large photograph is a dot or more: beyond,
+// the pages only grow.
+int ChooseResolution(const QPrinter& printer) {
+    constexpr int kEnough = 600;
+    QList<int> arrOffered = QPrinterInfo(printer).supportedResolutions();
+    if (arrOffered.isEmpty()) return kEnough;
+    std::sort(arrOffered.begin(), arrOffered.end());
+    const auto it = std::upper_bound(arrOffered.cbegin(), arrOffered.cend(), kEnough);
+    return it == arrOffered.cbegin() ? *it : *std::prev(it);
+}
+
+// As wide margins as the printer needs on this paper, and no wider.
+void ReachAsFarAsItCan(QPrinter& printer) {
+    QPageLayout layout = printer.pageLayout();
+    layout.setMargins(layout.minimumMargins());
+    printer.setPageLayout(layout);
+}
+
+std::unique_ptr<QPrinter> SetUpPrinter(const QPrinterInfo& info) {
+    auto pPrinter = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+    if (info.defaultPageSize().isValid()) pPrinter->setPageSize(info.defaultPageSize());
+    if (QueueOrientation(info.printerName()) == EOrientation::Landscape)
+        pPrinter->setPageOrientation(QPageLayout::Landscape);
+    return pPrinter;
+}
+
+}  // namespace
+
+std::optional<CDeviceMode> CQtPrinters::DefaultMode() {
+    const QPrinterInfo info = DefaultPrinter();
+    if (info.isNull()) return PaperModeOf(CPdfDevice::Paper().pageSize());
+    CDeviceMode mode = PaperModeOf(info.defaultPageSize());
+    mode.orientation = QueueOrientation(info.printerName());
+    return mode;
+}
+
+std::unique_ptr<CPrintDevice> CQtPrinters::RunDialog() {
+    const QPrinterInfo info = DefaultPrinter();
+    if (info.isNull()) return AskForFile();
+    const CArrowCursor arrow;
+    std::unique_ptr<QPrinter> pPrinter = SetUpPrinter(info);
+    QPrintDialog window(pPrinter.get(), QApplication::activeModalWidget());
+    window.setOptions(QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
+    if (window.exec() != QDialog::Accepted) return nullptr;
+    pPrinter->setResolution(ChooseResolution(*pPrinter));
+    ReachAsFarAsItCan(*pPrinter);
+    return std::make_unique<CQueueDevice>(std::move(pPrinter));
+}
+
+std::unique_ptr<CPrintDevice> CQtPrinters::AskForFile() {
+    const auto choice = m_files.RunSave({"PDF Files (*.pdf)|*.pdf||", "打印.pdf", "pdf"});
+    return choice ? std::make_unique<CPdfDevice>(choice->strPath) : nullptr;
+}

@@ -63,7 +63,8 @@ void Send(CPhoneProgram& program, const CPhoneFolder& folder, int nFiles) {
 // What a picture cannot be sent without: decoded twice, its JPEG and that of its thumbnail made, and both
 // brought to where they are to be.
 void SendBare(const std::string& strSource, const std::string& strTarget) {
-    CxImage(strSource, ImageType::kJpeg);
+    const CxImage checked(strSource, ImageType::kJpeg);
+    if (!checked.IsValid()) std::abort();
     const CxImage image(strSource, ImageType::kJpeg);
     CxImage thumb(image);
     if (!thumb.Resample(kLargeThumb.cx, kLargeThumb.cy) || !thumb.Resample(kPhoneScreen.cx, kPhoneScreen.cy))

@@ -24,6 +24,8 @@ const char* NameOf(EQuestion question) {
             return "phonefiles";
         case EQuestion::PhoneSize:
             return "phonesize";
+        case EQuestion::Print:
+            return "print";
         case EQuestion::Modal:
             break;
     }

@@ -24,6 +24,7 @@ enum class EQuestion {
     Port,        // which port the phone is on
     PhoneFiles,  // which of its files
     PhoneSize,   // which of its sizes
+    Print,       // the print preview, and the print dialog behind it
     Modal
 };
 
@@ -47,8 +48,8 @@ struct CAnswer {
     int nMenuId = 0;
     int nPort = 0;  // of COM1 and so on
     int nRow = 0;   // of the phone's sizes
-    // What the hand does in the list of the phone's files, one step a piece: a step that takes a number has
-    // it behind its name, and a number alone ticks that row.
+    // What the hand does in the list of the phone's files or in the print preview, one step a piece; a step
+    // that takes a number has it behind its name.
     std::vector<std::string> arrSteps;
     int nLine = 0;  // of the script that gave it, 0 for none
 };

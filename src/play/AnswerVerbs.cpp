@@ -100,6 +100,15 @@ bool TakePhoneFiles(const CWords& arrWords, CAnswer& answer) {
     return !answer.arrSteps.empty();
 }
 
+bool TakePrint(const CWords& arrWords, CAnswer& answer) {
+    constexpr std::array<std::string_view, 4> kSteps = {"stamp", "ok", "cancel", "ready"};
+    answer.question = EQuestion::Print;
+    answer.arrSteps.assign(arrWords.begin() + 1, arrWords.end());
+    return !answer.arrSteps.empty() && std::ranges::all_of(answer.arrSteps, [&](const std::string& strStep) {
+        return std::ranges::find(kSteps, strStep) != kSteps.end();
+    });
+}
+
 bool TakeAnswerWords(const CStage& stage, const CWords& arrWords, CAnswer& answer) {
     const std::string& strKind = arrWords[0];
     if (strKind == "box") return TakeBox(arrWords, answer);
@@ -112,6 +121,7 @@ bool TakeAnswerWords(const CStage& stage, const CWords& arrWords, CAnswer& answe
     if (strKind == "port") return TakeNumber(arrWords, EQuestion::Port, &CAnswer::nPort, 1, answer);
     if (strKind == "phonesize") return TakeNumber(arrWords, EQuestion::PhoneSize, &CAnswer::nRow, 0, answer);
     if (strKind == "phonefiles") return TakePhoneFiles(arrWords, answer);
+    if (strKind == "print") return TakePrint(arrWords, answer);
     answer.bCancel = true;
     return strKind == "cancel" && arrWords.size() == 1;
 }
@@ -159,6 +169,12 @@ constexpr CVerb kVerbs[] = {
      "answer phonefiles sort 2 tick 0 ok"},
     {"answer", "phonesize ROW", 1, kMostWords, Answer,
      "A row of the phone's sizes for the picture to be sent; they count from 0.", "answer phonesize 0"},
+    {"answer", "print [stamp] ok|cancel", 1, kMostWords, Answer,
+     "What the hand does in the print preview: prints, with Ok or Cancel in the print dialog, and ticks the "
+     "date before. Words may be more, in any order, and ready among them, which heals the printer in "
+     "between; "
+     "a preview that still stands behind the last word is cancelled.",
+     "answer print stamp ok"},
     {"answer", "cancel", 1, kMostWords, Answer,
      "Leaves the next question without a choice, of whatever kind it is but a box.", "answer cancel"},
 };

@@ -136,7 +136,9 @@ bool FindPicture(CStage& stage, const std::string& strWhich, CPixels& pixels) {
     if (strWhich == "committed") pixels = paper.Committed().Pixels();
     if (strWhich == "scratch") pixels = paper.Scratch().Pixels();
     if (strWhich == "window") pixels = ComposeWindow(stage.host, stage.platform.Bitmaps()).Pixels();
-    return strWhich == "canvas" || strWhich == "committed" || strWhich == "scratch" || strWhich == "window";
+    if (strWhich == "page") pixels = stage.platform.Printers().Page();
+    constexpr std::array<std::string_view, 5> kDrawn = {"canvas", "committed", "scratch", "window", "page"};
+    return std::ranges::find(kDrawn, strWhich) != kDrawn.end();
 }
 
 std::string Dump(CStage& stage, const CWords& arrWords) {
@@ -168,9 +170,10 @@ constexpr CVerb kVerbs[] = {
      "Prints what the program had the system do with files since the last such line: open, bin or delete, "
      "whether the system asked, whether all was done, and the paths by their drives.",
      "shell"},
-    {"dump", "work|display|opened|preview|canvas|committed|scratch|window PATH", 2, 2, Dump,
+    {"dump", "work|display|opened|preview|canvas|committed|scratch|window|page PATH", 2, 2, Dump,
      "Writes a picture as PPM, 24 bits: one of the edit images, the effect's preview, what the canvas shows, "
-     "the picture of DRAW, the same with the stroke in progress, or the window.",
+     "the picture of DRAW, the same with the stroke in progress, the window, or "
+     "the last printed page at its dots, by a whole factor smaller if it is higher than 1000.",
      "dump work after.ppm"},
 };
 

@@ -31,8 +31,8 @@ CScriptedPlatform::~CScriptedPlatform() {
 }
 
 CPlatform CScriptedPlatform::Get() {
-    return {*this, *this, *this, *this, *this, *this, m_timers,    *this,
-            *this, *this, *this, *this, *this, *this, m_libraries, m_ports};
+    return {*this, *this, *this, *this, *this, *this,       m_timers, *this,      *this,
+            *this, *this, *this, *this, *this, m_libraries, m_ports,  m_printers, m_clock};
 }
 
 // One entry for each dialog of the program's own that a user of this platform can work through.
@@ -46,6 +46,7 @@ void CScriptedPlatform::AddRunners() {
     SetRunner(kDlgPortSelect, [this](CPlayHost& host) { RunPort(host); });
     SetRunner(kDlgPhoneFile, [this](CPlayHost& host) { RunPhoneFiles(host); });
     SetRunner(kDlgPhoneSize, [this](CPlayHost& host) { RunPhoneSize(host); });
+    SetRunner(kDlgPrint, [this](CPlayHost& host) { RunPrint(host); });
 }
 
 // Types what the answer has, with the ratio kept or not, and clicks Ok.
@@ -62,6 +63,22 @@ void CScriptedPlatform::RunSize(CPlayHost& host) {
     if (answer->strHeight) fnDo(host.Type(kSizeHeight, *answer->strHeight));
     fnDo(host.Click(kSizeOk));
     if (!strWhy.empty()) m_arrProblems.push_back({EProblem::Impossible, strWhy});
+}
+
+void CScriptedPlatform::RunPrint(CPlayHost& host) {
+    const std::optional<CAnswer> answer = TakeAnswer(EQuestion::Print);
+    const std::vector<std::string> arrSteps = answer ? answer->arrSteps : std::vector<std::string>{};
+    for (const std::string& strStep : arrSteps) {
+        if (host.Dialog().HasEnded())
+            return Complain("the print preview has gone before \"" + strStep + "\"");
+        if (strStep == "ready") {
+            m_printers.SetPrinter(m_printers.Printer());
+            continue;
+        }
+        m_printers.AnswerDialog(strStep == "ok");
+        Complain(host.Click(strStep == "stamp" ? kPrintDate : kPrintOk));
+    }
+    if (!host.Dialog().HasEnded()) Complain(host.Click(kPrintCancel));
 }
 
 void CScriptedPlatform::PaintAll() {

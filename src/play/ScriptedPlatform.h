@@ -11,6 +11,7 @@
 #include "play/PlayHost.h"
 #include "play/ScriptedLibraries.h"
 #include "play/ScriptedPorts.h"
+#include "play/ScriptedPrinters.h"
 #include "play/VirtualTimers.h"
 #include "window/Bitmaps.h"
 #include "window/Clipboard.h"
@@ -128,6 +129,8 @@ class CScriptedPlatform : private CMessageBoxes,
     // None at first.
     CScriptedLibraries& Libraries() { return m_libraries; }
     CScriptedPorts& Ports() { return m_ports; }
+    CScriptedPrinters& Printers() { return m_printers; }
+    CScriptedClock& Clock() { return m_clock; }
     void SetInstallValue(const std::string& strValue) { m_strInstallValue = strValue; }
     std::optional<std::vector<std::uint8_t>>& ClipboardPicture() { return m_clipboard; }
 
@@ -143,6 +146,7 @@ class CScriptedPlatform : private CMessageBoxes,
     void RunPhoneFiles(CPlayHost& host);
     std::string DoInPhoneFiles(CPlayHost& host, const std::string& strStep);
     void RunPhoneSize(CPlayHost& host);
+    void RunPrint(CPlayHost& host);
     void Complain(const std::string& strWhy);
     CAsked& Ask(EQuestion question);
     bool MayDelete(bool bToBin, bool bAsk);
@@ -181,6 +185,8 @@ class CScriptedPlatform : private CMessageBoxes,
     CVirtualTimers m_timers;
     CScriptedLibraries m_libraries;
     CScriptedPorts m_ports;
+    CScriptedPrinters m_printers;
+    CScriptedClock m_clock;
     CBitmaps* m_pBitmaps = nullptr;
     std::optional<std::vector<std::uint8_t>> m_clipboard;
     std::string m_strInstallValue;

@@ -49,6 +49,16 @@ const CPhoneState& Facts(const CStage& stage) {
     return stage.dialog.Link().State();
 }
 
+std::string Printed(const CStage& stage) {
+    const CScriptedPrinters& printers = stage.platform.Printers();
+    const CRect& rc = printers.PicturePlace();
+    std::string strText = std::to_string(printers.Documents());
+    // A document has one page.
+    for (const int n : {printers.Documents(), rc.left, rc.top, rc.Width(), rc.Height()})
+        strText.append(1, ' ').append(std::to_string(n));
+    return strText;
+}
+
 std::string Phone(const CStage& stage) {
     std::string strText = std::to_string(Facts(stage).m_nMaxFiles);
     for (const CSize& size : Facts(stage).m_arrPhoneSizes)
@@ -125,6 +135,10 @@ constexpr CStateEntry kStates[] = {
      "four corners, or place and size of the mesh and both its grids."},
     {"connected", [](const CStage& s) { return Flag(s.dialog.Link().IsConnected()); },
      "Whether the phone is connected."},
+    {"printed", Printed,
+     "How many documents have been printed, how many pages, and of the last one place and size of the "
+     "picture "
+     "in dots: X Y WIDTH HEIGHT."},
     {"phone", Phone, "The most files that it stores, -1 for no limit, and its sizes as WxH."},
     {"port", [](const CStage& s) { return std::to_string(Facts(s).m_nPort); }, "Number of its port."},
     {"modemport", [](const CStage& s) { return std::to_string(Facts(s).m_nModemPort); },

@@ -54,6 +54,10 @@ std::span<const CVerb> BrowseVerbs();
 std::span<const CVerb> AnswerVerbs();
 std::span<const CVerb> LookVerbs();
 
+// The printer and the day of the machine.
+std::string DoPrinter(CMachine& machine, const CWords& arrWords);
+std::string DoToday(CMachine& machine, const CWords& arrWords);
+
 // Null if there is no such verb.
 const CVerb* FindVerb(const std::string& strName);
 

@@ -49,6 +49,8 @@ inline constexpr int kBmpSprayLargeLit = 174;
 // The two pages of the size dialog
 inline constexpr int kBmpSizeOwn = 497;
 inline constexpr int kBmpSizePhone = 498;
+// The ground of the print preview
+inline constexpr int kBmpPrint = 301;
 // The phone's dialogs: their grounds; what runs while they wait, one picture a step of 386 by 182 at
 // kLinkFrameAt; the strips of 369 by 26 below that, at kLinkStripAt
 inline constexpr int kBmpLink = 637;

@@ -4,6 +4,7 @@
 
 inline constexpr int kDlgPreview = 101;
 inline constexpr int kDlgMain = 102;
+inline constexpr int kDlgPrint = 153;
 inline constexpr int kDlgSize = 154;
 inline constexpr int kDlgPortSelect = 159;
 inline constexpr int kDlgPhoneFile = 160;
@@ -129,6 +130,13 @@ inline constexpr int kSizeKeepRatio = 1110;
 inline constexpr int kSizeKeepRatioLabel = 1252;
 inline constexpr int kSizeOk = 1103;
 inline constexpr int kSizeCancel = 1106;
+
+// The print preview
+inline constexpr int kPrintView = 59650;
+inline constexpr int kPrintDate = 1152;
+inline constexpr int kPrintDateLabel = 1251;
+inline constexpr int kPrintOk = 1089;
+inline constexpr int kPrintCancel = 2;
 
 // The phone's dialogs: which port, which of its files, which of its sizes, and the line below a transfer
 inline constexpr int kPortList = 1124;

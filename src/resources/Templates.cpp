@@ -36,6 +36,20 @@ constexpr CControlLookRow kSizeLooks[] = {
     {kSizePhoneList, {.border = EBorder::None}},
 };
 
+constexpr CControlTemplate kPrintControls[] = {
+    {kPrintView, EControlKind::View, CRect::FromPlace(10, 14, 336, 336)},
+    {kPrintDate, EControlKind::Check, CRect::FromPlace(9, 364, 14, 14)},
+    {kPrintDateLabel, EControlKind::BitmapLabel, CRect::FromPlace(25, 363, 49, 13), "1251"},
+    {kPrintOk, EControlKind::BitmapButton, CRect::FromPlace(86, 412, 86, 24), "PPRINT"},
+    {kPrintCancel, EControlKind::BitmapButton, CRect::FromPlace(188, 412, 86, 24), "PCANCEL"},
+};
+
+constexpr CControlLookRow kPrintLooks[] = {
+    {kPrintView, {.szSpoken = "打印预览"}},      {kPrintDate, {.szSpoken = "日期表示"}},
+    {kPrintDateLabel, {.szSpoken = "日期表示"}}, {kPrintOk, {.szSpoken = "打印"}},
+    {kPrintCancel, {.szSpoken = "取消"}},
+};
+
 constexpr CControlTemplate kPortControls[] = {
     {kPortList, EControlKind::TextList, CRect::FromPlace(17, 14, 229, 80)},
     {kPortOk, EControlKind::BitmapButton, CRect::FromPlace(38, 102, 86, 24), "PORTSELOK"},
@@ -109,6 +123,8 @@ const CDialogTemplate kSplashDialog = {kDlgSplash, "", {447, 350}, EDialogFrame:
 const CDialogTemplate kPreviewPanel = {kDlgPreview, "", {142, 232}, EDialogFrame::Child, kPreviewControls};
 const CDialogTemplate kSizeDialog = {kDlgSize,      "大小变更", {400, 192}, EDialogFrame::Plain,
                                      kSizeControls, kSizeLooks, kSizeOk,    kSizeCancel};
+const CDialogTemplate kPrintDialog = {kDlgPrint,      "打印 [打印预览]", {358, 452}, EDialogFrame::Plain,
+                                      kPrintControls, kPrintLooks,       kPrintOk,   kPrintCancel};
 const std::span<const CMenuItemTemplate> kPictureMenu = kMenuItems;
 const CDialogTemplate kPortSelectDialog = {kDlgPortSelect, "포트 설정", {263, 136}, EDialogFrame::Plain,
                                            kPortControls,  kPortLooks,  kPortOk,    kPortCancel};

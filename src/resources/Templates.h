@@ -10,6 +10,8 @@ extern const CDialogTemplate kSplashDialog;
 extern const CDialogTemplate kPreviewPanel;
 // The dialog of the display size, on the page of the user's own size.
 extern const CDialogTemplate kSizeDialog;
+// The print preview.
+extern const CDialogTemplate kPrintDialog;
 // The menu of a right click on the picture.
 extern const std::span<const CMenuItemTemplate> kPictureMenu;
 // The phone: which port, which of its files, with the menu of a right click there, which of its sizes; what

@@ -26,6 +26,11 @@ inline constexpr char kTextTooLarge[] = "最大以上的大小";
 inline constexpr char kTextTooSmall[] = "最小以下的大小";
 inline constexpr char kTextNoPhoneSizes[] = "无手机信息，请先连接手机";
 
+// Printing
+inline constexpr char kTitlePreview[] = "打印预览";
+inline constexpr char kTextPaperUnknown[] = "不支持此种用纸。显示A4纸";
+inline constexpr char kTextTinyDate[] = "表示日期的数字很小还要表示吗？";
+
 // Frames
 inline constexpr char kTextNoFrames[] = "没有搜索到StickerFrameData.dll文件";
 

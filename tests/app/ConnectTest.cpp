@@ -5,6 +5,9 @@
 
 #include "app/PhoneWorkshop.h"
 #include "engines/linkset/UserSet.h"
+#include "link/PhoneSizeDlg.h"
+#include "link/PortSelectDlg.h"
+#include "resources/BitmapIds.h"
 
 namespace {
 
@@ -99,6 +102,61 @@ TEST_F(ConnectTest, WithoutPortOrLibraryItSaysSo) {
     m_platform.TakeProblems();
 }
 
+// Frame by frame, round and round; a picture that is asked for has been drawn.
+TEST_F(ConnectTest, ThePicturesRunWhileItWorks) {
+    struct CNotedBitmaps : CBitmaps {
+        const CxImage* Find(const std::string& strName, int /*nDensity*/) override {
+            const int n = std::atoi(strName.c_str());
+            const bool bFrame = (n >= kBmpConnectFrame && n < kBmpConnectFrame + kConnectFrames) ||
+                                (n >= kBmpTakeFrame && n < kBmpTakeFrame + kTransferFrames);
+            if (bFrame && (arrFrames.empty() || arrFrames.back() != n)) arrFrames.push_back(n);
+            return nullptr;
+        }
+        std::vector<int> arrFrames;
+    } bitmaps;
+    Connect();
+    m_platform.SetBitmaps(&bitmaps);
+    m_dialog.OnCommand(kCmdConnect);
+    const auto fnRun = [](int nFirst, int nFrames, int nFrom, int nSteps) {
+        std::vector<int> arrRun(static_cast<std::size_t>(nSteps));
+        for (int i = 0; i < nSteps; ++i) arrRun[static_cast<std::size_t>(i)] = nFirst + (nFrom + i) % nFrames;
+        return arrRun;
+    };
+    EXPECT_EQ(bitmaps.arrFrames, fnRun(kBmpConnectFrame, kConnectFrames, 0, 40));
+    Phone().arrFiles = {{.m_nFileId = 1, .m_strFileName = "one"}};
+    Phone().fnCode = [&](const std::string& strCall) -> std::int32_t {
+        if (strCall != "GetFilefromPhone") return LINK_OK;
+        bitmaps.arrFrames.clear();
+        m_platform.Tick(9 * 150);
+        return LINK_OK;
+    };
+    AnswerFiles({"tick 0", "ok"});
+    m_dialog.OnCommand(kCmdTake);
+    EXPECT_EQ(bitmaps.arrFrames, fnRun(kBmpTakeFrame, kTransferFrames, 2, 9));
+    m_platform.SetBitmaps(nullptr);
+    m_dialog.Thum().List().StopFill();
+    Boxes();
+}
+
+TEST_F(ConnectTest, TheSmallDialogsStartAndEndAsTheyShow) {
+    m_dialog.Thum().List().StopFill();
+    CPhoneSizeDlg sizes({{640, 480}, {176, 144}});
+    {
+        CPlayHost host(m_platform, sizes);
+        host.Init();
+        EXPECT_EQ(sizes.Controls().Selection(kPhoneSizes), 0);
+        EXPECT_EQ(host.Click(kPhoneSizeOk), "");
+    }
+    EXPECT_EQ(sizes.Chosen(), (CSize{640, 480}));
+    CMessageBoxes& boxes = m_platform.Get().boxes;
+    CPortSelectDlg ports({"OrvoE (COM7)"}, boxes);
+    CPlayHost host(m_platform, ports);
+    host.Init();
+    EXPECT_EQ(host.Click(kPortCancel), "");
+    EXPECT_TRUE(ports.HasEnded());
+    EXPECT_EQ(ports.EndCode(), CDialog::kDialogCancel);
+}
+
 // Every function that gives a code with every code, in the exchange that calls it, on a phone that restarts
 // and on one that does not.
 TEST_F(ConnectTest, EveryCodeOfEveryFunctionIsTold) {
@@ -162,6 +220,11 @@ TEST_F(ConnectTest, EveryCodeOfEveryFunctionIsTold) {
                 if (bTold && !pRow->bKeepsUp) {
                     EXPECT_FALSE(Facts().m_bConnected);
                     EXPECT_EQ(Keys(), "x--");
+                }
+                if (bTold && pRow->bKeepsUp && row.nCommand != kCmdConnect) {
+                    const char* const szFailed = row.nCommand == kCmdTake ? "--x" : "-x-";
+                    const bool bLine = std::string(row.szFunction) == "ConnectToPhone";
+                    EXPECT_EQ(Keys(), bLine ? szFailed : "-xx");
                 }
                 // Whatever was opened is closed.
                 const std::string strCalls = Calls();

@@ -104,6 +104,7 @@ TEST_F(SendTest, WhatCannotGoIsToldBeforeAnythingGoes) {
     Click(kCmdSend);
     EXPECT_EQ(Boxes(), "不支持照片传送|");
     EXPECT_EQ(Calls(), "");
+    EXPECT_TRUE(Facts().m_arrPhoneSizes.empty()) << "those of the phone before";
 }
 
 TEST_F(SendTest, TheLimitOfFilesAndTheFreeMemoryHold) {

@@ -108,6 +108,9 @@ TEST_F(Phone, ASentFileStaysAndTakesRoom) {
     Fact("memory 1000");
     Fact("mostfiles 4");
     Fact("others 1");
+    Fact("card 1");
+    PutFile("card/not counted", "x");
+    ASSERT_EQ(Tool("card in '" + m_strPhone + "'"), 0);
     const std::string strLarge = m_folder.Write("large", std::string(600, 'a'));
     const std::string strSmall = m_folder.Write("small", std::string(300, 'b'));
     ASSERT_EQ(Open(), LINK_OK);
@@ -304,6 +307,9 @@ TEST_F(Phone, ToolSaysWhatItCannotDo) {
         EXPECT_EQ(Tool(strWords), 2) << strWords;
         EXPECT_TRUE(m_strPrinted.starts_with("fotarium-phone: ")) << m_strPrinted;
     }
+    EXPECT_EQ(Tool("fact" + strNew + " sizes 640x480 176x144"), 0);
+    EXPECT_EQ(Tool("fact" + strNew + " sizes"), 0);
+    EXPECT_EQ(m_strPrinted, "640x480 176x144\n");
     EXPECT_EQ(Tool("card in" + strNew), 1) << "it has no place for one";
 }
 

@@ -41,6 +41,18 @@ TEST_F(ProgramTest, PlaysTheWalk) {
     EXPECT_NE(PixelAt(window, 5, 5), PixelAt(window, 345, 400));
 }
 
+TEST_F(ProgramTest, PlaysThePrint) {
+    MakePicture("lake.png", 700, 500);
+    MakePicture("stamp.png", 90, 70);
+    ExpectPlays("print");
+    // 300 dots an inch, one of four kept each way: the picture begins with its first pixel on white.
+    const CPixels page = PixelsOf("page.ppm");
+    ASSERT_EQ(page.Height(), 877);
+    EXPECT_EQ(PixelAt(page, 29, 238), CColor(255, 255, 255));
+    EXPECT_EQ(PixelAt(page, 30, 238), PixelAt(NumberedPixels(700, 500), 0, 0));
+    EXPECT_EQ(PixelAt(page, 590, 638), PixelAt(NumberedPixels(700, 500), 699, 499));
+}
+
 // The sample photographs: browsed, thrown away, turned, sized, saved, with the skin's folders in the list.
 TEST_F(ProgramTest, PlaysTheBrowse) {
     std::filesystem::create_directories("photos/ZEFA肖像/旧");

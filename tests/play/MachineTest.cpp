@@ -60,6 +60,33 @@ TEST_F(MachineTest, PortsAndTheModem) {
     EXPECT_EQ(Do("port COM5 shut"), "\"shut\" is no state of a port");
 }
 
+TEST_F(MachineTest, PrinterAndDay) {
+    CPrinters& printers = m_platform->Get().printers;
+    EXPECT_EQ(printers.DefaultMode(), CDeviceMode{});
+    EXPECT_EQ(Do("printer A 256 landscape 600 printable 7 8 size 1000 1500\ntoday 2026 12 31"), "");
+    EXPECT_EQ(printers.DefaultMode(), (CDeviceMode{256, {1000, 1500}, EOrientation::Landscape}));
+    EXPECT_EQ(m_platform->Get().clock.Today(), (CDate{2026, 12, 31}));
+    m_platform->Printers().AnswerDialog(true);
+    const auto device = printers.RunDialog();
+    ASSERT_NE(device, nullptr);
+    EXPECT_EQ(device->DotsPerInch(), (CSize{600, 600}));
+    EXPECT_EQ(device->PrintableDots(), (CSize{7, 8}));
+    // All of the paper, turned
+    EXPECT_EQ(CScriptedPrinters::DotsOf({256, {1000, 1500}, EOrientation::Landscape}, 600),
+              (CSize{3543, 2362}));
+    EXPECT_EQ(Do("printer none"), "");
+    EXPECT_EQ(printers.DefaultMode(), std::nullopt);
+    for (const auto& [szLine, szWhy] :
+         {std::pair{"printer A", "\"A\" is no state of a printer"},
+          {"printer A 9 portrait", "it is printer NAME PAPER portrait|landscape DPI"},
+          {"printer A -1 portrait 300", "\"-1\" is no paper"},
+          {"printer A 9 upright 300", "\"upright\" is no orientation"},
+          {"printer A 9 portrait 0", "\"0\" is no resolution"},
+          {"printer A 9 portrait 300 size 1", "\"size\" is no size of a paper or of what is printable"},
+          {"today 2026 13 1", "there is no such day"}})
+        EXPECT_EQ(Do(szLine), szWhy);
+}
+
 TEST_F(MachineTest, InstallFolderLibraryAndFolderPhone) {
     EXPECT_EQ(Do("install new/program"), "");
     EXPECT_EQ(m_platform->Get().folders.InstallValue(), m_folder.Path("new/program"));

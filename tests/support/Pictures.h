@@ -100,6 +100,9 @@ inline void PrintTo(const CPixels& pixels, std::ostream* pStream) {
 inline void PrintTo(const CSize& size, std::ostream* pStream) {
     *pStream << size.cx << " by " << size.cy;
 }
+inline void PrintTo(const CRect& rc, std::ostream* pStream) {
+    *pStream << rc.left << ',' << rc.top << ' ' << rc.Width() << " x " << rc.Height();
+}
 inline void PrintTo(const CPoint& pt, std::ostream* pStream) {
     *pStream << "(" << pt.x << "," << pt.y << ")";
 }

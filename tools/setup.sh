@@ -12,6 +12,8 @@ packages=(
     libjpeg62-turbo-dev libmagick++-6.q16-dev libmagickcore-6.q16-6-extra
     # Faces with Chinese and Korean characters.
     fonts-wqy-zenhei fonts-noto-cjk
+    # The print service that tests print on; it is started and ended by them.
+    cups-daemon
     libgtest-dev libbenchmark-dev
 )
 if [[ ${1-} == lint ]]; then

@@ -44,6 +44,10 @@ QPageLayout CPdfDevice::Paper() {
     return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()};
 }
 
+CFileDialogRequest CPdfDevice::Request() {
+    return {"PDF Files (*.pdf)|*.pdf||", "打印.pdf", "pdf"};
+}
+
 CPdfDevice::CPdfDevice(std::string strPath, QPageLayout layout)
     : m_strPath(std::move(strPath)), m_layout(std::move(layout)) {}
 

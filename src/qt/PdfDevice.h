@@ -3,9 +3,12 @@
 #include <QIODevice>
 #include <QPageLayout>
 #include <QPdfWriter>
+#include <memory>
+#include <vector>
 
 #include "image/AtomicFile.h"
 #include "qt/BandPainter.h"
+#include "window/FileDialogs.h"
 #include "window/Printers.h"
 
 // A file as Qt's PDF engine writes it, there as a whole or not at all. The engine passes over what goes
@@ -34,6 +37,8 @@ class CPdfDevice : public CPrintDevice {
   public:
     // Upright A4.
     static QPageLayout Paper();
+    // Asks where the file is to go.
+    static CFileDialogRequest Request();
 
     explicit CPdfDevice(std::string strPath, QPageLayout layout = Paper());
     ~CPdfDevice() override;

@@ -73,6 +73,6 @@ std::unique_ptr<CPrintDevice> CQtPrinters::RunDialog() {
 }
 
 std::unique_ptr<CPrintDevice> CQtPrinters::AskForFile() {
-    const auto choice = m_files.RunSave({"PDF Files (*.pdf)|*.pdf||", "打印.pdf", "pdf"});
+    const auto choice = m_files.RunSave(CPdfDevice::Request());
     return choice ? std::make_unique<CPdfDevice>(choice->strPath) : nullptr;
 }

@@ -12,8 +12,9 @@ packages=(
     libjpeg62-turbo-dev libmagick++-6.q16-dev libmagickcore-6.q16-6-extra
     # Faces with Chinese and Korean characters.
     fonts-wqy-zenhei fonts-noto-cjk
-    # The print service that tests print on; it is started and ended by them.
-    cups-daemon
+    # The face of the date in printed pictures. Tests print on a print service that they start themselves, and read
+    # printed files with poppler.
+    fonts-wine cups-daemon poppler-utils
     libgtest-dev libbenchmark-dev
 )
 if [[ ${1-} == lint ]]; then

@@ -9,6 +9,7 @@
 #include "PhoneProgram.h"
 #include "engines/pack/PhoneSizes.h"
 #include "image/JpegCodec.h"
+#include "support/PeakMemory.h"
 #include "support/Spent.h"
 
 namespace {
@@ -36,20 +37,6 @@ void FillList(const CPhoneFolder& folder) {
                       .Save(path.string(), ImageType::kJpeg))
             std::abort();
     }
-}
-
-// The most memory that the process has had at once, in bytes.
-double PeakMemory() {
-    std::ifstream file("/proc/self/status");
-    std::string strWord;
-    double fKilobytes = 0;
-    while (file >> strWord && strWord != "VmHWM:") {
-    }
-    file >> fKilobytes;
-    return fKilobytes * 1024;
-}
-void ForgetPeakMemory() {
-    std::ofstream("/proc/self/clear_refs") << 5;
 }
 
 // The first nFiles of the list go to the phone.

@@ -3,14 +3,13 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QTest>
 
 #include "engines/linkset/FileSet.h"
 #include "link/PhoneFileDlg.h"
 #include "play/PlayHost.h"
 #include "play/ScriptedPlatform.h"
-#include "qt/Application.h"
+#include "qt/BenchApplication.h"
 #include "qt/DialogView.h"
 #include "qt/Pictures.h"
 #include "qt/ResourceFolders.h"
@@ -92,12 +91,7 @@ void PhoneFilesWithoutWindow(benchmark::State& state) {
 BENCHMARK(PhoneFilesWithoutWindow)->Iterations(kRounds)->Unit(benchmark::kMillisecond);
 
 void PhoneFilesInWindow(benchmark::State& state) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    int nArguments = 1;
-    char szProgram[] = "bench_qt";
-    char* arrArguments[] = {szProgram, nullptr};
-    QApplication application(nArguments, arrArguments);
-    SetUpApplication(application);
+    const CBenchApplication application;
     CBitmapStore bitmaps(SkinFolder());
     CPictures pictures(bitmaps);
     Open(state, [&](CListedPhone& /*phone*/, CPhoneFileDlg& dialog) {

@@ -126,7 +126,7 @@ constexpr CVerb kVerbs[] = {
     {"printer", "NAME PAPER portrait|landscape DPI [size W H] [printable W H]", 1, 10, nullptr,
      "The printer that the machine has: its paper's number (1 to 41, or 256 with its own size in tenths of a "
      "millimetre, upright), its dots per inch, and the dots that it reaches, all of the paper without this. "
-     "At first it is PDF 9 portrait 300.",
+     "At first it is PDF 9 portrait 600.",
      "printer Photo 256 landscape 600 size 1000 1500", DoPrinter},
     {"printer", "none|refuse|gone|full N", 1, 2, nullptr,
      "That there is none; that no document can be started on it; that it vanishes when the print dialog has "

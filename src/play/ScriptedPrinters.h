@@ -14,8 +14,8 @@ class CScriptedPrinters : public CPrinters {
     struct CPrinter {
         std::string strName = "PDF";
         CDeviceMode mode{};
-        CSize sizeDpi{300, 300};
-        CSize sizePrintable{2480, 3507};  // dots
+        CSize sizeDpi{600, 600};
+        CSize sizePrintable{4960, 7015};  // dots
     };
     // The dots of the whole paper at a resolution.
     static CSize DotsOf(const CDeviceMode& mode, int nDpi);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -51,6 +52,14 @@ void InstallTranslation(QApplication& application) {
     QApplication::installTranslator(pTranslator.release());
 }
 
+// The date in a printed picture is laid out for the widths of this face. Debian has it where no program but
+// one looks.
+void AddDateFace() {
+    for (const char* szFile : {"tahoma.ttf", "tahomabd.ttf"})
+        if (const QString strPath = QString("/usr/share/wine/fonts/") + szFile; QFile::exists(strPath))
+            QFontDatabase::addApplicationFont(strPath);
+}
+
 QIcon LoadIcon() {
     QIcon icon;
     for (const int nSize : {16, 24, 32, 48, 64, 128, 256}) {
@@ -66,6 +75,7 @@ void SetUpApplication(QApplication& application) {
     QApplication::setApplicationName("Fotarium");
     QApplication::setStyle("Fusion");
     QApplication::setPalette(MakePalette());
+    AddDateFace();
     QApplication::setFont(MapFont({}, kFontPixels));
     QApplication::setWindowIcon(LoadIcon());
     // One dialog's window follows another: between two there is none.

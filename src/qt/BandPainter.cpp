@@ -12,12 +12,12 @@ constexpr double kInset = 1.0 / 64;
 // No seams down to a twelfth of the printer's dots at 600 an inch.
 constexpr int kSeamDotsPerInch = 50;
 
-// Whether the band is one of few and plain colours, as drawings are: deflating it costs little and makes it
-// small, and a drawing's edges are to stay as they are. What grain of a photograph it would cost seconds to
-// keep dot by dot, nobody sees in print. A few rows tell.
-bool IsPlain(const CPixels& pixels, int nTop, int nRows) {
+// Whether the band is kept dot by dot: drawings, and all that the page shows enlarged, which repeats itself.
+// The grain of a photograph that has nearly as many pixels as the page has dots would cost seconds to
+// deflate; at such a size nobody sees what a JPEG of high quality makes of it. A few rows tell.
+bool IsKeptExact(const CPixels& pixels, int nTop, int nRows) {
     constexpr int kProbeRows = 4;
-    constexpr int kFewer = 8;
+    constexpr int kFewer = 4;
     const int nProbe = std::min(kProbeRows, nRows);
     const std::uint8_t* const pRows = pixels.Row(nTop + (nRows - nProbe) / 2).data();
     const auto nBytes = static_cast<qsizetype>(pixels.Stride()) * nProbe;
@@ -62,7 +62,8 @@ bool CBandPainter::DrawBand(const CPixels& pixels, CPoint pt, const CRect& rc) {
     const std::size_t nLeft = std::size_t{3} * static_cast<std::size_t>(rc.left - pt.x);
     for (int y = 0; y < rc.Height(); ++y)
         CopyRow(pixels.Row(rc.top - pt.y + y).subspan(nLeft).data(), row(nRepeated + y), rc.Width());
-    m_painter.setRenderHint(QPainter::LosslessImageRendering, IsPlain(pixels, rc.top - pt.y, rc.Height()));
+    m_painter.setRenderHint(QPainter::LosslessImageRendering,
+                            IsKeptExact(pixels, rc.top - pt.y, rc.Height()));
     const QRectF rcDots(rc.left, rc.top - nRepeated, band.width(), band.height());
     m_painter.drawImage(rcDots.adjusted(kInset, kInset, -kInset, -kInset), band);
     m_imageLast = std::move(band);

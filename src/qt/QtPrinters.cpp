@@ -49,6 +49,11 @@ std::unique_ptr<QPrinter> SetUpPrinter(const QPrinterInfo& info) {
     return pPrinter;
 }
 
+// Qt leaves the choice of pages in the dialog whatever its options are.
+void HidePages(const QPrintDialog& window) {
+    if (auto* pPages = window.findChild<QWidget*>("gbPrintRange")) pPages->hide();
+}
+
 }  // namespace
 
 std::optional<CDeviceMode> CQtPrinters::DefaultMode() {
@@ -66,6 +71,7 @@ std::unique_ptr<CPrintDevice> CQtPrinters::RunDialog() {
     std::unique_ptr<QPrinter> pPrinter = SetUpPrinter(info);
     QPrintDialog window(pPrinter.get(), QApplication::activeModalWidget());
     window.setOptions(QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
+    HidePages(window);
     if (window.exec() != QDialog::Accepted) return nullptr;
     pPrinter->setResolution(ChooseResolution(*pPrinter));
     ReachAsFarAsItCan(*pPrinter);

@@ -52,4 +52,5 @@ void AddText(CSteps& steps);
 void AddHistory(CSteps& steps);
 void AddBroken(CSteps& steps, const CTourFiles& files);
 void AddSave(CSteps& steps, const CTourFiles& files);
+void AddPrint(CSteps& steps, const CTourFiles& files, CTourPrinters& printers);
 void AddEnd(CSteps& steps);

@@ -5,7 +5,7 @@
 #include "tour/PhoneSteps.h"
 #include "tour/StepTools.h"
 
-std::vector<CTourStep> MakeSteps(const CTourFiles& files, CTourMachine& machine) {
+std::vector<CTourStep> MakeSteps(const CTourFiles& files, CTourMachine& machine, CTourPrinters& printers) {
     CSteps steps;
     AddStart(steps);
     AddBrowse(steps, files);
@@ -23,6 +23,7 @@ std::vector<CTourStep> MakeSteps(const CTourFiles& files, CTourMachine& machine)
     AddEffects(steps);
     AddBroken(steps, files);
     AddSave(steps, files);
+    AddPrint(steps, files, printers);
     AddPhone(steps, files, machine);
     AddEnd(steps);
     return steps;

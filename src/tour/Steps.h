@@ -6,6 +6,7 @@
 
 #include "tour/Tour.h"
 #include "tour/TourMachine.h"
+#include "tour/TourPrinters.h"
 
 // Where the walk finds its pictures and may write. What it opens through the file dialog lies among the
 // samples.
@@ -15,6 +16,7 @@ struct CTourFiles {
     QString strBroken;      // a file with a picture's name that is none
     QString strBrokenCopy;  // where a copy of it turns up during the walk
     QString strSaved;       // a name that is not there yet
+    QString strPrinted;     // the same for a printed page
 
     QStringList arrSamples;  // names in the samples' folder, as the list has them
     QStringList arrFolders;  // names in a folder that holds only folders
@@ -32,5 +34,5 @@ struct CTourFiles {
     CTourPhone phoneRestart;  // one that restarts after an exchange
 };
 
-// The walk through the whole program in its order. The machine outlives the steps.
-std::vector<CTourStep> MakeSteps(const CTourFiles& files, CTourMachine& machine);
+// The walk through the whole program in its order. Machine and printers outlive the steps.
+std::vector<CTourStep> MakeSteps(const CTourFiles& files, CTourMachine& machine, CTourPrinters& printers);

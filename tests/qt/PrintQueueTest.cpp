@@ -4,10 +4,10 @@
 
 #include <QComboBox>
 #include <QFileDialog>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QPrintDialog>
-#include <QRadioButton>
+#include <QPushButton>
+#include <QSpinBox>
 
 #include "FullDisk.h"
 #include "PrintService.h"
@@ -67,9 +67,17 @@ TEST_F(PrintQueue, TheDialogOffersNoPagesNoSelectionAndNoFile) {
     Later([] {
         QPrintDialog& window = Window();
         EXPECT_EQ(window.windowTitle(), "打印");
-        for (const char* szChoice : {"printRange", "printSelection", "printCurrentPage"}) {
-            const auto* pChoice = window.findChild<QRadioButton*>(szChoice);
-            EXPECT_TRUE(pChoice == nullptr || !pChoice->isVisible()) << szChoice;
+        // The dialog's lower half is folded up at first.
+        for (auto* pButton : window.findChildren<QPushButton*>())
+            if (pButton->text().startsWith("选项")) pButton->click();
+        const auto* pCopies = window.findChild<QSpinBox*>("copies");
+        ASSERT_NE(pCopies, nullptr);
+        EXPECT_TRUE(pCopies->isVisible());
+        for (const char* szChoice :
+             {"printRange", "printSelection", "printCurrentPage", "from", "pagesLineEdit"}) {
+            const auto* pChoice = window.findChild<QWidget*>(szChoice);
+            ASSERT_NE(pChoice, nullptr) << szChoice;
+            EXPECT_FALSE(pChoice->isVisible()) << szChoice;
         }
         const auto* pPrinters = window.findChild<QComboBox*>("printers");
         ASSERT_NE(pPrinters, nullptr);

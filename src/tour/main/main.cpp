@@ -52,6 +52,7 @@ bool LayOutSamples(const QDir& samples, const QString& strFolder, CTourFiles& fi
         if (strPlace.isEmpty()) strPlace = strCopy;
     }
     files.strSaved = strFolder + "/saved.jpg";
+    files.strPrinted = strFolder + "/page.pdf";
     files.strBrokenCopy = strFolder + "/broken.jpg";
     return !files.strPicture.isEmpty() && !files.strUpright.isEmpty();
 }
@@ -156,7 +157,8 @@ int main(int argc, char** argv) {
     CQtPlatform platform(bitmaps);
     const CPlatform& p = platform.Platform();
     CTourMachine machine(p.ports, p.libraries);
-    CTour tour(MakeSteps(files, machine), strFolder);
+    CTourPrinters printers(p.files);
+    CTour tour(MakeSteps(files, machine, printers), strFolder);
     const CStartWatch watch;
     bool bOver = false;
     tour.Start([&] {
@@ -166,7 +168,7 @@ int main(int argc, char** argv) {
         QApplication::exit();
     });
     CMainApp({p.boxes, p.modals, p.files, p.colors, p.fonts, p.menus, p.timers, p.wait, p.clipboard,
-              p.folders, p.text, p.drives, p.shell, p.bitmaps, machine, machine})
+              p.folders, p.text, p.drives, p.shell, p.bitmaps, machine, machine, printers, printers})
         .InitInstance();
     if (!bOver) QApplication::exec();
     // Qt's own way does not find names that are no valid text.

@@ -49,10 +49,17 @@ std::unique_ptr<QPrinter> SetUpPrinter(const QPrinterInfo& info) {
     return pPrinter;
 }
 
-// Qt leaves the choice of pages in the dialog whatever its options are.
-void HidePages(const QPrintDialog& window) {
-    if (auto* pPages = window.findChild<QWidget*>("gbPrintRange")) pPages->hide();
-}
+class CPrintWindow : public QPrintDialog {
+  public:
+    CPrintWindow(QPrinter& printer, QWidget* pParent) : QPrintDialog(&printer, pParent) {
+        setOptions(PrintShowPageSize | PrintCollateCopies);
+    }
+    // Qt offers a choice of pages whatever the options are, and brings it back whenever it shows the window.
+    void setVisible(bool bVisible) override {
+        QPrintDialog::setVisible(bVisible);
+        if (auto* pPages = findChild<QWidget*>("gbPrintRange")) pPages->hide();
+    }
+};
 
 }  // namespace
 
@@ -69,9 +76,7 @@ std::unique_ptr<CPrintDevice> CQtPrinters::RunDialog() {
     if (info.isNull()) return AskForFile();
     const CArrowCursor arrow;
     std::unique_ptr<QPrinter> pPrinter = SetUpPrinter(info);
-    QPrintDialog window(pPrinter.get(), QApplication::activeModalWidget());
-    window.setOptions(QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
-    HidePages(window);
+    CPrintWindow window(*pPrinter, QApplication::activeModalWidget());
     if (window.exec() != QDialog::Accepted) return nullptr;
     pPrinter->setResolution(ChooseResolution(*pPrinter));
     ReachAsFarAsItCan(*pPrinter);

@@ -62,6 +62,23 @@ TEST_F(PrintQueue, ThePageArrivesAsItWasDrawn) {
     EXPECT_EQ(FirstDifference(image, PageWith(pixels, {150, 100}, image.size())), "");
 }
 
+TEST_F(PrintQueue, ThePaperIsTheOneThatTheQueueIsSetTo) {
+    for (const auto& [strPaper, nOrientation] :
+         {std::pair("A4", 3), std::pair("Photo", 3), std::pair("A4", 5)}) {
+        const CPrintService service(strPaper, nOrientation);
+        const std::optional<CDeviceMode> mode = Printers().DefaultMode();
+        ASSERT_TRUE(mode.has_value());
+        // The queue's own name for a size is not one that somebody has typed.
+        EXPECT_EQ(IsPaperKnown(mode->nPaper), strPaper == std::string("A4"));
+        EXPECT_EQ(mode->orientation == EOrientation::Portrait, nOrientation == 3);
+        const auto pDevice = Accept();
+        ASSERT_NE(pDevice, nullptr);
+        const CSize dots = pDevice->PrintableDots();
+        EXPECT_EQ(dots.cx < dots.cy, nOrientation == 3);
+        EXPECT_EQ(std::max(dots.cx, dots.cy), strPaper == std::string("A4") ? 3408 : 1700);
+    }
+}
+
 TEST_F(PrintQueue, TheDialogOffersNoPagesNoSelectionAndNoFile) {
     CPrintService service;
     Later([] {

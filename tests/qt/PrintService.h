@@ -22,11 +22,14 @@ inline void UsePrintService(const std::string& strSocket) {
     fnSet(strSocket.c_str());
 }
 
-// A print service of the test's own with one queue, "Card": A6 landscape unless told, at 300 dots an inch.
+// A print service of the test's own with one queue, "Card", that prints at 300 dots an inch.
 // What is printed lands in a file. The service hears on a socket in its folder, and ends with the test.
 class CPrintService {
   public:
-    CPrintService() { Start(); }
+    explicit CPrintService(std::string strPaper = "A6", int nOrientation = 4)
+        : m_strPaper(std::move(strPaper)), m_nOrientation(nOrientation) {
+        Start();
+    }
     ~CPrintService() {
         Stop();
         UsePrintService("/nowhere");
@@ -58,6 +61,8 @@ class CPrintService {
     void WriteSettings() const;
     void WriteQueue() const;
 
+    std::string m_strPaper;
+    int m_nOrientation;  // 3 upright, 4 landscape
     CTempFolder m_folder;
     QProcess m_process;
 };
@@ -88,7 +93,8 @@ inline void CPrintService::WriteQueue() const {
     m_folder.Write(
         "printers.conf",
         "<DefaultPrinter Card>\nInfo Card\nDeviceURI keep:/\nState Idle\nAccepting Yes\nShared No\n"
-        "Option orientation-requested 4\n</DefaultPrinter>\n");
+        "Option orientation-requested " +
+            std::to_string(m_nOrientation) + "\n</DefaultPrinter>\n");
     // What prints is a script that keeps the document; services run none that others may write.
     const std::string strKeep = m_folder.Write(
         "bin/backend/keep", "#!/bin/sh\n[ $# = 0 ] && exit 0\ncat \"${6:--}\" > " + m_folder.Path("new") +
@@ -101,13 +107,16 @@ inline void CPrintService::WriteQueue() const {
         "*ModelName: \"Card\"\n*ShortNickName: \"Card\"\n*NickName: \"Card\"\n*PSVersion: \"(3010) 0\"\n"
         "*cupsFilter2: \"application/pdf application/pdf 0 -\"\n";
     for (const std::string strKey : {"PageSize", "PageRegion"})
-        strPpd += "*OpenUI *" + strKey + "/Size: PickOne\n*Default" + strKey + ": A6\n*" + strKey +
-                  " A4/A4: \"\"\n*" + strKey + " A6/A6: \"\"\n*" + strKey +
+        strPpd += "*OpenUI *" + strKey + "/Size: PickOne\n*Default" + strKey + ": " + m_strPaper + "\n*" +
+                  strKey + " A4/A4: \"\"\n*" + strKey + " A6/A6: \"\"\n*" + strKey +
                   " Photo/Photo: \"\"\n*CloseUI: *" + strKey + "\n";
     strPpd +=
-        "*DefaultImageableArea: A6\n*ImageableArea A4/A4: \"12 12 583 830\"\n*ImageableArea A6/A6: \"12 12 "
+        "*DefaultImageableArea: " + m_strPaper +
+        "\n*ImageableArea A4/A4: \"12 12 583 830\"\n*ImageableArea A6/A6: \"12 12 "
         "286 408\"\n"
-        "*ImageableArea Photo/Photo: \"12 12 276 420\"\n*DefaultPaperDimension: A6\n"
+        "*ImageableArea Photo/Photo: \"12 12 276 420\"\n*DefaultPaperDimension: " +
+        m_strPaper +
+        "\n"
         "*PaperDimension A4/A4: \"595 842\"\n*PaperDimension A6/A6: \"298 420\"\n"
         "*PaperDimension Photo/Photo: \"288 432\"\n"
         "*OpenUI *Resolution/Resolution: PickOne\n*DefaultResolution: 300dpi\n*Resolution 300dpi/Good: \"\"\n"

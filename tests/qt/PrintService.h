@@ -106,10 +106,12 @@ inline void CPrintService::WriteQueue() const {
         "\"(Card)\"\n"
         "*ModelName: \"Card\"\n*ShortNickName: \"Card\"\n*NickName: \"Card\"\n*PSVersion: \"(3010) 0\"\n"
         "*cupsFilter2: \"application/pdf application/pdf 0 -\"\n";
-    for (const std::string strKey : {"PageSize", "PageRegion"})
-        strPpd += "*OpenUI *" + strKey + "/Size: PickOne\n*Default" + strKey + ": " + m_strPaper + "\n*" +
-                  strKey + " A4/A4: \"\"\n*" + strKey + " A6/A6: \"\"\n*" + strKey +
-                  " Photo/Photo: \"\"\n*CloseUI: *" + strKey + "\n";
+    for (const char* szKey : {"PageSize", "PageRegion"})
+        strPpd += QString(
+                      "*OpenUI *%1/Size: PickOne\n*Default%1: %2\n*%1 A4/A4: \"\"\n*%1 A6/A6: \"\"\n"
+                      "*%1 Photo/Photo: \"\"\n*CloseUI: *%1\n")
+                      .arg(szKey, QString::fromStdString(m_strPaper))
+                      .toStdString();
     strPpd +=
         "*DefaultImageableArea: " + m_strPaper +
         "\n*ImageableArea A4/A4: \"12 12 583 830\"\n*ImageableArea A6/A6: \"12 12 "

@@ -108,7 +108,7 @@ TEST(Printers, GrainStaysCloseToWhatItWas) {
     for (int y = 0; y < pixels.Height(); ++y)
         for (int x = 0; x < pixels.Width(); ++x)
             dSum += std::abs(qGreen(page.pixel(100 + x, 100 + y)) -
-                             pixels.Row(y)[static_cast<std::size_t>(3 * x)]);
+                             pixels.Row(y)[std::size_t{3} * static_cast<std::size_t>(x)]);
     EXPECT_LT(dSum / (pixels.Width() * pixels.Height()), 3);
     EXPECT_LT(std::filesystem::file_size(folder.Path(kName)), pixels.Bytes().size() / 3);
 }

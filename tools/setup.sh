@@ -12,8 +12,9 @@ packages=(
     libjpeg62-turbo-dev libmagick++-6.q16-dev libmagickcore-6.q16-6-extra
     # Faces with Chinese and Korean characters.
     fonts-wqy-zenhei fonts-noto-cjk
-    # The face of the date in printed pictures. Tests read printed files with poppler.
-    fonts-wine poppler-utils
+    # The face of the date in printed pictures. Tests print on a print service that they start themselves, and read
+    # printed files with poppler.
+    fonts-wine cups-daemon poppler-utils
     libgtest-dev libbenchmark-dev
 )
 if [[ ${1-} == lint ]]; then

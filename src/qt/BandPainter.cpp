@@ -6,6 +6,9 @@
 namespace {
 
 constexpr int kBandRows = 256;
+// Of a dot, on each side. Whoever turns the page into dots widens a picture to all that it touches: where its
+// edge is exactly that of a dot, by one more, with all its pixels blurred.
+constexpr double kInset = 1.0 / 64;
 // No seams down to a twelfth of the printer's dots at 600 an inch.
 constexpr int kSeamDotsPerInch = 50;
 
@@ -61,7 +64,8 @@ bool CBandPainter::DrawBand(const CPixels& pixels, CPoint pt, const CRect& rc) {
         CopyRow(pixels.Row(rc.top - pt.y + y).subspan(nLeft).data(), row(nRepeated + y), rc.Width());
     m_painter.setRenderHint(QPainter::LosslessImageRendering,
                             IsKeptExact(pixels, rc.top - pt.y, rc.Height()));
-    m_painter.drawImage(QPoint(rc.left, rc.top - nRepeated), band);
+    const QRectF rcDots(rc.left, rc.top - nRepeated, band.width(), band.height());
+    m_painter.drawImage(rcDots.adjusted(kInset, kInset, -kInset, -kInset), band);
     m_imageLast = std::move(band);
     m_rcLast = rc;
     return true;

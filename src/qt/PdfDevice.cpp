@@ -48,8 +48,8 @@ CFileDialogRequest CPdfDevice::Request() {
     return {"PDF Files (*.pdf)|*.pdf||", "打印.pdf", "pdf"};
 }
 
-CPdfDevice::CPdfDevice(std::string strPath, QPageLayout layout)
-    : m_strPath(std::move(strPath)), m_layout(std::move(layout)) {}
+CPdfDevice::CPdfDevice(std::string strPath, const QPageLayout& layout)
+    : m_strPath(std::move(strPath)), m_layout(layout) {}
 
 CPdfDevice::~CPdfDevice() {
     AbortDocument();

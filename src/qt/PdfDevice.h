@@ -40,7 +40,7 @@ class CPdfDevice : public CPrintDevice {
     // Asks where the file is to go.
     static CFileDialogRequest Request();
 
-    explicit CPdfDevice(std::string strPath, QPageLayout layout = Paper());
+    explicit CPdfDevice(std::string strPath, const QPageLayout& layout = Paper());
     ~CPdfDevice() override;
     CPdfDevice(const CPdfDevice&) = delete;
     CPdfDevice& operator=(const CPdfDevice&) = delete;

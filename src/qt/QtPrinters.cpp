@@ -49,6 +49,18 @@ std::unique_ptr<QPrinter> SetUpPrinter(const QPrinterInfo& info) {
     return pPrinter;
 }
 
+class CPrintWindow : public QPrintDialog {
+  public:
+    CPrintWindow(QPrinter& printer, QWidget* pParent) : QPrintDialog(&printer, pParent) {
+        setOptions(PrintShowPageSize | PrintCollateCopies);
+    }
+    // Qt offers a choice of pages whatever the options are, and brings it back whenever it shows the window.
+    void setVisible(bool bVisible) override {
+        QPrintDialog::setVisible(bVisible);
+        if (auto* pPages = findChild<QWidget*>("gbPrintRange")) pPages->hide();
+    }
+};
+
 }  // namespace
 
 std::optional<CDeviceMode> CQtPrinters::DefaultMode() {
@@ -64,8 +76,7 @@ std::unique_ptr<CPrintDevice> CQtPrinters::RunDialog() {
     if (info.isNull()) return AskForFile();
     const CArrowCursor arrow;
     std::unique_ptr<QPrinter> pPrinter = SetUpPrinter(info);
-    QPrintDialog window(pPrinter.get(), QApplication::activeModalWidget());
-    window.setOptions(QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
+    CPrintWindow window(*pPrinter, QApplication::activeModalWidget());
     if (window.exec() != QDialog::Accepted) return nullptr;
     pPrinter->setResolution(ChooseResolution(*pPrinter));
     ReachAsFarAsItCan(*pPrinter);

@@ -12,6 +12,8 @@ int main(int nArguments, char** arrArguments) {
     // Nor do they read or leave settings among the user's.
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    // Printers are those that a test sets up.
+    qputenv("CUPS_SERVER", "/nowhere");
     testing::InitGoogleTest(&nArguments, arrArguments);
     QApplication application(nArguments, arrArguments);
     SetUpApplication(application);

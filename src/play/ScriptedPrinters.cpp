@@ -38,7 +38,7 @@ class CScriptedPrinters::CDevice : public CPrintDevice {
     CSize PrintableDots() const override { return m_printer.sizePrintable; }
 
     [[nodiscard]] bool StartDocument(const std::string& strName) override {
-        if (!m_printers.m_bThere || m_printers.m_bRefuses) return false;
+        if (m_printers.m_bRefuses) return false;
         m_strName = strName;
         m_nFactor = std::max(1, (m_printer.sizePrintable.cy + kMostPageHeight - 1) / kMostPageHeight);
         const auto kept = [this](int n) { return (n + m_nFactor - 1) / m_nFactor; };
@@ -60,7 +60,9 @@ class CScriptedPrinters::CDevice : public CPrintDevice {
 
     [[nodiscard]] bool EndDocument() override {
         if (!std::exchange(m_bStarted, false)) return false;
+        if (!m_printers.m_bThere) return true;
         ++m_printers.m_nDocuments;
+        ++m_printers.m_nPages;  // a document is a page
         m_printers.m_strDocument = m_strName;
         m_printers.m_rcPicture = m_rcPicture;
         m_printers.m_page = m_page.Pixels();
@@ -103,6 +105,9 @@ std::optional<CDeviceMode> CScriptedPrinters::DefaultMode() {
 
 std::unique_ptr<CPrintDevice> CScriptedPrinters::RunDialog() {
     if (!std::exchange(m_bDialogOk, false)) return nullptr;
-    if (m_bVanishes) m_bThere = false;
+    if (m_bVanishes) {
+        m_bThere = false;
+        m_bRefuses = true;
+    }
     return std::make_unique<CDevice>(*this);
 }

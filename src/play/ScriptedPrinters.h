@@ -15,13 +15,14 @@ class CScriptedPrinters : public CPrinters {
         std::string strName = "PDF";
         CDeviceMode mode{};
         CSize sizeDpi{600, 600};
-        CSize sizePrintable{4960, 7015};  // dots
+        CSize sizePrintable{4958, 7017};  // dots
     };
     // The dots of the whole paper at a resolution.
     static CSize DotsOf(const CDeviceMode& mode, int nDpi);
 
     // Ready for documents, whatever was before.
     void SetPrinter(const CPrinter& printer);
+    // There is none: nothing says how a page lies, and documents come to nothing.
     void RemovePrinter() { m_bThere = false; }
     // From now on no document can be started.
     void RefuseDocuments() { m_bRefuses = true; }
@@ -35,6 +36,7 @@ class CScriptedPrinters : public CPrinters {
 
     // --- what has been printed ---
     int Documents() const { return m_nDocuments; }
+    int Pages() const { return m_nPages; }
     int Aborted() const { return m_nAborted; }
     // Of the last document: its name, where the picture is on the page, and the page at its dots, by a whole
     // factor smaller if it is higher than kMostPageHeight, empty before the first document.
@@ -56,6 +58,7 @@ class CScriptedPrinters : public CPrinters {
     bool m_bDialogOk = false;
     int m_nStripsLeft = -1;  // below 0: no end
     int m_nDocuments = 0;
+    int m_nPages = 0;
     int m_nAborted = 0;
     std::string m_strDocument;
     CRect m_rcPicture;

@@ -53,8 +53,7 @@ std::string Printed(const CStage& stage) {
     const CScriptedPrinters& printers = stage.platform.Printers();
     const CRect& rc = printers.PicturePlace();
     std::string strText = std::to_string(printers.Documents());
-    // A document has one page.
-    for (const int n : {printers.Documents(), rc.left, rc.top, rc.Width(), rc.Height()})
+    for (const int n : {printers.Pages(), rc.left, rc.top, rc.Width(), rc.Height()})
         strText.append(1, ' ').append(std::to_string(n));
     return strText;
 }

@@ -9,8 +9,20 @@
 
 namespace {
 
-// A strip of the page: large enough to cost nothing by its own, small beside the program.
+// A strip of the page: large enough to cost nothing on its own, small beside the program.
 constexpr int kStripPixels = 2 << 20;
+
+// Set as long as it lives.
+class CFlagScope {
+  public:
+    explicit CFlagScope(bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
+    CFlagScope(const CFlagScope&) = delete;
+    CFlagScope& operator=(const CFlagScope&) = delete;
+    ~CFlagScope() { m_bFlag = false; }
+
+  private:
+    bool& m_bFlag;
+};
 
 }  // namespace
 
@@ -38,22 +50,20 @@ void PreviewPrintView::OnDraw(CSurface& surface) {
     surface.DrawPixels(MakePicture(layout).Whole(), layout.rcPicture.left, layout.rcPicture.top);
 }
 
-bool PreviewPrintView::OnPrint(CPrintDevice& device) {
+PreviewPrintView::EPage PreviewPrintView::OnPrint(CPrintDevice& device) {
     const std::optional<CDeviceMode> mode = m_printers.DefaultMode();
-    if (!mode) return true;
+    if (!mode) return EPage::Done;
     const CPageLayout layout = LayOutPrint(m_dialog.Image().GetSize(), device.DotsPerInch(),
                                            device.PrintableDots(), mode->orientation);
     const CSize size = layout.rcPicture.Size();
-    if (size.cx <= 0 || size.cy <= 0) return true;
+    if (size.cx <= 0 || size.cy <= 0) return EPage::Done;
     const CPagePicture picture = MakePicture(layout);
     const int nStrip = std::max(1, kStripPixels / size.cx);
-    m_bPrinting = true;
-    bool bDrawn = true;
-    for (int y = 0; y < size.cy && bDrawn; y += nStrip) {
+    const CFlagScope printing(m_bPrinting);
+    for (int y = 0; y < size.cy; y += nStrip) {
         const CPixels rows = picture.Rows(y, std::min(nStrip, size.cy - y));
-        bDrawn =
-            !rows.IsEmpty() && device.DrawPixels(rows, {layout.rcPicture.left, layout.rcPicture.top + y});
+        if (rows.IsEmpty()) return EPage::NoMemory;
+        if (!device.DrawPixels(rows, {layout.rcPicture.left, layout.rcPicture.top + y})) return EPage::Failed;
     }
-    m_bPrinting = false;
-    return bDrawn;
+    return EPage::Done;
 }

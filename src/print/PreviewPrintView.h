@@ -13,9 +13,13 @@ class PreviewPrintView : public CScrollView {
     // The dialog owns the view; the rest outlives both.
     PreviewPrintView(CPrintPreviewDlg& dialog, CPrinters& printers, CTextRasterizer& rasterizer);
 
+    enum class EPage {
+        Done,
+        Failed,    // the printer does not take it
+        NoMemory,  // not even for a strip of it
+    };
     // Draws the page of a document that has been started. Where there is no printer any more it stays empty.
-    // False if something could not be drawn.
-    [[nodiscard]] bool OnPrint(CPrintDevice& device);
+    [[nodiscard]] EPage OnPrint(CPrintDevice& device);
 
   protected:
     void OnDraw(CSurface& surface) override;

@@ -72,7 +72,9 @@ bool CPrintPreviewDlg::Print() {
     if (pDevice == nullptr) return false;
     const CWaitScope wait(m_env.wait);
     if (!pDevice->StartDocument(kTextProgram)) return false;
-    if (m_view.OnPrint(*pDevice)) return pDevice->EndDocument();
+    const PreviewPrintView::EPage page = m_view.OnPrint(*pDevice);
+    if (page == PreviewPrintView::EPage::Done) return pDevice->EndDocument();
     pDevice->AbortDocument();
+    if (page == PreviewPrintView::EPage::NoMemory) m_env.boxes.Show({kTextNoMemory, kTextProgram});
     return false;
 }

@@ -34,8 +34,8 @@ int NumberOf(QPageSize::PageSizeId id) {
     return nNumber >= 1 && nNumber <= kMostNumber ? nNumber : kUnknownPaper;
 }
 
-int Tenths(double dMillimetres) {
-    return static_cast<int>(std::lround(dMillimetres * 10));
+int Tenths(double fMillimetres) {
+    return static_cast<int>(std::lround(fMillimetres * 10));
 }
 
 }  // namespace

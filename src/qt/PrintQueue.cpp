@@ -31,7 +31,7 @@ EOrientation QueueOrientation(const QString& strPrinter) {
     const auto fnOption = Resolve<COptionCall>("cupsGetOption");
     const auto fnFree = Resolve<CFreeCall>("cupsFreeDests");
     if (fnDest == nullptr || fnOption == nullptr || fnFree == nullptr) return EOrientation::Portrait;
-    // A set of options that has a name of its own stands behind a stroke.
+    // A set of options that has a name of its own stands behind a slash.
     const QByteArray strName = strPrinter.section('/', 0, 0).toLocal8Bit();
     const QByteArray strSet = strPrinter.section('/', 1).toLocal8Bit();
     CCupsDest* const pDest =
@@ -39,7 +39,8 @@ EOrientation QueueOrientation(const QString& strPrinter) {
     if (pDest == nullptr) return EOrientation::Portrait;
     // 3 is upright, 4 a quarter turn, 5 the quarter turn the other way.
     const QByteArray strOrientation = fnOption("orientation-requested", pDest->nOptions, pDest->pOptions);
-    const bool bLandscape = fnOption("landscape", pDest->nOptions, pDest->pOptions) != nullptr;
+    const char* const szLandscape = fnOption("landscape", pDest->nOptions, pDest->pOptions);
+    const bool bLandscape = szLandscape != nullptr && QByteArray(szLandscape) != "false";
     fnFree(1, pDest);
     return bLandscape || strOrientation == "4" || strOrientation == "5" ? EOrientation::Landscape
                                                                         : EOrientation::Portrait;

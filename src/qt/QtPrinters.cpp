@@ -5,6 +5,8 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 #include "qt/ArrowCursor.h"
 #include "qt/PaperNumbers.h"
@@ -84,6 +86,10 @@ std::unique_ptr<CPrintDevice> CQtPrinters::RunDialog() {
 }
 
 std::unique_ptr<CPrintDevice> CQtPrinters::AskForFile() {
+    // The edit stays in the folder where it was.
+    std::error_code error;
+    const std::filesystem::path pathBefore = std::filesystem::current_path(error);
     const auto choice = m_files.RunSave(CPdfDevice::Request());
+    if (!pathBefore.empty()) std::filesystem::current_path(pathBefore, error);
     return choice ? std::make_unique<CPdfDevice>(choice->strPath) : nullptr;
 }

@@ -3,7 +3,10 @@
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
+#include <QRawFont>
+#include <QtEndian>
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 
 #include "qt/FontMapping.h"
@@ -17,11 +20,42 @@ constexpr int kMostWidth = 1 << 17;
 
 constexpr int kBoldFrom = 600;
 
+// How far a face's cell reaches above and below the line on which its letters stand, in the size of their
+// square.
+struct CReach {
+    double fAscent = 0;
+    double fDescent = 0;
+};
+
+// What the face itself says of that. Qt goes by other numbers where a face wants its lines set closer than
+// its cell is high. Nothing for faces that do not say it.
+CReach ReachOf(const QFont& font) {
+    constexpr int kWinAscent = 74;  // places in the face's table of metrics
+    constexpr int kWinDescent = 76;
+    const QRawFont face = QRawFont::fromFont(font);
+    const QByteArray table = face.fontTable("OS/2");
+    if (table.size() < kWinDescent + 2 || face.unitsPerEm() <= 0) return {};
+    const auto part = [&](int nPlace) {
+        return qFromBigEndian<quint16>(table.constData() + nPlace) / face.unitsPerEm();
+    };
+    return {part(kWinAscent), part(kWinDescent)};
+}
+
+int AscentOf(const QFont& font, const CReach& reach) {
+    const int nOwn = static_cast<int>(std::lround(reach.fAscent * font.pixelSize()));
+    return std::max(nOwn, QFontMetrics(font).ascent());
+}
+
+int DescentOf(const QFont& font, const CReach& reach) {
+    const int nOwn = static_cast<int>(std::lround(reach.fDescent * font.pixelSize()));
+    return std::max(nOwn, QFontMetrics(font).descent());
+}
+
 // Whether the cell, from the highest ascent to the lowest descent, and the letters themselves, which need not
 // keep to it, are both no higher than that.
-bool Fits(const QFont& font, const QString& str, int nHeight) {
-    const QFontMetrics metrics(font);
-    return metrics.height() <= nHeight && metrics.boundingRect(str).height() <= nHeight;
+bool Fits(const QFont& font, const CReach& reach, const QString& str, int nHeight) {
+    return AscentOf(font, reach) + DescentOf(font, reach) <= nHeight &&
+           QFontMetrics(font).boundingRect(str).height() <= nHeight;
 }
 
 // The largest letters that fit. Fonts here are regular or bold, whatever hairline or poster weights a face
@@ -31,8 +65,9 @@ QFont FitFont(const CTextFont& font, const QString& str) {
     fit.setWeight(font.nWeight < kBoldFrom ? QFont::Normal : QFont::Bold);
     fit.setItalic(font.bItalic);
     fit.setUnderline(font.bUnderline);
+    const CReach reach = ReachOf(fit);
     int nPixels = font.nHeight;
-    while (nPixels > 1 && !Fits(fit, str, font.nHeight)) fit.setPixelSize(--nPixels);
+    while (nPixels > 1 && !Fits(fit, reach, str, font.nHeight)) fit.setPixelSize(--nPixels);
     return fit;
 }
 
@@ -54,8 +89,8 @@ CTextMask CQtTextRasterizer::Rasterize(const CTextFont& font, const std::string&
     const QFontMetrics metrics(fit);
     // Letters may lean out of the line at either end, and out of the cell above and below.
     const QRect rcInk = metrics.boundingRect(str);
-    const int nBaseline =
-        std::min(std::max(metrics.ascent(), -rcInk.top()), font.nHeight - 1 - std::max(0, rcInk.bottom()));
+    const int nBaseline = std::min(std::max(AscentOf(fit, ReachOf(fit)), -rcInk.top()),
+                                   font.nHeight - 1 - std::max(0, rcInk.bottom()));
     const int nBefore = std::max(0, -rcInk.left());
     const int nAdvance = std::max(metrics.horizontalAdvance(str), rcInk.right() + 1);
     const int nWidth = std::min(nBefore + nAdvance, kMostWidth);

@@ -4,6 +4,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QStorageInfo>
+#include <algorithm>
 #include <utility>
 
 #include "qt/BandPainter.h"
@@ -67,10 +68,11 @@ bool CQueueDevice::DrawPixels(const CPixels& pixels, CPoint pt) {
     return m_pKept->flush();
 }
 
-// For the document that Qt is going to write beside what is kept; it would send half of one as well.
+// For the document that Qt is going to write beside what is kept, as large as that at worst: Qt would send
+// half of one as well, and has its bands' last rows twice.
 bool CQueueDevice::HasRoom() const {
     constexpr qint64 kFrame = qint64{1} << 20;
-    return QStorageInfo(QDir::tempPath()).bytesAvailable() > m_pKept->size() / 2 + kFrame;
+    return QStorageInfo(QDir::tempPath()).bytesAvailable() > m_pKept->size() * 5 / 4 + kFrame;
 }
 
 bool CQueueDevice::Replay() {

@@ -18,7 +18,7 @@ std::unique_ptr<CPrintDevice> CTourPrinters::RunDialog() {
 
 QImage LookAtPage(const QString& strPdf) {
     QProcess tool;
-    tool.start("pdftoppm", {"-r", "72", "-png", "-singlefile", strPdf});
+    tool.start("pdftoppm", {"-r", "100", "-png", "-singlefile", strPdf});
     if (!tool.waitForFinished()) return {};
     return QImage::fromData(tool.readAllStandardOutput(), "png");
 }

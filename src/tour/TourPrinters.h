@@ -26,5 +26,5 @@ class CTourPrinters : public CPrinters, public CClock {
     EOrientation m_orientation = EOrientation::Portrait;
 };
 
-// The page of a PDF file at 72 dots an inch; null if there is none, or no tool to read it.
+// The page of a PDF file at 100 dots an inch; null if there is none, or no tool to read it.
 QImage LookAtPage(const QString& strPdf);

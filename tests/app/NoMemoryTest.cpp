@@ -217,7 +217,7 @@ TEST_F(NoMemoryTest, CommandsOfDraw) {
             if (bFloat) Float();
             TryCommand(nId);
         }
-        for (const int nId : {kCmdUndo, kCmdReset, kCmdPrint, kTabEffect, kTabThum, kTabFont}) {
+        for (const int nId : {kCmdUndo, kCmdReset, kTabEffect, kTabThum, kTabFont}) {
             if (!bFloat) break;
             OpenPicture();
             GoTo(EMode::Draw);
@@ -237,6 +237,44 @@ TEST_F(NoMemoryTest, CommandsOfDraw) {
     TryCommand(kCmdCrop);
     GoTo(EMode::Effect);
     TryCommand(kCmdActual);
+}
+
+// What the canvas needs is as with every command; what the preview lacks it does not show, and a page that
+// lacks something is not printed.
+TEST_F(NoMemoryTest, Print) {
+    CScriptedPrinters& printers = m_platform.Printers();
+    int nTold = 0;
+    for (int n = 1; n < 60; ++n) {
+        SCOPED_TRACE("block " + std::to_string(n));
+        OpenPicture();
+        GoTo(EMode::Draw);
+        Float();
+        CAnswer answer;
+        answer.question = EQuestion::Print;
+        answer.arrSteps = {"ok"};
+        m_platform.Answer(answer);
+        const CEditNow before = Now();
+        const int nPrinted = printers.Documents();
+        bool bRefused = false;
+        {
+            const CBlockGate gate(n);
+            m_dialog.OnCommand(kCmdPrint);
+            bRefused = gate.HasRefused();
+        }
+        m_platform.ForgetAnswers();
+        m_platform.TakeProblems();
+        const std::vector<CMessageBox> arrBoxes = m_platform.TakeBoxes();
+        if (!arrBoxes.empty()) {
+            ++nTold;
+            EXPECT_EQ(arrBoxes, std::vector<CMessageBox>{kNoMemory});
+            EXPECT_EQ(printers.Documents(), nPrinted);
+        } else {
+            EXPECT_EQ(printers.Documents(), nPrinted + 1);
+        }
+        EXPECT_TRUE(Now() == before || !Draw().IsFloating());
+        if (!bRefused) break;
+    }
+    EXPECT_GE(nTold, 2);
 }
 
 // Each on a picture that the edit and both stores still share. Who is told so goes on with nothing.

@@ -22,6 +22,8 @@ class PrintTest : public PaintWorkshop {
         Click(kCmdPrint);
     }
     CScriptedPrinters& Printers() { return m_platform.Printers(); }
+    // Documents that were printed, and that were not ended.
+    std::pair<int, int> Counts() { return {Printers().Documents(), Printers().Aborted()}; }
     static const CPixels& Shown(CPlayHost& host) { return host.ViewOf(kPrintView)->Surface().Pixels(); }
     static int CountOf(const CPixels& pixels, CColor color) {
         int n = 0;
@@ -133,29 +135,29 @@ TEST_F(PrintTest, ThePageHasThePictureAtThePrintersDots) {
 TEST_F(PrintTest, WhatFailsLeavesTheDialogForTheNextTry) {
     OpenNumbered(900, 640);
     PrintAnswering({"cancel", "ok"});
-    EXPECT_EQ(Printers().Documents() * 10 + Printers().Aborted(), 10);
+    EXPECT_EQ(Counts(), (std::pair(1, 0)));
     Printers().RefuseDocuments();
     PrintAnswering({"ok", "ready", "ok"});
     Printers().VanishAfterDialog();
     PrintAnswering({"ok", "stamp", "ready", "ok"});
-    EXPECT_EQ(Printers().Documents() * 10 + Printers().Aborted(), 30);
+    EXPECT_EQ(Counts(), (std::pair(3, 0)));
     // A disk that is full, at once and with the last of the page's strips
     for (const int nStrips : {0, 1}) {
         Printers().SetPrinter({.sizeDpi = {600, 600}, .sizePrintable = {4960, 7016}});
         Printers().FailAfterStrips(nStrips);
         PrintAnswering({"ok", "ready", "ok"});
     }
-    EXPECT_EQ(Printers().Documents() * 10 + Printers().Aborted(), 52);
-    // Never a printer: the preview is empty, and nothing is begun.
+    EXPECT_EQ(Counts(), (std::pair(5, 2)));
+    // No printer at all: the preview is empty, and the print ends quietly with nothing.
     Printers().RemovePrinter();
     Print([&](CPlayHost& host) {
         EXPECT_EQ(CountOf(Shown(host), PixelAt(Shown(host), 0, 0)), 336 * 336);
         EXPECT_EQ(host.Click(kPrintDate), "");
         Printers().AnswerDialog(true);
         EXPECT_EQ(host.Click(kPrintOk), "");
-        EXPECT_FALSE(host.Dialog().HasEnded());
+        EXPECT_TRUE(host.Dialog().HasEnded());
     });
-    EXPECT_EQ(Printers().Documents(), 5);
+    EXPECT_EQ(Counts(), (std::pair(5, 2)));
 }
 
 TEST_F(PrintTest, PaperThatIsNotSupportedIsToldAndShownAsA4) {
@@ -194,11 +196,25 @@ TEST_F(PrintTest, InDrawTheCanvasIsFetchedFirst) {
     ASSERT_NE(drawn, NumberedPixels(200, 150));
     Tool(ETool::Polygon);
     Drag({30, 40}, {90, 110});
+    ASSERT_TRUE(Draw().IsShapeOpen());
     const int nUndos = Undos();
     Printers().SetPrinter({.sizeDpi = {72, 72}, .sizePrintable = {590, 830}});
     PrintAnswering({"ok"});
     const CRect rc = Printers().PicturePlace();
-    EXPECT_EQ(Cut(Printers().Page(), rc), NaiveResample(drawn, rc.Width(), rc.Height()));
+    const auto printed = [&] { return Cut(Printers().Page(), rc); };
+    EXPECT_EQ(printed(), NaiveResample(drawn, rc.Width(), rc.Height()));
+    EXPECT_FALSE(Draw().IsShapeOpen());
     EXPECT_EQ(Undos(), nUndos);
     EXPECT_EQ(State().m_nMode, EMode::Draw);
+    // A float is merged, whoever cancels then.
+    Tool(ETool::SelectRect);
+    Drag({100, 50}, {150, 100});
+    Click(kCmdCopy);
+    Click(kCmdPaste);
+    ASSERT_TRUE(Draw().IsFloating());
+    PrintAnswering({"ok"});
+    EXPECT_FALSE(Draw().IsFloating());
+    CSurface merged(drawn);
+    merged.DrawPart(drawn, CRect::FromPlace(100, 50, 50, 50), 0, 0);
+    EXPECT_EQ(printed(), NaiveResample(merged.Pixels(), rc.Width(), rc.Height()));
 }

@@ -45,11 +45,11 @@ TEST_F(ProgramTest, PlaysThePrint) {
     MakePicture("lake.png", 700, 500);
     MakePicture("stamp.png", 90, 70);
     ExpectPlays("print");
-    // 300 dots an inch, one of four kept each way: the picture begins with its first pixel on white.
+    // 600 dots an inch, one of eight kept each way: the picture begins with its first pixel on white.
     const CPixels page = PixelsOf("page.ppm");
-    ASSERT_EQ(page.Height(), 877);
-    EXPECT_EQ(PixelAt(page, 29, 238), CColor(255, 255, 255));
-    EXPECT_EQ(PixelAt(page, 30, 238), PixelAt(NumberedPixels(700, 500), 0, 0));
+    ASSERT_EQ(page.Height(), 878);
+    EXPECT_EQ(PixelAt(page, 29, 239), CColor(255, 255, 255));
+    EXPECT_EQ(PixelAt(page, 30, 239), PixelAt(NumberedPixels(700, 500), 0, 0));
     EXPECT_EQ(PixelAt(page, 590, 638), PixelAt(NumberedPixels(700, 500), 699, 499));
 }
 

@@ -106,6 +106,19 @@ TEST_F(PrintQueue, TheDialogOffersNoPagesNoSelectionAndNoFile) {
     EXPECT_EQ(service.Jobs(), 0);
 }
 
+TEST_F(PrintQueue, CopiesAreThePrintersAffair) {
+    CPrintService service;
+    Later([] {
+        Window().findChild<QSpinBox*>("copies")->setValue(3);
+        Window().accept();
+    });
+    const auto pDevice = Printers().RunDialog();
+    ASSERT_TRUE(pDevice->StartDocument("a") && pDevice->EndDocument());
+    EXPECT_EQ(CPrintedPage(service.WaitForJob()).Says("Pages"), "1");
+    EXPECT_EQ(service.Copies(), "3");
+    EXPECT_EQ(service.Jobs(), 1);
+}
+
 TEST_F(PrintQueue, WhatDoesNotEndWellIsNotPrinted) {
     CPrintService service;
     const CPixels pixels = MakeTiles(400, 400);
@@ -123,12 +136,20 @@ TEST_F(PrintQueue, WhatDoesNotEndWellIsNotPrinted) {
     EXPECT_TRUE(pDevice->StartDocument("a") && pDevice->DrawPixels(pixels, {0, 0}) && pDevice->EndDocument());
     EXPECT_EQ(service.Jobs(), 1);
 
+    // The queue takes no jobs, and then takes them again.
+    for (const bool bAccepting : {false, true}) {
+        service.StartAnew(bAccepting);
+        ASSERT_TRUE(pDevice->StartDocument("a") && pDevice->DrawPixels(pixels, {0, 0}));
+        EXPECT_EQ(pDevice->EndDocument(), bAccepting);
+    }
+    EXPECT_EQ(service.Jobs(), 2);
+
     // The printer vanishes.
     ASSERT_TRUE(pDevice->StartDocument("a") && pDevice->DrawPixels(pixels, {0, 0}));
     service.Stop();
     EXPECT_FALSE(pDevice->EndDocument());
     EXPECT_FALSE(pDevice->StartDocument("a"));
-    EXPECT_EQ(service.Jobs(), 1);
+    EXPECT_EQ(service.Jobs(), 2);
 }
 
 TEST_F(PrintQueue, WithoutPrintersAPdfFileIsAskedFor) {
@@ -153,5 +174,6 @@ TEST_F(PrintQueue, WithoutPrintersAPdfFileIsAskedFor) {
         }
     }
     EXPECT_EQ(folder.Names(), std::set<std::string>{"page.pdf"});
+    EXPECT_EQ(std::filesystem::current_path(), folder.Path());
     std::filesystem::current_path(pathBefore);
 }

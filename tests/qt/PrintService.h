@@ -37,6 +37,16 @@ class CPrintService {
     CPrintService(const CPrintService&) = delete;
     CPrintService& operator=(const CPrintService&) = delete;
 
+    // From its next start on, what it says of new jobs.
+    void StartAnew(bool bAccepting) {
+        Stop();
+        std::filesystem::remove(m_folder.Path("socket"));
+        WriteQueue(bAccepting);
+        Run();
+    }
+    // How many copies the job that has arrived is to have.
+    std::string Copies() const { return ReadBytes(m_folder.Path("copies")); }
+
     void Stop() {
         m_process.terminate();
         if (!m_process.waitForFinished(3000)) m_process.kill();
@@ -59,7 +69,8 @@ class CPrintService {
     std::string JobPath() const { return m_folder.Path("job.pdf"); }
     void Start();
     void WriteSettings() const;
-    void WriteQueue() const;
+    void WriteQueue(bool bAccepting) const;
+    void Run();
 
     std::string m_strPaper;
     int m_nOrientation;  // 3 upright, 4 landscape
@@ -89,16 +100,16 @@ inline void CPrintService::WriteSettings() const {
     m_folder.Write("mime/pdf.convs", "");
 }
 
-inline void CPrintService::WriteQueue() const {
-    m_folder.Write(
-        "printers.conf",
-        "<DefaultPrinter Card>\nInfo Card\nDeviceURI keep:/\nState Idle\nAccepting Yes\nShared No\n"
-        "Option orientation-requested " +
-            std::to_string(m_nOrientation) + "\n</DefaultPrinter>\n");
+inline void CPrintService::WriteQueue(bool bAccepting) const {
+    m_folder.Write("printers.conf",
+                   "<DefaultPrinter Card>\nInfo Card\nDeviceURI keep:/\nState Idle\nShared No\nAccepting " +
+                       std::string(bAccepting ? "Yes" : "No") + "\nOption orientation-requested " +
+                       std::to_string(m_nOrientation) + "\n</DefaultPrinter>\n");
     // What prints is a script that keeps the document; services run none that others may write.
     const std::string strKeep = m_folder.Write(
-        "bin/backend/keep", "#!/bin/sh\n[ $# = 0 ] && exit 0\ncat \"${6:--}\" > " + m_folder.Path("new") +
-                                " && mv " + m_folder.Path("new") + " " + JobPath() + "\n");
+        "bin/backend/keep", "#!/bin/sh\n[ $# = 0 ] && exit 0\nprintf %s \"$4\" > " + m_folder.Path("copies") +
+                                "\ncat \"${6:--}\" > " + m_folder.Path("new") + " && mv " +
+                                m_folder.Path("new") + " " + JobPath() + "\n");
     std::filesystem::permissions(strKeep, std::filesystem::perms::owner_all);
     std::string strPpd =
         "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n*LanguageVersion: English\n"
@@ -128,7 +139,11 @@ inline void CPrintService::WriteQueue() const {
 
 inline void CPrintService::Start() {
     WriteSettings();
-    WriteQueue();
+    WriteQueue(true);
+    Run();
+}
+
+inline void CPrintService::Run() {
     m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.start("/usr/sbin/cupsd", {"-f", "-c", QString::fromStdString(m_folder.Path("cupsd.conf")), "-s",

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QImageReader>
 #include <QProcess>
 #include <cstdlib>
 #include <sstream>
@@ -35,6 +36,7 @@ class CPrintedPage {
     QImage Render(int nDpi, const QString& strProgram = "pdftoppm") const {
         QStringList arrArguments = {"-r", QString::number(nDpi), "-png", "-singlefile", m_strPath};
         if (strProgram == "pdftocairo") arrArguments += "-";  // else a file of that name
+        QImageReader::setAllocationLimit(0);
         QImage image;
         image.loadFromData(RunTool(strProgram, arrArguments));
         return image.convertToFormat(QImage::Format_RGB32);

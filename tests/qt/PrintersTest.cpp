@@ -45,9 +45,9 @@ TEST(Printers, EveryPaperHasItsNumber) {
         // The table cuts fractions, and has some papers a little otherwise.
         const QSizeF real = size.size(QPageSize::Millimeter);
         const CSize table = PaperSize(mode);
-        const double dSlack = mode.nPaper == 20 || mode.nPaper == 12 ? 11 : mode.nPaper == 14 ? 6 : 2.5;
-        EXPECT_NEAR(real.width(), table.cx, dSlack) << size.name().toStdString();
-        EXPECT_NEAR(real.height(), table.cy, dSlack) << size.name().toStdString();
+        const double fSlack = mode.nPaper == 20 || mode.nPaper == 12 ? 11 : mode.nPaper == 14 ? 6 : 2.5;
+        EXPECT_NEAR(real.width(), table.cx, fSlack) << size.name().toStdString();
+        EXPECT_NEAR(real.height(), table.cy, fSlack) << size.name().toStdString();
     }
     for (int n = 1; n <= 41; ++n) EXPECT_EQ(setFound.contains(n), n != kUnnamed) << n;
     EXPECT_EQ(setFound.size(), 40U);
@@ -83,7 +83,6 @@ TEST(Printers, EachPixelIsOneDotOfThePdf) {
                                           {one.pt.x, one.pt.y + y}));
         ASSERT_TRUE(device.EndDocument());
         EXPECT_EQ(folder.Names(), std::set<std::string>{kName});
-        EXPECT_EQ(folder.Names(), std::set<std::string>{kName});
 
         const CPrintedPage page(folder.Path(kName));
         EXPECT_EQ(page.Says("Title"), "Fotarium 相片");
@@ -104,12 +103,12 @@ TEST(Printers, GrainStaysCloseToWhatItWas) {
     const CPixels pixels = MakeGrain(512, 600);
     ASSERT_TRUE(device.StartDocument("a") && device.DrawPixels(pixels, {100, 100}) && device.EndDocument());
     const QImage page = CPrintedPage(folder.Path(kName)).Render(600);
-    double dSum = 0;
+    double fSum = 0;
     for (int y = 0; y < pixels.Height(); ++y)
         for (int x = 0; x < pixels.Width(); ++x)
-            dSum += std::abs(qGreen(page.pixel(100 + x, 100 + y)) -
+            fSum += std::abs(qGreen(page.pixel(100 + x, 100 + y)) -
                              pixels.Row(y)[std::size_t{3} * static_cast<std::size_t>(x)]);
-    EXPECT_LT(dSum / (pixels.Width() * pixels.Height()), 3);
+    EXPECT_LT(fSum / (pixels.Width() * pixels.Height()), 3);
     EXPECT_LT(std::filesystem::file_size(folder.Path(kName)), pixels.Bytes().size() / 3);
 }
 

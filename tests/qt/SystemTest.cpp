@@ -26,7 +26,7 @@ int Inked(const CTextMask& mask) {
 TEST(TextRasterizer, FacesThatTheMachineLacksStillHaveTheCharacters) {
     CQtTextRasterizer rasterizer;
     const CTextMask missing = rasterizer.Rasterize({"黑体", 32}, "\U0010FFFD");
-    for (const char* szFace : {"黑体", "Tahoma", "no such face", ""})
+    for (const char* szFace : {"黑体", "no such face", ""})
         for (const char* szText : {"你", "한", "W"}) {
             const CTextMask mask = rasterizer.Rasterize({szFace, 32}, szText);
             EXPECT_EQ(mask.nHeight, 32);

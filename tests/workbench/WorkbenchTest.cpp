@@ -62,6 +62,29 @@ TEST_F(Workbench, AppliesOneEffectToAFile) {
     EXPECT_EQ(Written("in.ppm"), Expected(m_src, EEffect::Negative, 0, 40, 1));
 }
 
+TEST_F(Workbench, ReckonsAPage) {
+    EXPECT_EQ(Run({"page", "preview", "1600", "1200", "336", "300", "256", "1000", "1500", "landscape"}),
+              kDone);
+    EXPECT_EQ(m_strOut, "page 212 300\nmargin 20\npicture 143 131 50 38\nsheet 18 50 300 200\nquestion no\n");
+    EXPECT_EQ(Run({"page", "preview", "100", "60", "336", "336", "9", "0", "0", "portrait", "stamp"}), kDone);
+    EXPECT_EQ(m_strOut,
+              "page 237 336\nmargin 22\npicture 151 158 33 20\nsheet 49 0 237 336\nquestion yes\n"
+              "stamp 1 4 29 19\n");
+    EXPECT_EQ(Run({"page", "print", "90", "60", "300", "600", "2480", "7016", "portrait", "stamp"}), kDone);
+    EXPECT_EQ(m_strOut, "page 2480 7016\nmargin 236\npicture 1082 3403 315 210\nstamp 19 85 230 206\n");
+    for (const CWorkWords& arrWords :
+         {CWorkWords{"page"},
+          {"page", "paint"},
+          {"page", "print", "90", "60", "300", "600", "2480", "portrait"},
+          {"page", "print", "90", "60", "300", "600", "2480", "7016", "upright"},
+          {"page", "print", "90", "60", "300", "600", "2480", "-1", "portrait"},
+          {"page", "print", "90", "60", "300", "600", "2480", "7016", "portrait", "stamps"},
+          {"page", "preview", "90", "60", "300", "600", "9", "0", "1000001", "portrait"}}) {
+        EXPECT_EQ(Run(arrWords), kWrongCall);
+        EXPECT_EQ(m_strOut, "");
+    }
+}
+
 TEST_F(Workbench, TellsAWrongCall) {
     ASSERT_TRUE(WritePpm(m_folder.Path("in.ppm"), m_src));
     const struct {

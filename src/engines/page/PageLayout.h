@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "engines/page/Papers.h"
 
 // Where the picture stands on the sheet of the preview and on the printed page. One reckoning serves both: in

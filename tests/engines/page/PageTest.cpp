@@ -66,6 +66,31 @@ TEST(Page, PreviewShowsThePictureOnThePrintersPaper) {
     }
 }
 
+// However the preview's window and the user's paper are shaped.
+TEST(Page, OddWindowsAndPapersAreReckonedAsWell) {
+    struct {
+        CSize sizePicture, sizeClient;
+        CDeviceMode mode;
+        CPlaced picture, sheet;
+    } const kCases[] = {
+        {{300, 200}, {200, 400}, {9, {}, kUp}, {40, 160, 120, 80}, {-41, 0, 282, 400}},
+        {{300, 200}, {200, 400}, {9, {}, kLying}, {38, 159, 123, 82}, {-100, 59, 400, 282}},
+        {{640, 480}, {400, 200}, {9, {}, kLying}, {134, 50, 132, 99}, {100, 29, 200, 141}},
+        {{300, 200}, {336, 336}, {256, {65535, 1}, kUp}, {168, 168, 0, 0}, {0, 168, 336, 0}},
+        {{300, 200}, {336, 336}, {256, {1, 65535}, kUp}, {168, 168, 0, 0}, {168, 0, 0, 336}},
+        {{300, 200}, {336, 336}, {256, {65535, 65535}, kUp}, {168, 168, 0, 0}, {0, 0, 336, 336}},
+        {{300, 200}, {336, 336}, {256, {0, 0}, kUp}, {118, 134, 100, 67}, {49, 0, 237, 336}},
+        // The margin is wider than the paper.
+        {{300, 200}, {336, 336}, {256, {10, 297}, kUp}, {173, 171, -11, -7}, {162, 0, 11, 336}},
+    };
+    for (const auto& row : kCases) {
+        SCOPED_TRACE(testing::Message() << row.mode.sizeOwn.cx << " x " << row.mode.sizeOwn.cy);
+        const CPreviewLayout layout = LayOutPreview(row.sizePicture, row.sizeClient, row.mode);
+        EXPECT_EQ(layout.rcPicture, CRect(row.picture));
+        EXPECT_EQ(layout.rcSheet, CRect(row.sheet));
+    }
+}
+
 TEST(Page, PrintIsReckonedAsA4WithinWhatThePrinterReaches) {
     struct {
         CSize sizePicture, sizeDpi, sizePrintable;

@@ -49,7 +49,7 @@ TEST_F(ProgramTest, PlaysThePrint) {
     const CPixels page = PixelsOf("page.ppm");
     ASSERT_EQ(page.Height(), 878);
     EXPECT_EQ(PixelAt(page, 29, 239), CColor(255, 255, 255));
-    EXPECT_EQ(PixelAt(page, 30, 239), PixelAt(NumberedPixels(700, 500), 0, 0));
+    EXPECT_EQ(PixelAt(page, 30, 239), PixelAt(NumberedPixels(700, 500), 0, 1));
     EXPECT_EQ(PixelAt(page, 590, 638), PixelAt(NumberedPixels(700, 500), 699, 499));
 }
 

@@ -5,8 +5,8 @@
 namespace {
 
 struct CPaper {
-    const char* szName;  // for the reader: nobody shows it
-    CSize size;          // millimetres
+    const char* szName = "";  // for the reader: nobody shows it
+    CSize size;               // millimetres
 };
 
 constexpr CSize kA4{210, 297};

@@ -40,7 +40,7 @@ void AddPreview(CSteps& steps, const QString& strName, CTourPrinters& printers, 
                          person.Click(kCmdPrint);
                      },
                      [looks](CPerson& person) {
-                         const QString strWrong = CheckPreview(person);
+                         QString strWrong = CheckPreview(person);
                          if (!strWrong.isEmpty()) return strWrong;
                          looks->imageLast = person.LookAt(kPrintView);
                          return Unless(!HasDate(looks->imageLast), "there is a date already");

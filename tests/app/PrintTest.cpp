@@ -50,11 +50,11 @@ TEST_F(PrintTest, ThePreviewLaysThePictureOnTheSheet) {
         EXPECT_EQ(Cut(plain, CRect::FromPlace(138, 144, 59, 48)),
                   NaiveResample(NumberedPixels(176, 144), 59, 48));
         // The sheet: black edge, white inside; beside it the desk.
-        EXPECT_EQ(PixelAt(plain, 49, 0), CColor(0, 0, 0));
-        EXPECT_EQ(PixelAt(plain, 285, 335), CColor(0, 0, 0));
-        EXPECT_EQ(PixelAt(plain, 50, 1), CColor(255, 255, 255));
+        EXPECT_EQ(PixelAt(plain, 49, 0), (CColor{0, 0, 0}));
+        EXPECT_EQ(PixelAt(plain, 285, 335), (CColor{0, 0, 0}));
+        EXPECT_EQ(PixelAt(plain, 50, 1), (CColor{255, 255, 255}));
         EXPECT_EQ(PixelAt(plain, 48, 0), PixelAt(plain, 286, 335));
-        EXPECT_NE(PixelAt(plain, 48, 0), CColor(255, 255, 255));
+        EXPECT_NE(PixelAt(plain, 48, 0), (CColor{255, 255, 255}));
         // The date, by the box and by its label
         EXPECT_EQ(host.Click(kPrintDate), "");
         EXPECT_GT(CountOf(Shown(host), kRed), 0);
@@ -128,7 +128,7 @@ TEST_F(PrintTest, ThePageHasThePictureAtThePrintersDots) {
         for (int x = 0; x < page.Width(); ++x) {
             const CPoint pt{x * 5 - layout.rcPicture.left, y * 5 - layout.rcPicture.top};
             const bool bInside = CRect::FromPlace(0, 0, whole.Width(), whole.Height()).Contains(pt);
-            ASSERT_EQ(PixelAt(page, x, y), bInside ? PixelAt(whole, pt.x, pt.y) : CColor(255, 255, 255));
+            ASSERT_EQ(PixelAt(page, x, y), bInside ? PixelAt(whole, pt.x, pt.y) : (CColor{255, 255, 255}));
         }
 }
 

@@ -48,7 +48,7 @@ TEST_F(ProgramTest, PlaysThePrint) {
     // 600 dots an inch, one of eight kept each way: the picture begins with its first pixel on white.
     const CPixels page = PixelsOf("page.ppm");
     ASSERT_EQ(page.Height(), 878);
-    EXPECT_EQ(PixelAt(page, 29, 239), CColor(255, 255, 255));
+    EXPECT_EQ(PixelAt(page, 29, 239), (CColor{255, 255, 255}));
     EXPECT_EQ(PixelAt(page, 30, 239), PixelAt(NumberedPixels(700, 500), 0, 1));
     EXPECT_EQ(PixelAt(page, 590, 638), PixelAt(NumberedPixels(700, 500), 699, 499));
 }

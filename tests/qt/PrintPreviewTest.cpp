@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QFontInfo>
 #include <QMessageBox>
+#include <algorithm>
 
 #include "PrintedPage.h"
 #include "TestDialog.h"
@@ -120,6 +121,11 @@ TEST_F(PrintPreview, TheDateHasItsOwnFace) {
         const CTextMask mask = text.Rasterize({"Tahoma", stamp.nSize, 400, false, false}, "2006.01.02");
         EXPECT_LE(mask.nWidth, stamp.nReserved) << stamp.nSize;
         EXPECT_GT(mask.nWidth, stamp.nReserved * 3 / 4) << stamp.nSize;
+        // Digits stand on their line: below it is as much room as the face has for descents.
+        const auto itLast =
+            std::find_if(mask.coverage.rbegin(), mask.coverage.rend(), [](auto n) { return n > 127; });
+        const auto nBelow = static_cast<int>((itLast - mask.coverage.rbegin()) / mask.nWidth);
+        EXPECT_NEAR(nBelow, stamp.nSize * 423 / (2049 + 423), 2) << stamp.nSize;
     }
     const CTempFolder folder;
     CFilePrinters printers(folder.Path("a.pdf"));

@@ -98,7 +98,7 @@ TEST_F(PrintQueue, TheDialogOffersNoPagesNoSelectionAndNoFile) {
         }
         const auto* pPrinters = window.findChild<QComboBox*>("printers");
         ASSERT_NE(pPrinters, nullptr);
-        EXPECT_EQ(pPrinters->count(), 1);
+        EXPECT_EQ(pPrinters->count(), 2);
         EXPECT_EQ(pPrinters->currentText(), "Card");
         window.reject();
     });

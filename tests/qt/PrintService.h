@@ -22,8 +22,9 @@ inline void UsePrintService(const std::string& strSocket) {
     fnSet(strSocket.c_str());
 }
 
-// A print service of the test's own with one queue, "Card", that prints at 300 dots an inch.
-// What is printed lands in a file. The service hears on a socket in its folder, and ends with the test.
+// A print service of the test's own with the queue "Card", that prints at 300 dots an inch, and another that
+// is not the default one. What is printed lands in a file. The service hears on a socket in its folder, and
+// ends with the test.
 class CPrintService {
   public:
     explicit CPrintService(std::string strPaper = "A6", int nOrientation = 4)
@@ -104,7 +105,9 @@ inline void CPrintService::WriteQueue(bool bAccepting) const {
     m_folder.Write("printers.conf",
                    "<DefaultPrinter Card>\nInfo Card\nDeviceURI keep:/\nState Idle\nShared No\nAccepting " +
                        std::string(bAccepting ? "Yes" : "No") + "\nOption orientation-requested " +
-                       std::to_string(m_nOrientation) + "\n</DefaultPrinter>\n");
+                       std::to_string(m_nOrientation) +
+                       "\n</DefaultPrinter>\n<Printer Album>\nInfo Album\nDeviceURI keep:/\nState Idle\n"
+                       "Shared No\nAccepting Yes\n</Printer>\n");
     // What prints is a script that keeps the document; services run none that others may write.
     const std::string strKeep = m_folder.Write(
         "bin/backend/keep", "#!/bin/sh\n[ $# = 0 ] && exit 0\nprintf %s \"$4\" > " + m_folder.Path("copies") +

@@ -80,6 +80,10 @@ TEST(Page, OddWindowsAndPapersAreReckonedAsWell) {
         {{300, 200}, {336, 336}, {256, {1, 65535}, kUp}, {168, 168, 0, 0}, {168, 0, 0, 336}},
         {{300, 200}, {336, 336}, {256, {65535, 65535}, kUp}, {168, 168, 0, 0}, {0, 0, 336, 336}},
         {{300, 200}, {336, 336}, {256, {0, 0}, kUp}, {118, 134, 100, 67}, {49, 0, 237, 336}},
+        // Paper that is square, and paper on which the height is what limits the picture
+        {{300, 200}, {400, 200}, {256, {100, 100}, kUp}, {111, 41, 178, 118}, {0, -100, 400, 400}},
+        {{300, 900}, {336, 336}, {4, {}, kUp}, {136, 70, 63, 195}, {0, 59, 336, 217}},
+        {{600, 900}, {336, 336}, {19, {}, kLying}, {127, 106, 82, 124}, {0, 95, 336, 146}},
         // The margin is wider than the paper.
         {{300, 200}, {336, 336}, {256, {10, 297}, kUp}, {173, 171, -11, -7}, {162, 0, 11, 336}},
     };
@@ -190,7 +194,7 @@ TEST(Page, StripsAreCutOutOfTheWholePicture) {
         // No wider than its room, whatever the face would like.
         const CColor crBeside = whole.View().Get(std::max(0, size.cx - 26), size.cy - 10);
         EXPECT_EQ(whole.View().Get(size.cx - 1, size.cy - 10), (CColor{255, 79, 64}));
-        EXPECT_EQ(crBeside == CColor(255, 79, 64), size.cx <= 25);
+        EXPECT_EQ(crBeside == (CColor{255, 79, 64}), size.cx <= 25);
     }
     EXPECT_EQ(text.m_font, (CTextFont{"Tahoma", 9, 400, false, false}));
     EXPECT_TRUE(CPagePicture(image, {0, 5}, text).Whole().IsEmpty());

@@ -1,34 +1,12 @@
-#include <signal.h>
-#include <sys/resource.h>
-
 #include <filesystem>
 
 #include "app/Workshop.h"
+#include "support/FullDisk.h"
 
 namespace {
 
 const CMessageBox kSaveFailed{"Error: Saving a File", "Orvo Fotarium V 1.0", EBoxIcon::Exclamation,
                               EBoxButtons::Ok};
-
-// No file of the process grows beyond that many bytes, as on a disk that is full.
-class CFullDisk {
-  public:
-    explicit CFullDisk(rlim_t nBytes) : m_pHandlerBefore(::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &m_limitBefore);
-        const rlimit limit{nBytes, m_limitBefore.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~CFullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &m_limitBefore);
-        ::signal(SIGXFSZ, m_pHandlerBefore);
-    }
-    CFullDisk(const CFullDisk&) = delete;
-    CFullDisk& operator=(const CFullDisk&) = delete;
-
-  private:
-    sighandler_t m_pHandlerBefore;
-    rlimit m_limitBefore{};
-};
 
 class SaveTest : public Workshop {
   protected:

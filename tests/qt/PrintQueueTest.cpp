@@ -9,11 +9,11 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-#include "FullDisk.h"
 #include "PrintService.h"
 #include "PrintedPage.h"
 #include "TestDialog.h"
 #include "qt/QtPlatform.h"
+#include "support/FullDisk.h"
 
 namespace {
 

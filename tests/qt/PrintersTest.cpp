@@ -6,10 +6,10 @@
 #include <filesystem>
 #include <random>
 
-#include "FullDisk.h"
 #include "PrintedPage.h"
 #include "qt/PaperNumbers.h"
 #include "qt/PdfDevice.h"
+#include "support/FullDisk.h"
 #include "support/TempFolder.h"
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "app/PaintWorkshop.h"
 #include "engines/page/PagePicture.h"
+#include "resources/BitmapIds.h"
 
 namespace {
 
@@ -66,6 +67,21 @@ TEST_F(PrintTest, ThePreviewLaysThePictureOnTheSheet) {
     });
     EXPECT_EQ(Snapshot(), before);
     EXPECT_EQ(Printers().Documents(), 0);
+}
+
+TEST_F(PrintTest, TheDialogStandsOnItsGround) {
+    struct CNotedBitmaps : CBitmaps {
+        const CxImage* Find(const std::string& strName, int /*nDensity*/) override {
+            bGround = bGround || strName == std::to_string(kBmpPrint);
+            return nullptr;
+        }
+        bool bGround = false;
+    } bitmaps;
+    OpenNumbered(176, 144);
+    m_platform.SetBitmaps(&bitmaps);
+    Print([](CPlayHost& host) { host.Pump(); });
+    EXPECT_TRUE(bitmaps.bGround);
+    m_platform.SetBitmaps(nullptr);
 }
 
 TEST_F(PrintTest, TinyDigitsAreAskedAboutOnceATick) {
